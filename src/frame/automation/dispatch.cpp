@@ -171,6 +171,8 @@ QVariant invoke(QObject *object, const QVariant &memberIdOrName, const QVariantL
     case MemberKind::Method:
         return call(object, name, args);
     case MemberKind::PropertyGet:
+        if (!args.isEmpty())
+            throw LumoError(LumoError::InvalidArgument, QStringLiteral("属性只读：%1").arg(name), source);
         return getProperty(object, name);
     case MemberKind::PropertyPut:
         if (args.size() != 1)

@@ -15,6 +15,17 @@ struct TypeLibraryMember
     quint32 id;
     const char *name;
     MemberKind kind;
+    const char *type;       // the property's or the result's Qt type name ("void" for none)
+    const char *parameters; // published parameter names, comma-separated
+    // Published but arriving with a later piece of the library; the class does not have it yet.
+    bool pending = false;
+};
+
+struct TypeLibraryEvent
+{
+    quint32 id;
+    const char *name;
+    const char *parameters;
 };
 
 struct TypeLibraryClass
@@ -25,6 +36,7 @@ struct TypeLibraryClass
     const char *interfaceId;
     const char *eventInterfaceId; // empty when the class raises no events
     QList<TypeLibraryMember> members;
+    QList<TypeLibraryEvent> events;
 };
 
 // Published type libraries, so that a host can bind by member id as well as by name.

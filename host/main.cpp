@@ -1,0 +1,93 @@
+#include "accountsession.h"
+#include "logindialog.h"
+#include "scripthost.h"
+#include "suitewindow.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFont>
+#include <QFontDatabase>
+
+#include <cstdio>
+
+namespace {
+
+const QString DefaultUser = QStringLiteral("演示员");
+const QString EntryControl = QStringLiteral("LumoICInitialCtl.ICInitCtl");
+
+void fail(const QString &message)
+{
+    std::fprintf(stderr, "lumo-suite: %s\n", message.toUtf8().constData());
+}
+
+// A script run without a display uses the offscreen platform.
+void chooseHeadlessPlatform(int argc, char **argv)
+{
+    bool script = false;
+    for (int i = 1; i < argc; ++i)
+        script = script || qstrcmp(argv[i], "--script") == 0;
+    if (script && qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+        && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    chooseHeadlessPlatform(argc, argv);
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("lumo-suite"));
+    QApplication::setOrganizationName(QStringLiteral("Lumo"));
+    QFont font(QStringLiteral("WenQuanYi Micro Hei"));
+    font.setPointSize(9);
+    QApplication::setFont(font);
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("The suite host of the inventory opening-balance controls."));
+    parser.addHelpOption();
+    const QCommandLineOption demo(QStringLiteral("demo"), QStringLiteral("Use (and create on first use) the demo account set."));
+    const QCommandLineOption accountSet(QStringLiteral("account-set"), QStringLiteral("The account set: a file or a postgresql:// URI."), QStringLiteral("PATH"));
+    const QCommandLineOption user(QStringLiteral("user"), QStringLiteral("The user to log in as."), QStringLiteral("NAME"), DefaultUser);
+    const QCommandLineOption script(QStringLiteral("script"), QStringLiteral("Run a JavaScript file instead of waiting for a person."), QStringLiteral("FILE.js"));
+    const QCommandLineOption open(QStringLiteral("open"), QStringLiteral("Open a control at start (ProgID)."), QStringLiteral("PROGID"));
+    parser.addOptions({demo, accountSet, user, script, open});
+    parser.process(app);
+
+    QString path = parser.value(accountSet);
+    if (parser.isSet(demo)) {
+        path = path.isEmpty() ? AccountSetup::demoAccountSetPath() : path;
+        QString error;
+        if (!AccountSetup::ensureDemoAccountSet(path, &error)) {
+            fail(error);
+            return 2;
+        }
+    }
+
+    AccountSession session;
+    if (!path.isEmpty()) {
+        QString error;
+        if (!AccountSetup::logIn(path, parser.value(user), &session, &error)) {
+            fail(error);
+            return 2;
+        }
+    } else if (parser.isSet(script)) {
+        fail(QStringLiteral("a script needs --demo or --account-set PATH"));
+        return 2;
+    } else {
+        LoginDialog login(AccountSetup::demoAccountSetPath(), parser.value(user));
+        if (login.exec() != QDialog::Accepted)
+            return 0;
+        session = login.session();
+    }
+    AccountSetup::publish(session);
+
+    SuiteWindow suite(session.accountSet, session.userName);
+    if (parser.isSet(script)) {
+        suite.show();
+        return runScript(parser.value(script), suite);
+    }
+    suite.show();
+    suite.openControl(parser.value(open).isEmpty() ? EntryControl : parser.value(open));
+    return app.exec();
+}

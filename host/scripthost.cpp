@@ -1,0 +1,248 @@
+#include "scripthost.h"
+
+#include "controlframe.h"
+#include "suitewindow.h"
+
+#include "frame/barlist.h"
+
+#include "frame/automation/componentregistry.h"
+#include "frame/automation/dispatch.h"
+#include "frame/automation/lumoerror.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJSEngine>
+#include <QPixmap>
+#include <QTextStream>
+
+#include <cstdio>
+
+namespace {
+
+// Controls and their child collections are wrapped so that `control.Controls.tvICInit` reaches a
+// child by its object name, and service objects so that their errors become script exceptions.
+const char *const prelude = R"JS(
+(function (host) {
+    function bindAll(target, value) { return typeof value === 'function' ? value.bind(target) : value; }
+    globalThis.print = function (...args) { host.print(args.map(String).join(' ')); };
+    globalThis.__wrapControls = function (collection) {
+        return new Proxy(collection, {
+            get(t, p) {
+                if (typeof p === 'string' && !(p in t)) {
+                    const child = t.Item(p);
+                    if (child) return child;
+                }
+                return bindAll(t, t[p]);
+            }
+        });
+    };
+    globalThis.__wrapControl = function (control) {
+        return new Proxy(control, {
+            get(t, p) {
+                if (p === 'Controls') return __wrapControls(t.Controls);
+                if (p === '__target') return t;
+                return bindAll(t, t[p]);
+            },
+            set(t, p, v) { t[p] = v; return true; }
+        });
+    };
+    globalThis.__wrapService = function (object) {
+        return new Proxy(object, {
+            get(t, p) {
+                if (p === '__target') return t;
+                const v = t[p];
+                if (typeof v === 'function')
+                    return function (...args) { return host.invoke(t, p, args); };
+                return v;
+            },
+            set(t, p, v) { t[p] = v; return true; }
+        });
+    };
+})
+)JS";
+
+QVariant fromScript(const QJSValue &value)
+{
+    if (value.isQObject()) {
+        QObject *object = value.toQObject();
+        return QVariant::fromValue(object);
+    }
+    if (value.isObject() && value.hasProperty(QStringLiteral("__target")))
+        return QVariant::fromValue(value.property(QStringLiteral("__target")).toQObject());
+    return value.toVariant();
+}
+
+QObject *objectOf(const QJSValue &value)
+{
+    return fromScript(value).value<QObject *>();
+}
+
+} // namespace
+
+ScriptHost::ScriptHost(QJSEngine &engine, SuiteWindow &suite, QObject *parent)
+    : QObject(parent)
+    , m_engine(engine)
+    , m_suite(suite)
+    , m_installed(&m_prompter)
+{
+}
+
+QJSValue ScriptHost::raise(const QString &message)
+{
+    m_engine.throwError(QJSValue::GenericError, message);
+    return {};
+}
+
+QJSValue ScriptHost::createObject(const QString &progId)
+{
+    try {
+        QObject *object = CreateObject(progId).release();
+        QJSValue wrapped = m_engine.newQObject(object);
+        const char *wrapper = qobject_cast<QWidget *>(object) ? "__wrapControl" : "__wrapService";
+        return m_engine.globalObject().property(QString::fromLatin1(wrapper)).call({wrapped});
+    } catch (const LumoError &error) {
+        return raise(error.description());
+    }
+}
+
+QJSValue ScriptHost::openControl(const QString &progId)
+{
+    QWidget *control = m_suite.openControl(progId);
+    if (!control)
+        return raise(QStringLiteral("控件没有打开：%1").arg(progId));
+    QJSEngine::setObjectOwnership(control, QJSEngine::CppOwnership);
+    return m_engine.globalObject().property(QStringLiteral("__wrapControl")).call({m_engine.newQObject(control)});
+}
+
+bool ScriptHost::closeControl(const QJSValue &control)
+{
+    ControlFrame *frame = m_suite.frameOf(qobject_cast<QWidget *>(objectOf(control)));
+    return frame && frame->close();
+}
+
+QJSValue ScriptHost::invoke(const QJSValue &target, const QJSValue &memberIdOrName, const QJSValue &args)
+{
+    QObject *object = objectOf(target);
+    QVariantList list;
+    const int length = args.property(QStringLiteral("length")).toInt();
+    for (int i = 0; i < length; ++i)
+        list.append(fromScript(args.property(quint32(i))));
+    try {
+        const QVariant member = memberIdOrName.isNumber() ? QVariant(quint32(memberIdOrName.toUInt()))
+                                                          : QVariant(memberIdOrName.toString());
+        const QVariant result = Dispatch::invoke(object, member, list);
+        if (QObject *returned = result.value<QObject *>()) {
+            QJSValue wrapped = m_engine.newQObject(returned);
+            return m_engine.globalObject().property(QStringLiteral("__wrapService")).call({wrapped});
+        }
+        return m_engine.toScriptValue(result);
+    } catch (const LumoError &error) {
+        return raise(error.description());
+    }
+}
+
+bool ScriptHost::command(const QJSValue &target, const QString &key)
+{
+    QObject *control = objectOf(target);
+    auto *bars = control ? control->findChild<BarList *>(QStringLiteral("BarList")) : nullptr;
+    return bars && bars->Click(key);
+}
+
+void ScriptHost::answer(const QString &text)
+{
+    try {
+        m_prompter.queueAnswer(Prompter::answerFromName(text));
+    } catch (const std::invalid_argument &) {
+        raise(QStringLiteral("未知的回答：%1（可用 Yes、No、OK、Cancel）").arg(text));
+    }
+}
+
+QJSValue ScriptHost::messages() const
+{
+    QJSValue list = m_engine.newArray(quint32(m_prompter.messages().size()));
+    quint32 i = 0;
+    for (const Prompter::Message &message : m_prompter.messages()) {
+        QJSValue entry = m_engine.newObject();
+        entry.setProperty(QStringLiteral("caption"), message.caption);
+        entry.setProperty(QStringLiteral("text"), message.text);
+        entry.setProperty(QStringLiteral("buttons"), Prompter::buttonsName(message.buttons));
+        entry.setProperty(QStringLiteral("icon"), Prompter::iconName(message.icon));
+        list.setProperty(i++, entry);
+    }
+    return list;
+}
+
+void ScriptHost::clearMessages()
+{
+    m_prompter.clear();
+}
+
+bool ScriptHost::screenshot(const QString &path)
+{
+    processEvents();
+    const QFileInfo info(path);
+    QDir().mkpath(info.absolutePath());
+    return m_suite.grab().save(path);
+}
+
+void ScriptHost::processEvents()
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+}
+
+void ScriptHost::exit(int code)
+{
+    m_exitRequested = true;
+    m_exitCode = code;
+    m_engine.setInterrupted(true);
+}
+
+QString ScriptHost::propsString() const
+{
+    try {
+        const std::unique_ptr<QObject> share = CreateObject(QStringLiteral("LumoPropsMgr.ShareProps"));
+        return Dispatch::call(share.get(), QStringLiteral("GetProperty"),
+                              {qint32(QCoreApplication::applicationPid()), QStringLiteral("PropsString")})
+            .toString();
+    } catch (const LumoError &) {
+        return {};
+    }
+}
+
+void ScriptHost::print(const QString &line)
+{
+    std::fprintf(stdout, "%s\n", line.toUtf8().constData());
+    std::fflush(stdout);
+}
+
+int runScript(const QString &file, SuiteWindow &suite)
+{
+    QFile in(file);
+    if (!in.open(QIODevice::ReadOnly)) {
+        std::fprintf(stderr, "lumo-suite: cannot read %s\n", qPrintable(file));
+        return 2;
+    }
+    const QString source = QString::fromUtf8(in.readAll());
+
+    QJSEngine engine;
+    engine.installExtensions(QJSEngine::ConsoleExtension);
+    ScriptHost host(engine, suite);
+    QJSEngine::setObjectOwnership(&host, QJSEngine::CppOwnership);
+    const QJSValue hostValue = engine.newQObject(&host);
+    engine.globalObject().setProperty(QStringLiteral("host"), hostValue);
+    engine.evaluate(QString::fromUtf8(prelude)).call({hostValue});
+
+    const QJSValue result = engine.evaluate(source, file);
+    if (host.exitRequested())
+        return host.exitCode();
+    if (result.isError()) {
+        std::fprintf(stderr, "%s:%d: %s\n", qPrintable(file), result.property(QStringLiteral("lineNumber")).toInt(),
+                     qPrintable(result.toString()));
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "frame/prompter.h"
+
+#include <QJSValue>
+#include <QObject>
+#include <QVariantList>
+
+class QJSEngine;
+class SuiteWindow;
+
+// The object a script sees as `host`: it creates objects and opens controls as the suite does,
+// calls members late-bound, answers the message boxes, takes screenshots.
+class ScriptHost : public QObject
+{
+    Q_OBJECT
+
+public:
+    ScriptHost(QJSEngine &engine, SuiteWindow &suite, QObject *parent = nullptr);
+
+    Q_INVOKABLE QJSValue createObject(const QString &progId);
+    Q_INVOKABLE QJSValue openControl(const QString &progId);
+    // Closes the control's frame: the control is told "QueryUnload" first.
+    Q_INVOKABLE bool closeControl(const QJSValue &control);
+    Q_INVOKABLE QJSValue invoke(const QJSValue &object, const QJSValue &memberIdOrName, const QJSValue &args);
+    // Presses a menu or toolbar key of a control, as a person's click does.
+    Q_INVOKABLE bool command(const QJSValue &control, const QString &key);
+    Q_INVOKABLE void answer(const QString &text);
+    Q_INVOKABLE QJSValue messages() const;
+    Q_INVOKABLE void clearMessages();
+    Q_INVOKABLE bool screenshot(const QString &path);
+    Q_INVOKABLE void processEvents();
+    Q_INVOKABLE void exit(int code);
+    Q_INVOKABLE QString propsString() const;
+    // print(...): the arguments joined by blanks on standard output.
+    Q_INVOKABLE void print(const QString &line);
+
+    bool exitRequested() const { return m_exitRequested; }
+    int exitCode() const { return m_exitCode; }
+
+private:
+    QJSValue raise(const QString &message);
+
+    QJSEngine &m_engine;
+    SuiteWindow &m_suite;
+    ScriptedPrompter m_prompter;
+    ScopedPrompter m_installed;
+    bool m_exitRequested = false;
+    int m_exitCode = 0;
+};
+
+// Runs a script file; the process's exit status. An uncaught exception is written to stderr.
+int runScript(const QString &file, SuiteWindow &suite);

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QPointer>
+
+class ControlFrame;
+class QMdiArea;
+class QMdiSubWindow;
+class QToolBar;
+
+// The suite's main window: frames that host the controls, the suite's menus, and the active
+// control's menus and toolbar drawn from its BarList.
+class SuiteWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    SuiteWindow(const QString &accountSet, const QString &userName, QWidget *parent = nullptr);
+
+    // Creates the control, puts it in a new frame and shows it with the frame's host window.
+    // Null (and the frame closed) when the control cannot be made or refuses to show.
+    QWidget *openControl(const QString &progId);
+    ControlFrame *frameOf(const QWidget *control) const;
+    QMdiArea *mdiArea() const { return m_mdi; }
+
+private:
+    void buildSuiteMenu();
+    void redrawControlBars();
+    ControlFrame *activeFrame() const;
+
+    QMdiArea *m_mdi;
+    QToolBar *m_controlToolBar;
+    QList<QAction *> m_controlMenus;
+    QPointer<ControlFrame> m_shownFrame;
+};

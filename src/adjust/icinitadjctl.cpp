@@ -1,0 +1,87 @@
+#include "icinitadjctl.h"
+
+#include "frame/barlist.h"
+#include "frame/errorbox.h"
+#include "frame/librarystate.h"
+#include "frame/logincontext.h"
+#include "frame/netcontrol.h"
+#include "frame/sysparams.h"
+
+#include "frame/automation/lumoerror.h"
+#include "frame/automation/recordset.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+
+const QString AdjustTitle = QStringLiteral("期初成本调整");
+const QString ExitKey = QStringLiteral("mcExit");
+const QString ResourceSet = QStringLiteral("ICInitAdjCtl");
+
+} // namespace
+
+ICInitAdjCtl::ICInitAdjCtl(QWidget *parent)
+    : InitControl(parent)
+    , m_title(new QLabel(this))
+{
+    setObjectName(QStringLiteral("ICInitAdjCtl"));
+    m_title->setObjectName(QStringLiteral("lblTitle"));
+    m_title->setAlignment(Qt::AlignCenter);
+    QFont font = m_title->font();
+    font.setPointSizeF(font.pointSizeF() * 1.6);
+    font.setBold(true);
+    m_title->setFont(font);
+    m_title->setText(ResString(AdjustTitle));
+    bodyLayout()->addWidget(m_title);
+    bodyLayout()->addStretch(1);
+
+    BarList::Item exit;
+    exit.key = ExitKey;
+    exit.caption = ResString(QStringLiteral("退出"));
+    exit.menu = ResString(QStringLiteral("文件(&F)"));
+    barList()->addItem(exit);
+}
+
+ICInitAdjCtl::~ICInitAdjCtl() = default;
+
+void ICInitAdjCtl::SetOperator(int oID, const QString &oName)
+{
+    LibraryState::instance().operatorId = oID;
+    LibraryState::instance().operatorName = oName;
+}
+
+bool ICInitAdjCtl::Show(QObject *ParentWnd, bool blnIstest)
+{
+    takeLoginContext();
+    try {
+        SetFormFont(Controls());
+        LoadFormStrings(this, m_formOptions, ResourceSet);
+        if (!blnIstest) {
+            setTaskHandle(ExecFunc(EntryTaskId, QString::fromLatin1(EntryFuncCode), 0, 0));
+            if (!ParentWnd)
+                return false;
+            bindHost(ParentWnd);
+        }
+        LoadSysParams(DataAdjProgId);
+        LibraryState::instance().periodOpen = !SysParams::toBool(SysParam::ICClosed);
+        m_units = FetchMeasureUnits(DataAdjProgId);
+        loadViewSettings();
+    } catch (const LumoError &error) {
+        reportProcedureError(QStringLiteral("Show"), error);
+        return false;
+    }
+    CommitTask(taskHandle());
+    return true;
+}
+
+QObject *ICInitAdjCtl::SetSystemFontName()
+{
+    return GetFontProps().release();
+}
+
+void ICInitAdjCtl::runCommand(const QString &key)
+{
+    if (key == ExitKey)
+        closeHostFrame();
+}

@@ -1,0 +1,33 @@
+# LumoICInitialCtl: the controls, their public classes, dialogs, grid and printing.
+add_library(LumoICInitialCtl SHARED
+  frame/barlist.cpp frame/barlist.h
+  frame/controlcollection.cpp frame/controlcollection.h
+  frame/errorbox.cpp frame/errorbox.h
+  frame/icinitface.h
+  frame/icinitstatus.cpp frame/icinitstatus.h
+  frame/icinitstruct.cpp frame/icinitstruct.h
+  frame/inifile.cpp frame/inifile.h
+  frame/initcontrol.cpp frame/initcontrol.h
+  frame/librarystate.cpp frame/librarystate.h
+  frame/logincontext.cpp frame/logincontext.h
+  frame/lumoicinitial_global.h
+  frame/messages.h
+  frame/netcontrol.cpp frame/netcontrol.h
+  frame/prompter.cpp frame/prompter.h
+  frame/qllogmsg.cpp frame/qllogmsg.h
+  frame/registration.cpp
+  frame/settingsstore.cpp frame/settingsstore.h
+  frame/statuspanels.cpp frame/statuspanels.h
+  frame/sysparams.cpp frame/sysparams.h
+  frame/typelibrary.cpp frame/typelibrary.h
+  entry/entrycommands.cpp entry/entrycommands.h
+  entry/entrygridlayout.cpp entry/entrygridlayout.h
+  entry/icinitctl.cpp entry/icinitctl.h
+  entry/navtree.cpp entry/navtree.h
+  entry/warehousetable.cpp entry/warehousetable.h
+  adjust/icinitadjctl.cpp adjust/icinitadjctl.h
+  print/icinitprint.cpp print/icinitprint.h
+)
+target_compile_definitions(LumoICInitialCtl PRIVATE LUMOICINITIAL_LIBRARY)
+target_include_directories(LumoICInitialCtl PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+target_link_libraries(LumoICInitialCtl PUBLIC LumoAutomation LumoGrid Qt6::Widgets PRIVATE Qt6::PrintSupport)

@@ -1,0 +1,98 @@
+#include "entrygridlayout.h"
+
+#include "frame/logincontext.h"
+
+#include "grid/cellmodel.h"
+#include "grid/spreadconsole.h"
+#include "grid/spreadgrid.h"
+
+#include <QColor>
+
+namespace {
+
+constexpr int IndustryColourSize = 1;
+
+const char *const headers[EntryCol::Count] = {
+    "", "", "FItemID", "物料代码", "物料名称", "规格型号", "单位", "换算率", "辅助单位", "计价方法", "辅助属性",
+    "批次/顺序号", "年初数量", "年初数量(辅助)", "年初金额", "年初差异", "本年累计收入数量", "本年累计收入数量(辅助)",
+    "本年累计收入金额", "本年累计收入差异", "本年累计发出数量", "本年累计发出数量(辅助)", "本年累计发出金额",
+    "本年累计发出差异", "期初数量", "期初数量(辅助)", "期初金额", "期初差异", "入库日期", "生产/采购日期",
+    "保质期(天)", "FUnitID", "标志位", "", "", "", ""};
+
+const int hiddenWhenBuilt[] = {EntryCol::ItemID, EntryCol::SecUnit, EntryCol::YtdBegAuxQty, EntryCol::YtdBegDiff,
+                               EntryCol::ReceiveAuxQty, EntryCol::ReceiveDiff, EntryCol::SendAuxQty,
+                               EntryCol::SendDiff, EntryCol::BegAuxQty, EntryCol::BegDiff, EntryCol::UnitID,
+                               EntryCol::Flag, EntryCol::AuxPropID, EntryCol::AuxClassID, EntryCol::SecUnitID,
+                               EntryCol::FieldCompose};
+
+const QColor HeaderShade(174, 198, 230);
+const QColor GridLines(162, 162, 162);
+const QColor Selection(10, 36, 106);
+
+int defaultWidth(int col)
+{
+    switch (col) {
+    case EntryCol::Mark: return 22;
+    case EntryCol::Number: return 110;
+    case EntryCol::Name: return 150;
+    case EntryCol::Model: return 110;
+    case EntryCol::Unit: return 56;
+    case EntryCol::Track: return 90;
+    case EntryCol::AuxProp: return 90;
+    case EntryCol::Batch: return 100;
+    case EntryCol::StockInDate: case EntryCol::KFDate: return 96;
+    default: return 110;
+    }
+}
+
+} // namespace
+
+namespace EntryGridLayout {
+
+QString headerText(int col, int industryType)
+{
+    if (col < 0 || col >= EntryCol::Count)
+        return {};
+    if (industryType == IndustryColourSize && col == EntryCol::AuxProp)
+        return ResString(QStringLiteral("颜色尺码"));
+    if (industryType == IndustryColourSize && col == EntryCol::KFPeriod)
+        return {};
+    return ResString(QString::fromUtf8(headers[col]));
+}
+
+void build(SpreadGrid &grid, int industryType)
+{
+    CellModel &cells = *grid.cells();
+    cells.reset(1, EntryCol::Count);
+    for (int col = 1; col < EntryCol::Count; ++col)
+        cells.setText(0, col, headerText(col, industryType));
+    restoreWidths(grid);
+    CellStyle date;
+    date.setType(Grid::CellType::Date);
+    cells.setColStyle(EntryCol::StockInDate, date);
+    cells.setColStyle(EntryCol::KFDate, date);
+    for (int col : {EntryCol::SecCoefficient, EntryCol::YtdBegAuxQty, EntryCol::ReceiveAuxQty, EntryCol::SendAuxQty,
+                    EntryCol::BegAuxQty})
+        cells.setColStyle(col, SpreadConsole::numberStyle(0));
+    CellStyle unlocked;
+    unlocked.setLocked(false);
+    cells.setColStyle(EntryCol::StockInDate, unlocked);
+    for (int col : hiddenWhenBuilt)
+        cells.setColHidden(col, true);
+    if (industryType == IndustryColourSize) {
+        cells.setColHidden(EntryCol::Batch, true);
+        cells.setColHidden(EntryCol::KFPeriod, true);
+    }
+    grid.setHeaderColor(HeaderShade);
+    grid.setGridLineColor(GridLines);
+    grid.setSelectionColor(Selection);
+    grid.setSelectionTextColor(Qt::white);
+}
+
+void restoreWidths(SpreadGrid &grid)
+{
+    for (int col = 1; col < EntryCol::Count; ++col)
+        grid.cells()->setColWidth(col, defaultWidth(col));
+}
+
+} // namespace EntryGridLayout

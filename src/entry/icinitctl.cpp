@@ -1,0 +1,309 @@
+#include "icinitctl.h"
+
+#include "entry/entrygridlayout.h"
+#include "entry/navtree.h"
+
+#include "frame/barlist.h"
+#include "frame/errorbox.h"
+#include "frame/librarystate.h"
+#include "frame/logincontext.h"
+#include "frame/messages.h"
+#include "frame/netcontrol.h"
+#include "frame/qllogmsg.h"
+#include "frame/settingsstore.h"
+#include "frame/sysparams.h"
+
+#include "frame/automation/componentregistry.h"
+#include "frame/automation/dispatch.h"
+#include "frame/automation/lumoerror.h"
+#include "frame/automation/objectownership.h"
+#include "frame/automation/recordset.h"
+
+#include "grid/cellmodel.h"
+#include "grid/spreadgrid.h"
+
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int AppTypeStock = 2;
+const QString NodeClickLog = QStringLiteral("LumoICInitialCtl.ICInitCtl.tvICInit_NodeClick 显示初始化录入界面");
+
+// Commands whose procedures this build has; the rest stay disabled.
+bool isAvailable(EntryCommand command)
+{
+    switch (command) {
+    case EntryCommand::Exit: case EntryCommand::Refresh: case EntryCommand::Tree: case EntryCommand::OrgWidth:
+    case EntryCommand::AutoRefresh: case EntryCommand::ToolBar: case EntryCommand::ToolBarLabel:
+    case EntryCommand::StatusBar: case EntryCommand::DefaultStock:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+ICInitCtl::ICInitCtl(QWidget *parent)
+    : InitControl(parent)
+{
+    setObjectName(QStringLiteral("ICInitCtl"));
+    buildLayout();
+    fillEntryBarList(*barList());
+    // The adjustment control's commands are in the description but never shown here.
+    for (const QString &key : {QStringLiteral("mcFOutAdjBilll"), QStringLiteral("mcFStartBal"), QStringLiteral("OutBill"),
+                               QStringLiteral("Start")})
+        barList()->setVisible(key, false);
+    enableCommands();
+    // Nothing is loaded yet: nothing to save or find.
+    for (const QString &key : {EntryKeys::Save, EntryKeys::FSave, EntryKeys::Find, EntryKeys::EFind})
+        barList()->setEnabled(key, false);
+    try {
+        EntryGridLayout::build(*m_grid, GetIndustryType());
+    } catch (const LumoError &) {
+        EntryGridLayout::build(*m_grid, 0);
+    }
+    rebuildToolBar();
+}
+
+ICInitCtl::~ICInitCtl() = default;
+
+void ICInitCtl::buildLayout()
+{
+    m_title = new QLabel(this);
+    m_title->setObjectName(QStringLiteral("lblTitle"));
+    m_title->setAlignment(Qt::AlignCenter);
+    QFont titleFont = m_title->font();
+    titleFont.setPointSizeF(titleFont.pointSizeF() * 1.6);
+    titleFont.setBold(true);
+    m_title->setFont(titleFont);
+    m_title->setContentsMargins(0, 6, 0, 6);
+
+    m_modeBox = new QComboBox(this);
+    m_modeBox->setObjectName(QStringLiteral("cbInitial"));
+    m_modeBox->addItem(ResString(Msg::ModeEntry));
+    m_selectorLabel = new QLabel(this);
+    m_selectorLabel->setObjectName(QStringLiteral("lblStock"));
+    m_stockBox = new QComboBox(this);
+    m_stockBox->setObjectName(QStringLiteral("cbStock"));
+    m_stockBox->setMinimumWidth(200);
+    connect(m_stockBox, &QComboBox::activated, this, [this](int index) {
+        const int tableIndex = m_stockBox->itemData(index).toInt();
+        if (tableIndex >= 0 && tableIndex < m_stocks.size())
+            m_tree->clickNode(WarehouseTree::nodeKey(m_stocks.at(tableIndex), tableIndex == 0));
+    });
+
+    auto *selector = new QHBoxLayout;
+    selector->setContentsMargins(6, 2, 6, 4);
+    selector->addWidget(m_selectorLabel);
+    selector->addWidget(m_stockBox);
+    selector->addStretch(1);
+    selector->addWidget(m_modeBox);
+
+    m_tree = new NavTree(this);
+    m_tree->setObjectName(QStringLiteral("tvICInit"));
+    connect(m_tree, &NavTree::NodeClick, this, &ICInitCtl::tvICInit_NodeClick);
+
+    m_grid = new SpreadGrid(this);
+    m_grid->setObjectName(QStringLiteral("vsICInit"));
+
+    auto *splitter = new QSplitter(Qt::Horizontal, this);
+    splitter->setObjectName(QStringLiteral("splitter"));
+    m_treePane = m_tree;
+    splitter->addWidget(m_tree);
+    splitter->addWidget(m_grid);
+    splitter->setStretchFactor(0, 0);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({230, 900});
+
+    bodyLayout()->addWidget(m_title);
+    bodyLayout()->addLayout(selector);
+    bodyLayout()->addWidget(splitter, 1);
+}
+
+bool ICInitCtl::Show(QObject *ParentWnd, bool blnIstest)
+{
+    takeLoginContext();
+    bool shown = false;
+    try {
+        SetFormFont(Controls());
+        EntryGridLayout::build(*m_grid, GetIndustryType());
+        setMode(m_mode);
+        if (!blnIstest) {
+            setTaskHandle(ExecFunc(EntryTaskId, QString::fromLatin1(EntryFuncCode), 0, 0));
+            if (!ParentWnd)
+                return false;
+            bindHost(ParentWnd);
+        }
+        LoadSysParams(DataProgId);
+        LibraryState::instance().periodOpen = !SysParams::toBool(SysParam::ICClosed);
+        m_amountScale = FetchAmountScale();
+        m_units = FetchMeasureUnits(DataProgId);
+        loadViewSettings();
+        enableCommands();
+        LoadingStocks();
+        shown = true;
+        if (blnIstest && !m_tree->firstKey().isEmpty())
+            m_tree->clickNode(m_tree->firstKey());
+        else
+            openDefaultStock();
+    } catch (const LumoError &error) {
+        reportProcedureError(QStringLiteral("Show"), error);
+        return false;
+    }
+    CommitTask(taskHandle());
+    return shown;
+}
+
+void ICInitCtl::setMode(Mode mode)
+{
+    m_mode = mode;
+    const bool stockProduct = GetSchemeInfo() == AppTypeStock;
+    const bool entry = mode == Mode::Entry;
+    const QString title = stockProduct ? (entry ? Msg::TitleEntryStock : Msg::TitleCheckStock)
+                                       : (entry ? Msg::TitleEntryBusiness : Msg::TitleCheckBusiness);
+    m_title->setText(ResString(title));
+    m_selectorLabel->setText(ResString(entry ? Msg::SelectorStock : Msg::SelectorAccount));
+    enableCommands();
+}
+
+void ICInitCtl::enableCommands()
+{
+    BarList &bars = *barList();
+    for (const EntryCommandSpec &spec : entryCommandTable()) {
+        const bool available = isAvailable(spec.command);
+        for (const char *menuKey : spec.menuKeys)
+            bars.setEnabled(QString::fromLatin1(menuKey), available);
+        if (!QLatin1String(spec.toolKey).isEmpty())
+            bars.setEnabled(QString::fromLatin1(spec.toolKey), available);
+    }
+}
+
+void ICInitCtl::LoadingStocks()
+{
+    try {
+        QElapsedTimer timer;
+        timer.start();
+        std::unique_ptr<Recordset> stocks;
+        {
+            const std::unique_ptr<QObject> data = CreateObject(DataProgId);
+            stocks = takeObject<Recordset>(
+                Dispatch::call(data.get(), QStringLiteral("FetchStocks"), {GetPropsString(), WarehouseTree::StockTypes}));
+        }
+        if (!stocks)
+            throw LumoError(LumoError::AppBase + 30, QStringLiteral("数据服务没有返回仓库"), QStringLiteral("FetchStocks"));
+        const qint64 fetched = timer.restart();
+        m_stocks = WarehouseTree::buildTable(*stocks);
+        const qint64 built = timer.restart();
+        m_tree->clearNodes();
+        m_currentNode = -1;
+        for (const TreeNodeSpec &node : WarehouseTree::nodes(m_stocks))
+            m_tree->addNode(node.key, node.parentKey, node.text, node.tableIndex, WarehouseTree::NodeImage,
+                            WarehouseTree::SelectedImage);
+        m_tree->ensureRootVisible();
+        m_tree->expandToDepth(0);
+        fillStockList();
+        setStatusText(QStringLiteral("%1%2ms  %3%4ms  %5%6ms")
+                          .arg(ResString(Msg::FetchTime)).arg(fetched)
+                          .arg(ResString(Msg::BuildTableTime)).arg(built)
+                          .arg(ResString(Msg::BuildTreeTime)).arg(timer.elapsed()));
+        setStatusText(Msg::Ready);
+    } catch (const LumoError &error) {
+        reportProcedureError(QStringLiteral("LoadingStocks"), error);
+    }
+}
+
+void ICInitCtl::fillStockList()
+{
+    m_stockBox->clear();
+    for (int i = 1; i < m_stocks.size(); ++i) {
+        const WarehouseEntry &entry = m_stocks.at(i);
+        QString text = entry.firstText + QLatin1Char('|') + entry.thirdText;
+        if (entry.stockPlace != 0)
+            text += ResString(Msg::StockPlaceSuffix);
+        m_stockBox->addItem(text, i);
+    }
+    m_stockBox->setCurrentIndex(qBound(-1, SettingsStore::intValue(Setting::StockListIndex), m_stockBox->count() - 1));
+}
+
+void ICInitCtl::openDefaultStock()
+{
+    if (!barList()->isChecked(EntryKeys::DefaultStock) || m_stockBox->currentIndex() < 0)
+        return;
+    const int tableIndex = m_stockBox->currentData().toInt();
+    m_tree->clickNode(WarehouseTree::nodeKey(m_stocks.at(tableIndex), false));
+}
+
+void ICInitCtl::applyDefaultStockSetting()
+{
+    m_stockBox->setEnabled(true);
+}
+
+int ICInitCtl::stockListIndex() const
+{
+    return m_stockBox->currentIndex();
+}
+
+void ICInitCtl::tvICInit_NodeClick(const QString &key)
+{
+    const qint32 logHandle = LogStart(NodeClickLog);
+    try {
+        const int index = m_tree->nodeTag(key);
+        if (m_currentNode < 0)
+            m_currentNode = index;
+        setMlngPageIndex(1);
+        m_currentNode = index;
+        if (m_mode == Mode::Entry) {
+            if (index < 0 || index >= m_stocks.size())
+                throw LumoError(LumoError::AppBase + 31, QStringLiteral("下标越界：%1").arg(index),
+                                QStringLiteral("tvICInit_NodeClick"));
+            setNodeCommandsVisible(m_stocks.at(index).isStockMgr == 0);
+        }
+        barList()->setEnabled(EntryKeys::Save, false);
+        barList()->setEnabled(EntryKeys::FSave, false);
+        RefreshToolbar();
+    } catch (const LumoError &error) {
+        reportProcedureError(QStringLiteral("tvICInit_NodeClick"), error);
+    }
+    LogEnd(logHandle, 0);
+    m_grid->setFocus();
+}
+
+void ICInitCtl::setNodeCommandsVisible(bool visible)
+{
+    for (const QString &key : nodeDependentKeys())
+        barList()->setVisible(key, visible);
+}
+
+void ICInitCtl::runCommand(const QString &key)
+{
+    EntryCommand command;
+    if (!entryCommandForKey(key, &command))
+        return;
+    switch (command) {
+    case EntryCommand::Exit:
+        closeHostFrame();
+        break;
+    case EntryCommand::Refresh:
+        LoadingStocks();
+        RefreshToolbar();
+        break;
+    case EntryCommand::Tree:
+        m_treePane->setHidden(!m_treePane->isHidden());
+        break;
+    case EntryCommand::OrgWidth:
+        EntryGridLayout::restoreWidths(*m_grid);
+        break;
+    case EntryCommand::AutoRefresh: case EntryCommand::ToolBar: case EntryCommand::ToolBarLabel:
+    case EntryCommand::StatusBar: case EntryCommand::DefaultStock:
+        toggleView(key);
+        break;
+    default:
+        break;
+    }
+}

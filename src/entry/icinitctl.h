@@ -1,0 +1,74 @@
+#pragma once
+
+#include "frame/initcontrol.h"
+#include "frame/lumoicinitial_global.h"
+
+#include "entry/entrycommands.h"
+#include "entry/warehousetable.h"
+
+#include <QVector>
+
+#include <memory>
+
+class NavTree;
+class QComboBox;
+class QLabel;
+class Recordset;
+class SpreadGrid;
+
+// The entry control: the warehouse tree on the left, the entry grid on the right, for entering
+// and reconciling the opening balances of inventory.
+class LUMOICINITIAL_EXPORT ICInitCtl : public InitControl
+{
+    Q_OBJECT
+
+public:
+    enum class Mode { Entry, Check };
+
+    Q_INVOKABLE explicit ICInitCtl(QWidget *parent = nullptr);
+    ~ICInitCtl() override;
+
+    // Shows the control in its host window; false without a host window (unless testing) or when
+    // a step failed.
+    Q_INVOKABLE bool Show(QObject *ParentWnd, bool blnIstest = false);
+
+    Mode mode() const { return m_mode; }
+    const QVector<WarehouseEntry> &warehouseTable() const { return m_stocks; }
+    // The table index of the node whose rows are shown; -1 before the first click.
+    int currentNode() const { return m_currentNode; }
+    qint16 amountScale() const { return m_amountScale; }
+    Recordset *measureUnits() const { return m_units.get(); }
+    NavTree *tree() const { return m_tree; }
+    SpreadGrid *grid() const { return m_grid; }
+
+    // Builds the warehouse tree from the data service.
+    void LoadingStocks();
+    // A click on a node of the tree, by key.
+    void tvICInit_NodeClick(const QString &key);
+
+protected:
+    void runCommand(const QString &key) override;
+    void applyDefaultStockSetting() override;
+    int stockListIndex() const override;
+
+private:
+    void buildLayout();
+    void setMode(Mode mode);
+    void enableCommands();
+    void setNodeCommandsVisible(bool visible);
+    void fillStockList();
+    void openDefaultStock();
+
+    Mode m_mode = Mode::Entry;
+    int m_currentNode = -1;
+    qint16 m_amountScale = 2;
+    QVector<WarehouseEntry> m_stocks;
+    std::unique_ptr<Recordset> m_units;
+    QLabel *m_title = nullptr;
+    QLabel *m_selectorLabel = nullptr;
+    QComboBox *m_modeBox = nullptr;
+    QComboBox *m_stockBox = nullptr;
+    NavTree *m_tree = nullptr;
+    SpreadGrid *m_grid = nullptr;
+    QWidget *m_treePane = nullptr;
+};

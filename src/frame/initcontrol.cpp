@@ -1,0 +1,207 @@
+#include "initcontrol.h"
+
+#include "barlist.h"
+#include "controlcollection.h"
+#include "errorbox.h"
+#include "librarystate.h"
+#include "logincontext.h"
+#include "messages.h"
+#include "settingsstore.h"
+#include "statuspanels.h"
+
+#include "frame/automation/dispatch.h"
+#include "frame/automation/lumoerror.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace {
+
+const QString QueryUnload = QStringLiteral("QueryUnload");
+
+// The view toggles and the settings that keep them.
+struct ViewToggle
+{
+    const char *menuKey;
+    const SettingSpec *setting;
+};
+
+const ViewToggle viewToggles[] = {
+    {"mcWToolBar", &Setting::ShowToolBar},     {"mcWTBLable", &Setting::ShowToolBarLabel},
+    {"mcWStatusBar", &Setting::ShowStateBar},  {"mcEDefault", &Setting::ShowDefaultStock},
+    {"mcVSRefresh", &Setting::ShowRefresh},
+};
+
+// Keys the grid keeps for itself: Page Up, Page Down and the arrows.
+bool isGridKey(int key)
+{
+    switch (key) {
+    case Qt::Key_PageUp: case Qt::Key_PageDown: case Qt::Key_Left: case Qt::Key_Up: case Qt::Key_Right:
+    case Qt::Key_Down:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+InitControl::InitControl(QWidget *parent)
+    : QWidget(parent)
+    , m_barList(new BarList(this))
+    , m_controls(new ControlCollection(this))
+    , m_toolBar(new QToolBar(this))
+    , m_statusBar(new StatusPanels(StatusPanelCount, this))
+    , m_bodyLayout(new QVBoxLayout)
+{
+    m_barList->setObjectName(QStringLiteral("BarList"));
+    m_toolBar->setObjectName(QStringLiteral("tbICInit"));
+    m_toolBar->setIconSize(QSize(20, 20));
+    m_statusBar->setObjectName(QStringLiteral("sbICInit"));
+    m_statusBar->setPanelText(1, ResString(Msg::Ready));
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_toolBar);
+    layout->addLayout(m_bodyLayout, 1);
+    layout->addWidget(m_statusBar);
+
+    connect(m_barList, &BarList::ItemClick, this, &InitControl::dispatchCommand);
+    connect(m_barList, &BarList::changed, this, &InitControl::rebuildToolBar);
+
+    LibraryState &state = LibraryState::instance();
+    state.initialised = true;
+    state.createFilters();
+}
+
+InitControl::~InitControl()
+{
+    LibraryState::instance().releaseFilters();
+}
+
+int InitControl::hwnd() const
+{
+    return int(const_cast<InitControl *>(this)->winId());
+}
+
+QObject *InitControl::Controls() const
+{
+    return m_controls;
+}
+
+void InitControl::NotifyMessage(const QString &strMsg, const QVariantList &)
+{
+    if (strMsg == QueryUnload)
+        saveViewSettings();
+}
+
+void InitControl::RefreshToolbar()
+{
+    if (!m_parentWindow)
+        return;
+    Dispatch::call(m_parentWindow, QString::fromLatin1(HostMenuBarOperation), {QVariant::fromValue<QObject *>(m_barList)});
+}
+
+void InitControl::takeLoginContext()
+{
+    try {
+        m_propsString = GetPropsString();
+        ParseProps(m_propsString);
+    } catch (const LumoError &) {
+        // Without a login context the control still shows and fails at its first data call.
+    }
+}
+
+void InitControl::bindHost(QObject *parentWnd)
+{
+    if (m_parentWindow)
+        disconnect(m_parentWindow, nullptr, this, nullptr);
+    m_parentWindow = parentWnd;
+    // The host's toolbar buttons of this control arrive as their keys.
+    connect(parentWnd, SIGNAL(ToolBarClick(QString)), this, SLOT(dispatchCommand(QString)));
+    RefreshToolbar();
+    rebuildToolBar();
+}
+
+void InitControl::dispatchCommand(const QString &key)
+{
+    try {
+        runCommand(key);
+    } catch (const LumoError &error) {
+        reportProcedureError(commandProcedure(), error);
+    }
+}
+
+void InitControl::loadViewSettings()
+{
+    for (const ViewToggle &toggle : viewToggles)
+        m_barList->setChecked(QString::fromLatin1(toggle.menuKey), SettingsStore::boolValue(*toggle.setting));
+    applyViewState();
+}
+
+void InitControl::saveViewSettings()
+{
+    for (const ViewToggle &toggle : viewToggles)
+        SettingsStore::setValue(*toggle.setting, m_barList->isChecked(QString::fromLatin1(toggle.menuKey)));
+    SettingsStore::setValue(Setting::StockListIndex, stockListIndex());
+}
+
+void InitControl::toggleView(const QString &menuKey)
+{
+    m_barList->setChecked(menuKey, !m_barList->isChecked(menuKey));
+    applyViewState();
+    RefreshToolbar();
+}
+
+void InitControl::applyViewState()
+{
+    m_barList->setToolbarVisible(m_barList->isChecked(QStringLiteral("mcWToolBar")));
+    m_barList->setToolbarLabels(m_barList->isChecked(QStringLiteral("mcWTBLable")));
+    m_statusBar->setVisible(m_barList->isChecked(QStringLiteral("mcWStatusBar")));
+    applyDefaultStockSetting();
+    rebuildToolBar();
+}
+
+void InitControl::rebuildToolBar()
+{
+    // A hosted control shows its buttons on the host's toolbar; alone, on its own.
+    m_toolBar->setVisible(!m_parentWindow && m_barList->toolbarVisible());
+    m_toolBar->clear();
+    m_toolBar->setToolButtonStyle(m_barList->toolbarLabels() ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+    for (const BarList::Item &item : m_barList->items()) {
+        if (!item.visible || item.kind == BarList::ItemKind::MenuItem)
+            continue;
+        if (item.kind == BarList::ItemKind::Separator) {
+            m_toolBar->addSeparator();
+            continue;
+        }
+        QAction *action = m_toolBar->addAction(QIcon::fromTheme(item.iconName), item.caption);
+        action->setEnabled(item.enabled);
+        const QString key = item.key;
+        connect(action, &QAction::triggered, m_barList, [this, key] { m_barList->Click(key); });
+    }
+}
+
+void InitControl::setStatusText(const QString &text)
+{
+    m_statusBar->setPanelText(1, ResString(text));
+    m_statusBar->repaint();
+}
+
+void InitControl::closeHostFrame()
+{
+    // The key travels up from the control's parent to the frame that holds it.
+    QWidget *target = parentWidget() ? parentWidget() : window();
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_F4, Qt::ControlModifier);
+    QApplication::sendEvent(target, &press);
+}
+
+void InitControl::keyPressEvent(QKeyEvent *event)
+{
+    if (isGridKey(event->key()) || !m_barList->KeyDown(event->key(), int(event->modifiers())))
+        QWidget::keyPressEvent(event);
+}

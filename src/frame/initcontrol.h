@@ -1,0 +1,112 @@
+#pragma once
+
+#include "lumoicinitial_global.h"
+
+#include <QPointer>
+#include <QVariantList>
+#include <QWidget>
+
+class BarList;
+class ControlCollection;
+class QToolBar;
+class QVBoxLayout;
+class StatusPanels;
+
+// What both controls share towards their host: the paging properties, the window handle and child
+// controls, the close notification, the menu and toolbar description handed to the host window,
+// the host toolbar's clicks, the view toggles with their settings, and the key routing.
+//
+// The host window is any object with a method "SetMenuBar(QObject*)" that shows a BarList and a
+// signal "ToolBarClick(QString)" raised for the control's buttons on the host's toolbar.
+class LUMOICINITIAL_EXPORT InitControl : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(int mlngPerPageSize READ mlngPerPageSize WRITE setMlngPerPageSize)
+    Q_PROPERTY(int mlngPageIndex READ mlngPageIndex WRITE setMlngPageIndex)
+    Q_PROPERTY(int mTotalPages READ mTotalPages WRITE setMTotalPages)
+    Q_PROPERTY(bool mBlsIsNewData READ mBlsIsNewData WRITE setMBlsIsNewData)
+    Q_PROPERTY(int hwnd READ hwnd)
+    Q_PROPERTY(QObject *Controls READ Controls)
+
+public:
+    static constexpr int DefaultPageSize = 500;
+    static constexpr int StatusPanelCount = 3;
+    static inline const char *HostMenuBarOperation = "SetMenuBar";
+
+    explicit InitControl(QWidget *parent = nullptr);
+    ~InitControl() override;
+
+    int mlngPerPageSize() const { return m_perPageSize; }
+    void setMlngPerPageSize(int size) { m_perPageSize = size; }
+    int mlngPageIndex() const { return m_pageIndex; }
+    void setMlngPageIndex(int index) { m_pageIndex = index; }
+    int mTotalPages() const { return m_totalPages; }
+    void setMTotalPages(int pages) { m_totalPages = pages; }
+    bool mBlsIsNewData() const { return m_isNewData; }
+    void setMBlsIsNewData(bool isNew) { m_isNewData = isNew; }
+    int hwnd() const;
+    QObject *Controls() const;
+
+    // "QueryUnload" (exactly so) saves the view settings; every other text is ignored.
+    Q_INVOKABLE void NotifyMessage(const QString &strMsg, const QVariantList &Params);
+    // Hands the menu and toolbar description to the host window again, if there is one.
+    Q_INVOKABLE void RefreshToolbar();
+
+    BarList *barList() const { return m_barList; }
+    QObject *parentWindow() const { return m_parentWindow; }
+    QString propsString() const { return m_propsString; }
+    qint32 taskHandle() const { return m_taskHandle; }
+    StatusPanels *statusPanels() const { return m_statusBar; }
+
+signals:
+    void LogicEvents(QString &ActionName, QString &ExtInfo);
+
+protected:
+    // Runs the command of a menu or toolbar key; unknown keys do nothing.
+    virtual void runCommand(const QString &key) = 0;
+    // The name under which errors of the command procedure are reported.
+    virtual QString commandProcedure() const { return QStringLiteral("DoAction"); }
+
+    // Show's first step: the property string, kept and parsed; errors are ignored.
+    void takeLoginContext();
+    void setTaskHandle(qint32 handle) { m_taskHandle = handle; }
+    // Keeps the host window, hands it the BarList and listens to its toolbar.
+    void bindHost(QObject *parentWnd);
+
+    // View settings ("bShowToolBar", ...): loaded at Show, saved at "QueryUnload".
+    void loadViewSettings();
+    void saveViewSettings();
+    // A view toggle: inverts the menu item's state, applies it and redraws the host's menus.
+    void toggleView(const QString &menuKey);
+    void applyViewState();
+    virtual void applyDefaultStockSetting() {}
+    virtual int stockListIndex() const { return 0; }
+
+    void setStatusText(const QString &text);
+    // Sends Ctrl+F4 to the host: the frame holding the control closes.
+    void closeHostFrame();
+
+    void keyPressEvent(QKeyEvent *event) override;
+
+    QVBoxLayout *bodyLayout() const { return m_bodyLayout; }
+    QToolBar *toolBar() const { return m_toolBar; }
+    void rebuildToolBar();
+
+private slots:
+    void dispatchCommand(const QString &key);
+
+private:
+
+    int m_perPageSize = DefaultPageSize;
+    int m_pageIndex = 1;
+    int m_totalPages = 0;
+    bool m_isNewData = false;
+    QString m_propsString;
+    qint32 m_taskHandle = 0;
+    QPointer<QObject> m_parentWindow;
+    BarList *m_barList = nullptr;
+    ControlCollection *m_controls = nullptr;
+    QToolBar *m_toolBar = nullptr;
+    StatusPanels *m_statusBar = nullptr;
+    QVBoxLayout *m_bodyLayout = nullptr;
+};

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+
+// The user-visible texts of the frame, each in one place. Every one reaches the user through
+// ResString.
+namespace Msg {
+
+inline const QString Caption = QStringLiteral("澄枫提示");
+inline const QString LineBreak = QStringLiteral("\r\n");
+inline const QString ErrorReason = QStringLiteral("错误原因：");
+inline const QString ErrorSource = QStringLiteral("错误来源：");
+inline const QString NoAccess = QStringLiteral("没有权限,请与系统管理员联系");
+inline const QString TaskConflict = QStringLiteral(
+    "当前使用的功能与当前或其他用户有冲突,可能无法使用! 请在软件的【系统工具】--【网络控制工具】中进行处理。");
+inline const QString TaskConflictSource = QStringLiteral("MNetControl.ExecFunc");
+inline const QString Ready = QStringLiteral("就绪");
+inline const QString Saving = QStringLiteral("请稍候，系统正在保存数据.......");
+inline const QString AskSave = QStringLiteral("数据已经改变，是否需要保存？");
+
+// "系统在调用函数LoadingStocks()时发生错误": the text every procedure's handler shows.
+inline QString procedureFailed(const QString &procedure)
+{
+    return QStringLiteral("系统在调用函数%1()时发生错误").arg(procedure);
+}
+
+// Titles of the entry control by product and mode.
+inline const QString TitleEntryStock = QStringLiteral("存货初始数据录入");
+inline const QString TitleCheckStock = QStringLiteral("存货初始数据对账");
+inline const QString TitleEntryBusiness = QStringLiteral("业务初始数据录入");
+inline const QString TitleCheckBusiness = QStringLiteral("业务初始数据对账");
+inline const QString ModeEntry = QStringLiteral("录入");
+inline const QString ModeCheck = QStringLiteral("对账");
+inline const QString SelectorStock = QStringLiteral("仓    库:");
+inline const QString SelectorAccount = QStringLiteral("科    目:");
+
+// The warehouse and account trees.
+inline const QString AllStocks = QStringLiteral("全部仓库");
+inline const QString AllStocksEntry = QStringLiteral("-----.全部仓库.------");
+inline const QString AllAccounts = QStringLiteral("全部科目");
+inline const QString AllAccountsEntry = QStringLiteral("-----.全部科目.------");
+inline const QString StockPlaceSuffix = QStringLiteral("[仓位]");
+inline const QString FetchTime = QStringLiteral("取数时间：");
+inline const QString BuildTableTime = QStringLiteral("组织数据结构的时间：");
+inline const QString BuildTreeTime = QStringLiteral("建树时间：");
+
+} // namespace Msg

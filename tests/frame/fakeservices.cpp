@@ -1,0 +1,154 @@
+#include "fakeservices.h"
+
+#include "frame/automation/componentregistry.h"
+#include "frame/automation/dictionary.h"
+#include "frame/automation/lumoerror.h"
+#include "frame/automation/recordset.h"
+
+namespace {
+
+class FakeShareProps : public QObject
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE QVariant GetProperty(int, const QString &key)
+    {
+        return key == QLatin1String("PropsString") ? QVariant(FakeWorld::instance().propsString) : QVariant();
+    }
+};
+
+class FakeData : public QObject
+{
+    Q_OBJECT
+public:
+    FakeData() { ++FakeWorld::instance().dataObjectsCreated; }
+    Q_INVOKABLE QObject *FetchSysParameter(const QString &)
+    {
+        auto *params = new Dictionary;
+        const QVariantMap &values = FakeWorld::instance().sysParams;
+        for (auto it = values.begin(); it != values.end(); ++it)
+            params->Add(it.key(), it.value());
+        return params;
+    }
+    Q_INVOKABLE QObject *FetchStocks(const QString &, const QString &types)
+    {
+        FakeWorld::instance().stockTypeArguments.append(types);
+        auto *rs = new Recordset({QStringLiteral("FItemID"), QStringLiteral("FParentID"), QStringLiteral("FSPID"),
+                                  QStringLiteral("FName"), QStringLiteral("FNumber"), QStringLiteral("FShortNumber"),
+                                  QStringLiteral("FIsStockMgr"), QStringLiteral("FTypeID")});
+        for (const QVariantList &row : FakeWorld::instance().stocks)
+            rs->appendRow(QVector<QVariant>(row.begin(), row.end()));
+        return rs;
+    }
+    Q_INVOKABLE QObject *FetchMeasureUnits(const QString &)
+    {
+        auto *rs = new Recordset({QStringLiteral("FMeasureUnitID"), QStringLiteral("FUnitGroupID"),
+                                  QStringLiteral("FNumber"), QStringLiteral("FName")});
+        rs->appendRow({1, 1, QStringLiteral("PCS"), QStringLiteral("个")});
+        return rs;
+    }
+};
+
+class FakeConnection : public QObject
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE QObject *Execute(const QString &)
+    {
+        auto *rs = new Recordset({QStringLiteral("FScale")});
+        rs->appendRow({FakeWorld::instance().scale});
+        return rs;
+    }
+};
+
+class FakeGLData : public QObject
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE bool AccessCheck(int type, int id, int right)
+    {
+        if (type < 0)
+            throw LumoError(LumoError::AppBase, QStringLiteral("access service failed"));
+        return FakeWorld::instance().rights.contains(QStringLiteral("%1/%2/%3").arg(type).arg(id).arg(right));
+    }
+};
+
+class FakeMutex : public QObject
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE int TaskExec(const QString &, int, const QString &, const QString &, short, short, short)
+    {
+        ++FakeWorld::instance().taskExecCalls;
+        return FakeWorld::instance().taskHandle;
+    }
+    Q_INVOKABLE bool CommitTask(const QString &, int handle)
+    {
+        ++FakeWorld::instance().commitCalls;
+        FakeWorld::instance().committed.append(handle);
+        return true;
+    }
+};
+
+class FakeLog : public QObject
+{
+    Q_OBJECT
+public:
+    FakeLog() { ++FakeWorld::instance().logObjectsCreated; }
+    Q_INVOKABLE bool IsEnabled() { return FakeWorld::instance().logEnabled; }
+    Q_INVOKABLE int LogStart(const QString &text)
+    {
+        FakeWorld::instance().logLines.append(QStringLiteral("start ") + text);
+        return int(FakeWorld::instance().logLines.size());
+    }
+    Q_INVOKABLE void LogEnd(int handle, int value)
+    {
+        FakeWorld::instance().logLines.append(QStringLiteral("end %1 %2").arg(handle).arg(value));
+        // A log service that fails inside must not disturb the caller's error.
+        throw LumoError(LumoError::AppBase + 99, QStringLiteral("log write failed"));
+    }
+};
+
+class FakeFormResources : public QObject
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE void SetFrmFont(QObject *, const QString &) {}
+    Q_INVOKABLE QObject *GetZ9FontProps(const QString &)
+    {
+        auto *props = new Dictionary;
+        props->Add(QStringLiteral("Name"), QStringLiteral("宋体"));
+        props->Add(QStringLiteral("Charset"), 134);
+        return props;
+    }
+};
+
+} // namespace
+
+FakeWorld &FakeWorld::instance()
+{
+    static FakeWorld world;
+    return world;
+}
+
+void FakeWorld::reset()
+{
+    *this = FakeWorld{};
+    sysParams = {{QStringLiteral("CurrentPeriod"), 1}, {QStringLiteral("QtyDecimal"), 2},
+                 {QStringLiteral("ICClosed"), 0}, {QStringLiteral("AuditChoice"), 1}};
+}
+
+void registerFakeServices()
+{
+    auto &registry = ComponentRegistry::instance();
+    registry.registerClass(QStringLiteral("LumoPropsMgr.ShareProps"), [] { return new FakeShareProps; });
+    registry.registerClass(QStringLiteral("LumoMICInitial.Data"), [] { return new FakeData; });
+    registry.registerClass(QStringLiteral("LumoMICInitial.DataAdj"), [] { return new FakeData; });
+    registry.registerClass(QStringLiteral("LumoConnection.AppConnection"), [] { return new FakeConnection; });
+    registry.registerClass(QStringLiteral("LumoEBCGLView.GLData"), [] { return new FakeGLData; });
+    registry.registerClass(QStringLiteral("LumoNetControl.Mutex"), [] { return new FakeMutex; });
+    registry.registerClass(QStringLiteral("QLLogMsg.Log"), [] { return new FakeLog; });
+    registry.registerClass(QStringLiteral("LumoFrmRes.FrmResLoader"), [] { return new FakeFormResources; });
+}
+
+#include "fakeservices.moc"

@@ -1,0 +1,288 @@
+#include "fakeservices.h"
+
+#include "entry/icinitctl.h"
+#include "entry/navtree.h"
+#include "entry/warehousetable.h"
+
+#include "frame/barlist.h"
+#include "frame/librarystate.h"
+#include "frame/logincontext.h"
+#include "frame/prompter.h"
+#include "frame/settingsstore.h"
+#include "frame/statuspanels.h"
+#include "frame/sysparams.h"
+
+#include "frame/automation/dictionary.h"
+#include "frame/automation/pelmreg.h"
+#include "frame/automation/recordset.h"
+
+#include "grid/spreadgrid.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+// The host window as the suite hands it to Show.
+class FakeHostWindow : public QObject
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE void SetMenuBar(QObject *barList) { received.append(barList); }
+    QList<QObject *> received;
+signals:
+    void ToolBarClick(const QString &key);
+};
+
+QVariantList stock(int id, int parent, int place, const QString &name, const QString &number, int isStockMgr,
+                   int type = 500)
+{
+    return {id, parent, place, name, number, number, isStockMgr, type};
+}
+
+} // namespace
+
+class TestICInitCtl : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_install;
+    ScriptedPrompter m_prompter;
+
+    void useDemoStocks()
+    {
+        FakeWorld::instance().stocks = {
+            stock(12, 0, 0, QStringLiteral("原材料仓"), QStringLiteral("01"), 1),
+            stock(12, 12, 3, QStringLiteral("A区货架"), QStringLiteral("01.01"), 0),
+            stock(5, 0, 0, QStringLiteral("成品仓"), QStringLiteral("02"), 0),
+            stock(8, 0, 0, QStringLiteral("代管仓"), QStringLiteral("03"), 0, 502),
+        };
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        registerFakeServices();
+        Prompter::install(&m_prompter);
+        QDir(m_install.path()).mkpath(QStringLiteral("Common"));
+        QFile scheme(QDir(m_install.path()).filePath(QStringLiteral("Common/LumoBaseScheme.ini")));
+        QVERIFY(scheme.open(QIODevice::WriteOnly));
+        scheme.write("[Version]\nAppType=2\nHangYeType=0\n");
+        scheme.close();
+        qputenv(PelmReg::InstallPathEnv, m_install.path().toLocal8Bit());
+    }
+
+    void cleanupTestCase() { Prompter::install(nullptr); }
+
+    void init()
+    {
+        FakeWorld::instance().reset();
+        LoginContext::instance().reset();
+        m_prompter.clear();
+        useDemoStocks();
+        for (const SettingSpec *spec : {&Setting::ShowToolBar, &Setting::ShowStateBar, &Setting::ShowDefaultStock})
+            SettingsStore::setValue(*spec, spec->defaultValue);
+    }
+
+    void treeKeysFollowTheWarehouseTable()
+    {
+        Recordset rs({QStringLiteral("FItemID"), QStringLiteral("FParentID"), QStringLiteral("FSPID"),
+                      QStringLiteral("FName"), QStringLiteral("FNumber"), QStringLiteral("FShortNumber"),
+                      QStringLiteral("FIsStockMgr"), QStringLiteral("FTypeID")});
+        for (const QVariantList &row : FakeWorld::instance().stocks)
+            rs.appendRow(QVector<QVariant>(row.begin(), row.end()));
+        const QVector<WarehouseEntry> table = WarehouseTree::buildTable(rs);
+        QCOMPARE(table.size(), 5);
+        QCOMPARE(table.first().thirdText, QStringLiteral("-----.全部仓库.------"));
+        QCOMPARE(table.first().firstText, QStringLiteral("All"));
+        QCOMPARE(table.first().isStockMgr, qint16(1));
+        const QVector<TreeNodeSpec> nodes = WarehouseTree::nodes(table);
+        QCOMPARE(nodes.at(0).key, QStringLiteral("K0"));
+        QCOMPARE(nodes.at(0).text, QStringLiteral("全部仓库"));
+        QCOMPARE(nodes.at(1).key, QStringLiteral("K12"));
+        QCOMPARE(nodes.at(1).parentKey, QStringLiteral("K0"));
+        QCOMPARE(nodes.at(1).text, QStringLiteral("01|原材料仓"));
+        QCOMPARE(nodes.at(2).key, QStringLiteral("K12P3"));
+        QCOMPARE(nodes.at(2).parentKey, QStringLiteral("K12"));
+        QCOMPARE(nodes.at(2).text, QStringLiteral("01.01|A区货架[仓位]"));
+        QCOMPARE(nodes.at(2).tableIndex, 2);
+    }
+
+    void showForATestHostLoadsTheFirstNode()
+    {
+        ICInitCtl control;
+        QVERIFY(control.Show(nullptr, true));
+        QCOMPARE(FakeWorld::instance().taskExecCalls, 0);
+        QCOMPARE(FakeWorld::instance().commitCalls, 0); // handle 0: nothing to commit
+        QCOMPARE(control.tree()->selectedKey(), QStringLiteral("K0"));
+        QCOMPARE(control.currentNode(), 0);
+        QVERIFY(SysParams::current());
+        QCOMPARE(FakeWorld::instance().stockTypeArguments, QStringList{QStringLiteral("(500,502,20291,20293)")});
+        // The root takes no rows: the entry commands are hidden there.
+        QVERIFY(!control.barList()->isVisible(QStringLiteral("mcEAddNew")));
+        QVERIFY(!control.barList()->isVisible(QStringLiteral("Save")));
+    }
+
+    void showWithoutHostWindowReturnsFalseEarly()
+    {
+        ICInitCtl control;
+        QVERIFY(!control.Show(nullptr, false));
+        QCOMPARE(FakeWorld::instance().taskExecCalls, 1);
+        QCOMPARE(FakeWorld::instance().dataObjectsCreated, 0);
+        QCOMPARE(FakeWorld::instance().commitCalls, 0); // the registered task stays uncommitted
+        QCOMPARE(control.tree()->nodeCount(), 0);
+    }
+
+    void showInAHostBuildsTitleTreeAndCommits()
+    {
+        ICInitCtl control;
+        FakeHostWindow host;
+        QVERIFY(control.Show(&host, false));
+        QCOMPARE(host.received.size(), 1);
+        QCOMPARE(host.received.first(), static_cast<QObject *>(control.barList()));
+        QCOMPARE(FakeWorld::instance().committed, QList<int>{7});
+        QCOMPARE(control.findChild<QLabel *>(QStringLiteral("lblTitle"))->text(), QStringLiteral("存货初始数据录入"));
+        QCOMPARE(control.findChild<QLabel *>(QStringLiteral("lblStock"))->text(), QStringLiteral("仓    库:"));
+        NavTree *tree = control.tree();
+        QCOMPARE(tree->nodeKeys(), QStringList({"K0", "K12", "K12P3", "K5", "K8"}));
+        QCOMPARE(tree->nodeParent(QStringLiteral("K12P3")), QStringLiteral("K12"));
+        QCOMPARE(tree->nodeParent(QStringLiteral("K5")), QStringLiteral("K0"));
+        QCOMPARE(tree->nodeText(QStringLiteral("K12P3")), QStringLiteral("01.01|A区货架[仓位]"));
+        QCOMPARE(tree->nodeTag(QStringLiteral("K8")), 4);
+        QCOMPARE(tree->nodeImage(QStringLiteral("K5")), 21);
+        QCOMPARE(tree->nodeSelectedImage(QStringLiteral("K5")), 22);
+        QCOMPARE(control.statusPanels()->panelText(1), QStringLiteral("就绪"));
+        QCOMPARE(control.amountScale(), qint16(2));
+        QVERIFY(control.measureUnits());
+    }
+
+    void treeWithOnlyTheRoot()
+    {
+        FakeWorld::instance().stocks.clear();
+        ICInitCtl control;
+        QVERIFY(control.Show(nullptr, true));
+        QCOMPARE(control.tree()->nodeKeys(), QStringList{QStringLiteral("K0")});
+    }
+
+    void nodeClickShowsEntryCommandsOnlyWhereRowsAreEntered()
+    {
+        ICInitCtl control;
+        FakeHostWindow host;
+        QVERIFY(control.Show(&host, false));
+        BarList *bars = control.barList();
+        control.tree()->clickNode(QStringLiteral("K12")); // has stock places
+        QVERIFY(!bars->isVisible(QStringLiteral("mcFSave")));
+        control.tree()->clickNode(QStringLiteral("K12P3"));
+        QVERIFY(bars->isVisible(QStringLiteral("mcFSave")));
+        QVERIFY(bars->isVisible(QStringLiteral("AddNew")));
+        QVERIFY(bars->isVisible(QStringLiteral("SP2")));
+        QVERIFY(!bars->isEnabled(QStringLiteral("Save"))); // nothing changed yet
+        control.tree()->clickNode(QStringLiteral("K0"));
+        QVERIFY(!bars->isVisible(QStringLiteral("mcEAddNew")));
+        control.tree()->clickNode(QStringLiteral("K5"));
+        QVERIFY(bars->isVisible(QStringLiteral("mcEAddNew")));
+        QCOMPARE(control.currentNode(), 3);
+    }
+
+    void queryUnloadIsCaseSensitive()
+    {
+        ICInitCtl control;
+        FakeHostWindow host;
+        QVERIFY(control.Show(&host, false));
+        emit host.ToolBarClick(QStringLiteral("mcWStatusBar")); // status bar off, not yet saved
+        control.NotifyMessage(QStringLiteral("queryunload"), {});
+        QVERIFY(SettingsStore::boolValue(Setting::ShowStateBar));
+        control.NotifyMessage(QStringLiteral("FirstShow"), {});
+        QVERIFY(SettingsStore::boolValue(Setting::ShowStateBar));
+        control.NotifyMessage(QStringLiteral("QueryUnload"), {});
+        QVERIFY(!SettingsStore::boolValue(Setting::ShowStateBar));
+    }
+
+    void toggleClickedTwiceLeavesTheSettingAsItWas()
+    {
+        ICInitCtl control;
+        FakeHostWindow host;
+        QVERIFY(control.Show(&host, false));
+        const int redraws = int(host.received.size());
+        emit host.ToolBarClick(QStringLiteral("mcWToolBar"));
+        QVERIFY(!control.barList()->isChecked(QStringLiteral("mcWToolBar")));
+        QVERIFY(!control.barList()->toolbarVisible());
+        emit host.ToolBarClick(QStringLiteral("mcWToolBar"));
+        QVERIFY(control.barList()->toolbarVisible());
+        QCOMPARE(host.received.size(), redraws + 2); // each toggle redraws the host's menus
+        control.NotifyMessage(QStringLiteral("QueryUnload"), {});
+        QVERIFY(SettingsStore::boolValue(Setting::ShowToolBar));
+    }
+
+    void viewSettingsSurviveANewShow()
+    {
+        {
+            ICInitCtl control;
+            FakeHostWindow host;
+            QVERIFY(control.Show(&host, false));
+            control.barList()->Click(QStringLiteral("mcWStatusBar"));
+            control.NotifyMessage(QStringLiteral("QueryUnload"), {});
+        }
+        ICInitCtl control;
+        FakeHostWindow host;
+        QVERIFY(control.Show(&host, false));
+        QVERIFY(!control.barList()->isChecked(QStringLiteral("mcWStatusBar")));
+        QVERIFY(control.statusPanels()->isHidden());
+    }
+
+    void refreshToolbarBeforeShowDoesNothing()
+    {
+        ICInitCtl control;
+        FakeHostWindow host;
+        control.RefreshToolbar();
+        QVERIFY(host.received.isEmpty());
+        QVERIFY(!control.parentWindow());
+    }
+
+    void initialisationPreparesFiltersAndDisablesSaveAndFind()
+    {
+        ICInitCtl control;
+        Dictionary *filters = LibraryState::instance().filters();
+        QVERIFY(filters);
+        QCOMPARE(filters->Keys(), QStringList({"ActualFilter", "VirtualFilter", "Filter", "Sort"}));
+        for (const char *key : {"Save", "mcFSave", "Find", "mcEFind"})
+            QVERIFY2(!control.barList()->isEnabled(QLatin1String(key)), key);
+        QCOMPARE(control.grid()->TextMatrix(0, 10), QStringLiteral("辅助属性"));
+    }
+
+    void keysGoToTheCommandTableExceptTheGridsOwn()
+    {
+        ICInitCtl control;
+        FakeHostWindow host;
+        QVERIFY(control.Show(&host, false));
+        const int fetches = int(FakeWorld::instance().stockTypeArguments.size());
+        QTest::keyClick(&control, Qt::Key_F5); // the refresh command's accelerator
+        QCOMPARE(FakeWorld::instance().stockTypeArguments.size(), fetches + 1);
+        QTest::keyClick(&control, Qt::Key_PageDown); // left to the grid
+        QCOMPARE(FakeWorld::instance().stockTypeArguments.size(), fetches + 1);
+    }
+
+    void menuAndToolbarKeysRunTheSameCommand()
+    {
+        ICInitCtl control;
+        FakeHostWindow host;
+        QVERIFY(control.Show(&host, false));
+        QVERIFY(control.tree()->isVisibleTo(&control));
+        emit host.ToolBarClick(QStringLiteral("TreeView"));
+        QVERIFY(!control.tree()->isVisibleTo(&control));
+        control.barList()->Click(QStringLiteral("mcVTree"));
+        QVERIFY(control.tree()->isVisibleTo(&control));
+        // A disabled command does not run.
+        QVERIFY(!control.barList()->Click(QStringLiteral("mcFPrint")));
+    }
+};
+
+QTEST_MAIN(TestICInitCtl)
+#include "tst_icinitctl.moc"

@@ -1,0 +1,146 @@
+#include "fakeservices.h"
+
+#include "frame/inifile.h"
+#include "frame/logincontext.h"
+
+#include "frame/automation/dictionary.h"
+#include "frame/automation/lumoerror.h"
+#include "frame/automation/pelmreg.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+class TestLoginContext : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_install;
+
+    void writeScheme(const QByteArray &text)
+    {
+        QDir(m_install.path()).mkpath(QStringLiteral("Common"));
+        QFile file(QDir(m_install.path()).filePath(QStringLiteral("Common/LumoBaseScheme.ini")));
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(text);
+    }
+
+private slots:
+    void initTestCase()
+    {
+        registerFakeServices();
+        qputenv(PelmReg::InstallPathEnv, m_install.path().toLocal8Bit());
+    }
+
+    void init()
+    {
+        FakeWorld::instance().reset();
+        LoginContext::instance().reset();
+    }
+
+    void parsesThePublishedPropertyString()
+    {
+        QVERIFY(ParseProps(QStringLiteral("UserName = Operator1 ;UserID=16;Note={a=1;b=2};")));
+        QCOMPARE(GetUserName(), QStringLiteral("Operator1"));
+        QCOMPARE(GetUserID(), qint16(16));
+        QCOMPARE(GetProp(QStringLiteral("note")), QStringLiteral("a=1;b=2"));
+        QCOMPARE(LoginContext::instance().propsString(), QStringLiteral("UserName = Operator1 ;UserID=16;Note={a=1;b=2};"));
+    }
+
+    void aSecondParseReplacesTheEntries()
+    {
+        ParseProps(QStringLiteral("UserName=A;UserID=1"));
+        ParseProps(QStringLiteral("Other=x"));
+        QCOMPARE(LoginContext::instance().props()->Count(), 1);
+        QVERIFY_THROWS_EXCEPTION(LumoError, GetUserName());
+    }
+
+    void duplicateKeyFailsAtItsSecondOccurrence()
+    {
+        try {
+            ParseProps(QStringLiteral("UserName=A;userName=B;UserID=3"));
+            QFAIL("a key given twice must fail");
+        } catch (const LumoError &error) {
+            QCOMPARE(error.number(), LumoError::KeyExists);
+        }
+        // What came before the duplicate was kept; nothing after it.
+        QCOMPARE(GetUserName(), QStringLiteral("A"));
+        QVERIFY(!LoginContext::instance().props()->Exists(QStringLiteral("UserID")));
+    }
+
+    void userIdMustFitSixteenBits()
+    {
+        ParseProps(QStringLiteral("UserName=A;UserID=70000"));
+        QVERIFY_THROWS_EXCEPTION(LumoError, GetUserID());
+    }
+
+    void languageShortCutIgnoresThePropertyString()
+    {
+        FakeWorld::instance().propsString = QStringLiteral("UserName=A;LANGUAGE=eng;Region=north");
+        QCOMPARE(GetLanguage(QStringLiteral("LANGUAGE")), QStringLiteral("chs"));
+        QCOMPARE(GetLanguage(QStringLiteral("language")), QStringLiteral("chs"));
+        // Other keys are looked up in the property string, fetched anew.
+        QCOMPARE(GetLanguage(QStringLiteral("region")), QStringLiteral("north"));
+        QCOMPARE(GetLanguage(QStringLiteral("missing")), QString());
+        QCOMPARE(ensureLanguage(), QStringLiteral("chs"));
+    }
+
+    void propsStringIsFetchedEveryTime()
+    {
+        FakeWorld::instance().propsString = QStringLiteral("UserName=A;");
+        QCOMPARE(GetPropsString(), QStringLiteral("UserName=A;"));
+        FakeWorld::instance().propsString = QStringLiteral("UserName=B;");
+        QCOMPARE(GetPropsString(), QStringLiteral("UserName=B;"));
+    }
+
+    void resourceTextsPassUnchanged()
+    {
+        QCOMPARE(ResString(QStringLiteral("澄枫提示")), QStringLiteral("澄枫提示"));
+        std::unique_ptr<QObject> options;
+        LoadFormStrings(this, options, QStringLiteral("set"));
+        QVERIFY(!options); // "chs" loads nothing and makes no options object
+    }
+
+    void iniValueIsCutToTheBuffer()
+    {
+        QTemporaryDir dir;
+        const QString file = dir.filePath(QStringLiteral("x.ini"));
+        QFile out(file);
+        QVERIFY(out.open(QIODevice::WriteOnly));
+        out.write("[Version]\nLong=" + QByteArray(300, 'x') + "\nShort = \"quoted\" \n[Other]\nShort=no\n");
+        out.close();
+        QCOMPARE(ReadIniString(file, QStringLiteral("Version"), QStringLiteral("Long"), QString()).size(), 254);
+        QCOMPARE(ReadIniString(file, QStringLiteral("version"), QStringLiteral("SHORT"), QString()), QStringLiteral("quoted"));
+        QCOMPARE(ReadIniString(file, QStringLiteral("Version"), QStringLiteral("Missing"), QStringLiteral("d")), QStringLiteral("d"));
+        QCOMPARE(ReadIniString(dir.filePath(QStringLiteral("none.ini")), QStringLiteral("V"), QStringLiteral("K"), QStringLiteral("0")),
+                 QStringLiteral("0"));
+    }
+
+    void installPathComesFromTheEnvironment()
+    {
+        QCOMPARE(GetInstallPath(), m_install.path());
+        QCOMPARE(GetCommonDir(), m_install.path() + QStringLiteral("/Common/"));
+    }
+
+    // The scheme is read once per process, so its cases run in this order in one function.
+    void schemeDefaultsThenIndustryType()
+    {
+        writeScheme("[Version]\nOEM=0\n");
+        QCOMPARE(GetSchemeInfo(), 0);
+        QVERIFY(!schemeInfo().OEM);
+        QVERIFY(!schemeInfo().AppName.isEmpty()); // a built-in name stands in for a missing one
+        QVERIFY(!IsAppType1());
+        QCOMPARE(GetIndustryType(), 0);
+
+        // Read once: a changed file does not change the record, but the industry type is read
+        // every time.
+        writeScheme("[Version]\nAppType=1\nHangYeType=1\n");
+        QCOMPARE(GetSchemeInfo(), 0);
+        QCOMPARE(GetIndustryType(), 1);
+    }
+};
+
+QTEST_MAIN(TestLoginContext)
+#include "tst_logincontext.moc"
