@@ -1,0 +1,163 @@
+#include "sqltokenizer.h"
+
+#include "scripttexts.h"
+
+namespace script {
+
+namespace {
+
+// How much of an unterminated literal an error quotes.
+constexpr qsizetype quotedLiteral = 20;
+
+bool isNameStart(QChar c)
+{
+    return (c >= QLatin1Char('a') && c <= QLatin1Char('z')) || (c >= QLatin1Char('A') && c <= QLatin1Char('Z'))
+           || c == QLatin1Char('_');
+}
+
+bool isDigit(QChar c)
+{
+    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+}
+
+bool isNamePart(QChar c)
+{
+    return isNameStart(c) || isDigit(c);
+}
+
+bool isSeparator(QChar c)
+{
+    return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\r') || c == QLatin1Char('\n');
+}
+
+class Scanner
+{
+public:
+    explicit Scanner(const QString &text) : m_text(text) {}
+
+    QList<Token> run()
+    {
+        while (m_pos < m_text.size()) {
+            if (isSeparator(m_text.at(m_pos))) {
+                ++m_pos;
+                continue;
+            }
+            if (!scanOne())
+                break;
+        }
+        m_tokens.append({Token::Kind::End, {}, m_text.size(), m_text.size()});
+        return m_tokens;
+    }
+
+private:
+    QChar at(qsizetype pos) const { return pos < m_text.size() ? m_text.at(pos) : QChar(); }
+
+    void push(Token::Kind kind, const QString &text, qsizetype begin)
+    {
+        m_tokens.append({kind, text, begin, m_pos});
+    }
+
+    bool fail(const QString &message, qsizetype begin)
+    {
+        m_pos = begin + 1;
+        push(Token::Kind::Error, message, begin);
+        return false;
+    }
+
+    bool scanOne()
+    {
+        const qsizetype begin = m_pos;
+        const QChar c = m_text.at(m_pos);
+        const QChar next = at(m_pos + 1);
+        if (isNameStart(c)) {
+            while (m_pos < m_text.size() && isNamePart(m_text.at(m_pos)))
+                ++m_pos;
+            push(Token::Kind::Name, m_text.mid(begin, m_pos - begin), begin);
+            return true;
+        }
+        if ((c == QLatin1Char('-') && next == QLatin1Char('-')) || (c == QLatin1Char('/') && next == QLatin1Char('*')))
+            return fail(texts::commentRefused, begin);
+        if (isDigit(c) || (c == QLatin1Char('.') && isDigit(next))
+            || (c == QLatin1Char('-') && (isDigit(next) || (next == QLatin1Char('.') && isDigit(at(m_pos + 2))))))
+            return scanNumber();
+        if (c == QLatin1Char('\''))
+            return scanString();
+        if (c == QLatin1Char(';'))
+            return fail(texts::semicolonRefused, begin);
+        if (c == QLatin1Char('<') && (next == QLatin1Char('=') || next == QLatin1Char('>'))) {
+            m_pos += 2;
+            push(Token::Kind::Punct, m_text.mid(begin, 2), begin);
+            return true;
+        }
+        if (c == QLatin1Char('>') && next == QLatin1Char('=')) {
+            m_pos += 2;
+            push(Token::Kind::Punct, m_text.mid(begin, 2), begin);
+            return true;
+        }
+        if (QStringView(u"(),.=<>").contains(c)) {
+            ++m_pos;
+            push(Token::Kind::Punct, QString(c), begin);
+            return true;
+        }
+        return fail(texts::badCharacter.arg(c), begin);
+    }
+
+    bool scanNumber()
+    {
+        const qsizetype begin = m_pos;
+        if (m_text.at(m_pos) == QLatin1Char('-'))
+            ++m_pos;
+        while (isDigit(at(m_pos)))
+            ++m_pos;
+        if (at(m_pos) == QLatin1Char('.')) {
+            ++m_pos;
+            while (isDigit(at(m_pos)))
+                ++m_pos;
+        }
+        // "1e5", "12abc" or "1.2.3" are not plain decimal text.
+        if (isNamePart(at(m_pos)) || at(m_pos) == QLatin1Char('.')) {
+            while (isNamePart(at(m_pos)) || at(m_pos) == QLatin1Char('.') || at(m_pos) == QLatin1Char('-'))
+                ++m_pos;
+            const QString written = m_text.mid(begin, m_pos - begin);
+            return fail(texts::badNumber.arg(written), begin);
+        }
+        push(Token::Kind::Number, m_text.mid(begin, m_pos - begin), begin);
+        return true;
+    }
+
+    bool scanString()
+    {
+        const qsizetype begin = m_pos;
+        // Not a null QString even when empty: an empty literal is bound as '' and never as NULL.
+        QString value(0, QChar());
+        ++m_pos;
+        for (;;) {
+            if (m_pos >= m_text.size())
+                return fail(texts::unterminatedString.arg(m_text.mid(begin, quotedLiteral)), begin);
+            const QChar c = m_text.at(m_pos++);
+            if (c != QLatin1Char('\'')) {
+                value.append(c);
+                continue;
+            }
+            if (at(m_pos) != QLatin1Char('\''))
+                break;
+            value.append(c);
+            ++m_pos;
+        }
+        push(Token::Kind::String, value, begin);
+        return true;
+    }
+
+    const QString &m_text;
+    qsizetype m_pos = 0;
+    QList<Token> m_tokens;
+};
+
+} // namespace
+
+QList<Token> tokenize(const QString &text)
+{
+    return Scanner(text).run();
+}
+
+} // namespace script

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "script/dialect.h"
+
+#include <QSqlDatabase>
+#include <QStringList>
+#include <QTemporaryDir>
+
+// A throwaway database for one test function: a SQLite file in a temporary folder, or a schema
+// of its own on the PostgreSQL server that LUMO_TEST_PG names (postgresql://user@host:port/db),
+// dropped again at the end.
+class TestDatabase
+{
+public:
+    static constexpr const char *sqlite = "sqlite";
+    static constexpr const char *postgresql = "postgresql";
+
+    // The server for the PostgreSQL runs; empty when the environment names none.
+    static QString postgresUri();
+
+    explicit TestDatabase(const QString &backend);
+    ~TestDatabase();
+    TestDatabase(const TestDatabase &) = delete;
+    TestDatabase &operator=(const TestDatabase &) = delete;
+
+    bool isOpen() const { return m_error.isEmpty(); }
+    QString error() const { return m_error; }
+    QSqlDatabase db() const;
+    script::Dialect dialect() const { return m_dialect; }
+
+    // Runs each statement; false (with error()) at the first that fails.
+    bool exec(const QStringList &statements);
+    // The rows of a query, the fields of a row joined by ", ", NULL written as NULL.
+    QStringList rows(const QString &select) const;
+
+private:
+    QTemporaryDir m_dir;
+    QString m_connection;
+    QString m_schema;
+    script::Dialect m_dialect = script::Dialect::SQLite;
+    QString m_error;
+};
