@@ -1,5 +1,6 @@
 # LumoICInitialCtl: the controls, their public classes, dialogs, grid and printing.
 add_library(LumoICInitialCtl SHARED
+  frame/balancecheck.cpp frame/balancecheck.h
   frame/barlist.cpp frame/barlist.h
   frame/controlcollection.cpp frame/controlcollection.h
   frame/errorbox.cpp frame/errorbox.h
@@ -20,10 +21,16 @@ add_library(LumoICInitialCtl SHARED
   frame/statuspanels.cpp frame/statuspanels.h
   frame/sysparams.cpp frame/sysparams.h
   frame/typelibrary.cpp frame/typelibrary.h
+  frame/valuationmethods.cpp frame/valuationmethods.h
+  entry/accounttable.cpp entry/accounttable.h
   entry/entrycommands.cpp entry/entrycommands.h
   entry/entrygridlayout.cpp entry/entrygridlayout.h
+  entry/entrysheet.cpp entry/entrysheet.h
   entry/icinitctl.cpp entry/icinitctl.h
+  entry/iteminfo.cpp entry/iteminfo.h
+  entry/itemrows.cpp entry/itemrows.h
   entry/navtree.cpp entry/navtree.h
+  entry/pagebar.cpp entry/pagebar.h
   entry/warehousetable.cpp entry/warehousetable.h
   adjust/icinitadjctl.cpp adjust/icinitadjctl.h
   print/icinitprint.cpp print/icinitprint.h
@@ -31,3 +38,7 @@ add_library(LumoICInitialCtl SHARED
 target_compile_definitions(LumoICInitialCtl PRIVATE LUMOICINITIAL_LIBRARY)
 target_include_directories(LumoICInitialCtl PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(LumoICInitialCtl PUBLIC LumoAutomation LumoGrid Qt6::Widgets PRIVATE Qt6::PrintSupport)
+
+# Pieces that arrive in their own source lists.
+include(${CMAKE_CURRENT_SOURCE_DIR}/entry/entrydomain.cmake OPTIONAL)
+include(${CMAKE_CURRENT_SOURCE_DIR}/batch/batch.cmake OPTIONAL)

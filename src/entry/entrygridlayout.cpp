@@ -89,6 +89,14 @@ void build(SpreadGrid &grid, int industryType)
     grid.setSelectionTextColor(Qt::white);
 }
 
+void setItemHeaders(SpreadGrid &grid, bool itemRows)
+{
+    static const char *const accountHeaders[] = {"FAccountID", "科目代码", "科目名称", "借贷方向"};
+    for (int col = EntryCol::ItemID; col <= EntryCol::Model; ++col)
+        grid.cells()->setText(0, col, itemRows ? ResString(QString::fromUtf8(headers[col]))
+                                               : ResString(QString::fromUtf8(accountHeaders[col - EntryCol::ItemID])));
+}
+
 void restoreWidths(SpreadGrid &grid)
 {
     for (int col = 1; col < EntryCol::Count; ++col)

@@ -55,6 +55,9 @@ LUMOICINITIAL_EXPORT QString headerText(int col, int industryType);
 // Clears the grid, writes the header row, sets the cell types of the date, rate and secondary
 // quantity columns, hides the key and hidden-when-built columns and applies the grid colours.
 LUMOICINITIAL_EXPORT void build(SpreadGrid &grid, int industryType);
+// Heads columns 2 to 5 for item rows ("FItemID", "物料代码", ...) or account rows ("FAccountID",
+// "科目代码", "科目名称", "借贷方向").
+LUMOICINITIAL_EXPORT void setItemHeaders(SpreadGrid &grid, bool itemRows);
 // Puts every column back to its default width.
 LUMOICINITIAL_EXPORT void restoreWidths(SpreadGrid &grid);
 

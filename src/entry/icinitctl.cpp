@@ -1,7 +1,9 @@
 #include "icinitctl.h"
 
 #include "entry/entrygridlayout.h"
+#include "entry/entrysheet.h"
 #include "entry/navtree.h"
+#include "entry/pagebar.h"
 
 #include "frame/barlist.h"
 #include "frame/errorbox.h"
@@ -87,6 +89,8 @@ void ICInitCtl::buildLayout()
     m_modeBox = new QComboBox(this);
     m_modeBox->setObjectName(QStringLiteral("cbInitial"));
     m_modeBox->addItem(ResString(Msg::ModeEntry));
+    m_modeBox->addItem(ResString(Msg::ModeCheck));
+    connect(m_modeBox, &QComboBox::activated, this, [this](int index) { switchMode(index == 1); });
     m_selectorLabel = new QLabel(this);
     m_selectorLabel->setObjectName(QStringLiteral("lblStock"));
     m_stockBox = new QComboBox(this);
@@ -111,12 +115,25 @@ void ICInitCtl::buildLayout()
 
     m_grid = new SpreadGrid(this);
     m_grid->setObjectName(QStringLiteral("vsICInit"));
+    m_sheet = new EntrySheet(*m_grid, this);
+    connect(m_grid, &SpreadGrid::afterEdit, this, &ICInitCtl::onAfterEdit);
+    connect(m_grid, &SpreadGrid::cellClicked, this, &ICInitCtl::onCellClicked);
+
+    m_pageBar = new PageBar(this);
+    m_pageBar->setObjectName(QStringLiteral("pageBar"));
+    connect(m_pageBar, &PageBar::pageCommand, this, &ICInitCtl::PageCommand);
+    auto *gridPane = new QWidget(this);
+    auto *gridLayout = new QVBoxLayout(gridPane);
+    gridLayout->setContentsMargins(0, 0, 0, 0);
+    gridLayout->setSpacing(0);
+    gridLayout->addWidget(m_grid, 1);
+    gridLayout->addWidget(m_pageBar);
 
     auto *splitter = new QSplitter(Qt::Horizontal, this);
     splitter->setObjectName(QStringLiteral("splitter"));
     m_treePane = m_tree;
     splitter->addWidget(m_tree);
-    splitter->addWidget(m_grid);
+    splitter->addWidget(gridPane);
     splitter->setStretchFactor(0, 0);
     splitter->setStretchFactor(1, 1);
     splitter->setSizes({230, 900});
@@ -143,6 +160,7 @@ bool ICInitCtl::Show(QObject *ParentWnd, bool blnIstest)
         LoadSysParams(DataProgId);
         LibraryState::instance().periodOpen = !SysParams::toBool(SysParam::ICClosed);
         m_amountScale = FetchAmountScale();
+        m_sheet->setAmountScale(m_amountScale);
         m_units = FetchMeasureUnits(DataProgId);
         loadViewSettings();
         enableCommands();
@@ -218,6 +236,47 @@ void ICInitCtl::LoadingStocks()
     }
 }
 
+void ICInitCtl::LoadingAccounts()
+{
+    try {
+        {
+            const std::unique_ptr<QObject> data = CreateObject(DataProgId);
+            m_accountRecords = takeObject<Recordset>(Dispatch::call(
+                data.get(), QStringLiteral("FetchYtdAccounts"),
+                {GetPropsString(), SysParams::toInt(SysParam::CurrentPeriod)}));
+        }
+        if (!m_accountRecords)
+            throw LumoError(LumoError::AppBase + 32, QStringLiteral("数据服务没有返回科目"),
+                            QStringLiteral("FetchYtdAccounts"));
+        m_accounts = AccountTree::buildTable(*m_accountRecords);
+        m_tree->clearNodes();
+        m_currentNode = -1;
+        for (const TreeNodeSpec &node : AccountTree::nodes(m_accounts))
+            m_tree->addNode(node.key, node.parentKey, node.text, node.tableIndex, WarehouseTree::NodeImage,
+                            WarehouseTree::SelectedImage);
+        m_tree->ensureRootVisible();
+    } catch (const LumoError &error) {
+        reportProcedureError(QStringLiteral("LoadingAccounts"), error);
+    }
+}
+
+void ICInitCtl::switchMode(bool reconciliation)
+{
+    const Mode wanted = reconciliation ? Mode::Check : Mode::Entry;
+    m_modeBox->setCurrentIndex(reconciliation ? 1 : 0);
+    if (wanted == m_mode)
+        return;
+    m_sheet->clear();
+    showPages();
+    setMode(wanted);
+    EntryGridLayout::setItemHeaders(*m_grid, !reconciliation);
+    m_stockBox->setEnabled(!reconciliation);
+    if (reconciliation)
+        LoadingAccounts();
+    else
+        LoadingStocks();
+}
+
 void ICInitCtl::fillStockList()
 {
     m_stockBox->clear();
@@ -256,14 +315,13 @@ void ICInitCtl::tvICInit_NodeClick(const QString &key)
         const int index = m_tree->nodeTag(key);
         if (m_currentNode < 0)
             m_currentNode = index;
-        setMlngPageIndex(1);
+        if (m_mode == Mode::Entry && (index < 0 || index >= m_stocks.size()))
+            throw LumoError(LumoError::AppBase + 31, QStringLiteral("下标越界：%1").arg(index),
+                            QStringLiteral("tvICInit_NodeClick"));
         m_currentNode = index;
-        if (m_mode == Mode::Entry) {
-            if (index < 0 || index >= m_stocks.size())
-                throw LumoError(LumoError::AppBase + 31, QStringLiteral("下标越界：%1").arg(index),
-                                QStringLiteral("tvICInit_NodeClick"));
+        loadRows(1);
+        if (m_mode == Mode::Entry)
             setNodeCommandsVisible(m_stocks.at(index).isStockMgr == 0);
-        }
         barList()->setEnabled(EntryKeys::Save, false);
         barList()->setEnabled(EntryKeys::FSave, false);
         RefreshToolbar();
@@ -272,6 +330,89 @@ void ICInitCtl::tvICInit_NodeClick(const QString &key)
     }
     LogEnd(logHandle, 0);
     m_grid->setFocus();
+}
+
+void ICInitCtl::loadRows(int pageIndex)
+{
+    // Rows are kept only at a warehouse without stock places or at a stock place.
+    if (m_mode == Mode::Check || m_currentNode == 0 || m_stocks.at(m_currentNode).isStockMgr != 0) {
+        m_sheet->clear();
+    } else {
+        const WarehouseEntry &entry = m_stocks.at(m_currentNode);
+        m_sheet->setPlace({entry.id, entry.stockPlace, entry.typeId});
+        m_sheet->loadPage(pageIndex, mlngPerPageSize());
+    }
+    showPages();
+    m_dirty = false;
+    setMBlsIsNewData(false);
+    barList()->setEnabled(EntryKeys::Find, m_sheet->lastDataRow() > 0);
+    barList()->setEnabled(EntryKeys::EFind, m_sheet->lastDataRow() > 0);
+}
+
+void ICInitCtl::showPages()
+{
+    setMlngPageIndex(m_sheet->pageIndex());
+    setMTotalPages(m_sheet->totalPages());
+    m_pageBar->setPages(m_sheet->pageIndex(), m_sheet->totalPages());
+}
+
+QString ICInitCtl::pageLabel() const
+{
+    return m_pageBar->label();
+}
+
+void ICInitCtl::PageCommand(const QString &key)
+{
+    if (m_currentNode < 0)
+        return;
+    int page = mlngPageIndex();
+    if (key == PageBar::FirstPage)
+        page = 1;
+    else if (key == PageBar::PreviousPage)
+        page = page - 1;
+    else if (key == PageBar::NextPage)
+        page = page + 1;
+    else if (key == PageBar::LastPage)
+        page = mTotalPages();
+    else if (key == PageBar::SearchPage)
+        page = m_pageBar->typedPage();
+    else
+        return;
+    page = qBound(1, page, qMax(1, mTotalPages()));
+    try {
+        loadRows(page);
+    } catch (const LumoError &error) {
+        reportProcedureError(QStringLiteral("PageCommand"), error);
+    }
+}
+
+void ICInitCtl::markRowChanged(int row)
+{
+    m_grid->cells()->setText(row, EntryCol::Flag, QStringLiteral("1"));
+    m_dirty = true;
+    setMBlsIsNewData(true);
+    if (LibraryState::instance().periodOpen) {
+        barList()->setEnabled(EntryKeys::Save, true);
+        barList()->setEnabled(EntryKeys::FSave, true);
+    }
+}
+
+void ICInitCtl::onAfterEdit(int row, int col)
+{
+    if (!m_sheet->isItemRow(row) || col == EntryCol::Flag)
+        return;
+    markRowChanged(row);
+}
+
+void ICInitCtl::onCellClicked(int row, int col)
+{
+    if (col != EntryCol::Mark || !m_sheet->isItemRow(row))
+        return;
+    try {
+        m_sheet->toggleBatchLines(row);
+    } catch (const LumoError &error) {
+        reportProcedureError(QStringLiteral("FillBatManDetailByRs"), error);
+    }
 }
 
 void ICInitCtl::setNodeCommandsVisible(bool visible)

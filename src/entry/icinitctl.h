@@ -3,6 +3,7 @@
 #include "frame/initcontrol.h"
 #include "frame/lumoicinitial_global.h"
 
+#include "entry/accounttable.h"
 #include "entry/entrycommands.h"
 #include "entry/warehousetable.h"
 
@@ -10,7 +11,9 @@
 
 #include <memory>
 
+class EntrySheet;
 class NavTree;
+class PageBar;
 class QComboBox;
 class QLabel;
 class Recordset;
@@ -43,8 +46,19 @@ public:
 
     // Builds the warehouse tree from the data service.
     void LoadingStocks();
+    // Builds the flat account tree of reconciliation mode.
+    void LoadingAccounts();
+    const QVector<AccountEntry> &accountTable() const { return m_accounts; }
+    // Switches between entry ("录入") and reconciliation ("对账"), rebuilding the tree.
+    Q_INVOKABLE void switchMode(bool reconciliation);
     // A click on a node of the tree, by key.
     void tvICInit_NodeClick(const QString &key);
+    EntrySheet *sheet() const { return m_sheet; }
+
+    // The page commands "FIRSTPAGE", "PREPAGE", "NEXTPAGE", "LASTPAGE" and "SEARCHPAGE" (the page
+    // typed in the page box).
+    Q_INVOKABLE void PageCommand(const QString &key);
+    Q_INVOKABLE QString pageLabel() const;
 
 protected:
     void runCommand(const QString &key) override;
@@ -58,11 +72,19 @@ private:
     void setNodeCommandsVisible(bool visible);
     void fillStockList();
     void openDefaultStock();
+    // Loads page `pageIndex` of the current node into the grid.
+    void loadRows(int pageIndex);
+    void showPages();
+    void onAfterEdit(int row, int col);
+    void onCellClicked(int row, int col);
+    void markRowChanged(int row);
 
     Mode m_mode = Mode::Entry;
     int m_currentNode = -1;
     qint16 m_amountScale = 2;
     QVector<WarehouseEntry> m_stocks;
+    QVector<AccountEntry> m_accounts;
+    std::unique_ptr<Recordset> m_accountRecords;
     std::unique_ptr<Recordset> m_units;
     QLabel *m_title = nullptr;
     QLabel *m_selectorLabel = nullptr;
@@ -70,5 +92,8 @@ private:
     QComboBox *m_stockBox = nullptr;
     NavTree *m_tree = nullptr;
     SpreadGrid *m_grid = nullptr;
+    EntrySheet *m_sheet = nullptr;
+    PageBar *m_pageBar = nullptr;
     QWidget *m_treePane = nullptr;
+    bool m_dirty = false;
 };

@@ -1,0 +1,36 @@
+# Two commands do all the set-up: `make run` and `make test`.
+BUILD ?= build
+BUILD_TYPE ?= RelWithDebInfo
+JOBS ?= $(shell nproc)
+BIN = $(BUILD)/bin
+
+.PHONY: deps configure build run test bench clean
+
+deps:
+	@scripts/install-deps
+
+$(BUILD)/build.ninja: | deps
+	cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE)
+
+configure: $(BUILD)/build.ninja
+
+build: deps configure
+	cmake --build $(BUILD) -j$(JOBS)
+
+# With a display the suite opens on the demo account set for a person; without one the demo
+# script drives it on the offscreen platform and writes screenshots under out/.
+run: build
+	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then \
+	  $(BIN)/lumo-suite --demo; \
+	else \
+	  mkdir -p out && $(BIN)/lumo-suite --demo --script demo/demo.js && echo "screenshots in out/"; \
+	fi
+
+test: build
+	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j$(JOBS)
+
+bench: build
+	@for b in $(BIN)/bench_*; do echo "== $$b"; $$b; done
+
+clean:
+	rm -rf $(BUILD) out

@@ -1,0 +1,257 @@
+#include "entrysheet.h"
+
+#include "entry/entrygridlayout.h"
+
+#include "frame/librarystate.h"
+#include "frame/logincontext.h"
+#include "frame/sysparams.h"
+
+#include "frame/automation/componentregistry.h"
+#include "frame/automation/dictionary.h"
+#include "frame/automation/dispatch.h"
+#include "frame/automation/lumoerror.h"
+#include "frame/automation/objectownership.h"
+#include "frame/automation/recordset.h"
+
+#include "grid/bulkupdate.h"
+#include "grid/cellmodel.h"
+#include "grid/spreadgrid.h"
+
+namespace {
+
+using namespace EntryCol;
+
+const QString ExpandMark = QStringLiteral("+");
+const QString FoldMark = QStringLiteral("-");
+const QString TotalsText = QStringLiteral("总计");
+const QString UseShortNumber = QStringLiteral("UseShortNumber");
+
+QString filterText(const QString &key)
+{
+    Dictionary *filters = LibraryState::instance().filters();
+    return filters ? filters->Item(key).toString() : QString();
+}
+
+} // namespace
+
+EntrySheet::EntrySheet(SpreadGrid &grid, QObject *parent)
+    : QObject(parent)
+    , m_grid(grid)
+    , m_colors(RowColors::fromSettings())
+{
+    m_kinds = {RowKind::Header};
+}
+
+EntrySheet::~EntrySheet() = default;
+
+CellModel &EntrySheet::cells() const
+{
+    return *m_grid.cells();
+}
+
+int EntrySheet::qtyDecimal() const
+{
+    return SysParams::toInt(SysParam::QtyDecimal);
+}
+
+std::unique_ptr<QObject> EntrySheet::dataService() const
+{
+    return CreateObject(DataProgId);
+}
+
+void EntrySheet::clear()
+{
+    cells().setRows(1);
+    m_kinds = {RowKind::Header};
+    m_infos.clear();
+    m_expanded.clear();
+    m_totals.reset();
+    m_pageIndex = 0;
+    m_totalPages = 0;
+    m_recordCount = 0;
+}
+
+void EntrySheet::loadPage(int pageIndex, int pageSize)
+{
+    m_useShortNumber = SysParams::toBool(UseShortNumber);
+    m_colors = RowColors::fromSettings();
+    std::unique_ptr<Dictionary> page;
+    {
+        const std::unique_ptr<QObject> data = dataService();
+        page = takeObject<Dictionary>(Dispatch::call(
+            data.get(), QStringLiteral("FetchYtdInitialData"),
+            {GetPropsString(), m_place.stockId, m_place.spId, SysParams::toInt(SysParam::CurrentPeriod), pageSize,
+             qMax(1, pageIndex), filterText(FilterKey::Filter), filterText(FilterKey::ActualFilter),
+             filterText(FilterKey::VirtualFilter), filterText(FilterKey::Sort), m_useShortNumber}));
+    }
+    if (!page)
+        throw LumoError(LumoError::AppBase + 40, QStringLiteral("数据服务没有返回初始数据"),
+                        QStringLiteral("FetchYtdInitialData"));
+    const std::unique_ptr<Recordset> rows = takeObject<Recordset>(page->Item(QStringLiteral("Rows")));
+    m_totals = takeObject<Recordset>(page->Item(QStringLiteral("Totals")));
+    if (!rows)
+        throw LumoError(LumoError::AppBase + 41, QStringLiteral("数据服务没有返回初始数据行"),
+                        QStringLiteral("FetchYtdInitialData"));
+    m_totalPages = page->Item(QStringLiteral("TotalPages")).toInt();
+    m_recordCount = page->Item(QStringLiteral("RecordCount")).toInt();
+    m_pageIndex = m_totalPages == 0 ? 0 : qBound(1, pageIndex, m_totalPages);
+
+    BulkUpdate bulk(cells());
+    m_expanded.clear();
+    ItemRows::applyColumnFormats(cells(), qtyDecimal(), m_amountScale, m_colors);
+    ItemRows::fillItemRows(cells(), *rows, m_useShortNumber, qtyDecimal(), m_colors, m_infos);
+    m_kinds = QVector<RowKind>(cells().rows(), RowKind::Item);
+    m_kinds[0] = RowKind::Header;
+    refreshTotals();
+}
+
+QString EntrySheet::pageLabel() const
+{
+    return QStringLiteral("%1/%2").arg(m_pageIndex).arg(m_totalPages);
+}
+
+bool EntrySheet::isTotalsRow(int row) const
+{
+    return row > 0 && row < m_kinds.size() && m_kinds.at(row) == RowKind::Totals;
+}
+
+bool EntrySheet::isBatchLine(int row) const
+{
+    return row > 0 && row < m_kinds.size() && m_kinds.at(row) == RowKind::BatchLine;
+}
+
+bool EntrySheet::isItemRow(int row) const
+{
+    return row > 0 && row < m_kinds.size()
+           && (m_kinds.at(row) == RowKind::Item || m_kinds.at(row) == RowKind::NewItem);
+}
+
+bool EntrySheet::isNewRow(int row) const
+{
+    return row > 0 && row < m_kinds.size() && m_kinds.at(row) == RowKind::NewItem;
+}
+
+int EntrySheet::lastDataRow() const
+{
+    int row = int(m_kinds.size()) - 1;
+    while (row > 0 && m_kinds.at(row) == RowKind::Totals)
+        --row;
+    return row;
+}
+
+const ItemInfo *EntrySheet::itemInfo(int itemId) const
+{
+    const auto it = m_infos.constFind(itemId);
+    return it == m_infos.constEnd() ? nullptr : &it.value();
+}
+
+bool EntrySheet::isExpanded(int row) const
+{
+    return isItemRow(row) && m_expanded.contains(cells().text(row, FieldCompose));
+}
+
+bool EntrySheet::toggleBatchLines(int row)
+{
+    if (!isItemRow(row) || isNewRow(row))
+        return false;
+    const ItemInfo *info = itemInfo(int(cells().number(row, ItemID)));
+    if (!info || !info->hasDetailLines())
+        return false;
+    const QString key = cells().text(row, FieldCompose);
+    if (m_expanded.contains(key)) {
+        const int count = m_expanded.take(key);
+        cells().removeRowsAt(row + 1, count);
+        m_kinds.remove(row + 1, count);
+        cells().setText(row, Mark, ExpandMark);
+        return true;
+    }
+    std::unique_ptr<Recordset> lines;
+    {
+        const std::unique_ptr<QObject> data = dataService();
+        lines = takeObject<Recordset>(Dispatch::call(
+            data.get(), QStringLiteral("FetchYtdBatManDetail"),
+            {GetPropsString(), SysParams::toInt(SysParam::CurrentPeriod), m_place.stockId, m_place.spId, info->id,
+             int(cells().number(row, AuxPropID)), int(cells().number(row, UnitID)), info->batchManaged,
+             info->shelfLifeManaged, key}));
+    }
+    if (!lines)
+        throw LumoError(LumoError::AppBase + 42, QStringLiteral("数据服务没有返回批次明细"),
+                        QStringLiteral("FetchYtdBatManDetail"));
+    const int count = ItemRows::insertBatchLines(cells(), row, *lines, info->qtyDecimal, qtyDecimal());
+    m_kinds.insert(row + 1, count, RowKind::BatchLine);
+    m_expanded.insert(key, count);
+    cells().setText(row, Mark, FoldMark);
+    return true;
+}
+
+int EntrySheet::addNewRow()
+{
+    const int row = lastDataRow() + 1;
+    cells().insertRowsAt(row, 1);
+    m_kinds.insert(row, RowKind::NewItem);
+    // The item code is typed on a new row; everything else comes from the item.
+    cells().setCellStyle(row, Number, CellStyle().setLocked(false));
+    return row;
+}
+
+QString EntrySheet::removeItemRow(int row)
+{
+    if (!isItemRow(row) || isExpanded(row))
+        return {};
+    const bool saved = !isNewRow(row) && !cells().text(row, FieldCompose).isEmpty();
+    const QString deleted = saved ? QStringLiteral("%1|%2")
+                                        .arg(qint64(cells().number(row, ItemID)))
+                                        .arg(qint64(cells().number(row, AuxPropID)))
+                                  : QString();
+    cells().removeRowsAt(row, 1);
+    m_kinds.remove(row);
+    return deleted;
+}
+
+void EntrySheet::removeTotalsRow()
+{
+    for (int row = int(m_kinds.size()) - 1; row > 0; --row) {
+        if (m_kinds.at(row) == RowKind::Totals) {
+            cells().removeRowsAt(row, 1);
+            m_kinds.remove(row);
+        }
+    }
+}
+
+void EntrySheet::refreshTotals()
+{
+    removeTotalsRow();
+    if (m_totalPages != 0 && m_pageIndex != m_totalPages)
+        return;
+    double sums[EntryCol::Count] = {};
+    const auto &groups = ItemRows::groups();
+    if (m_totalPages <= 1) {
+        for (int row = 1; row < m_kinds.size(); ++row) {
+            if (m_kinds.at(row) != RowKind::Item && m_kinds.at(row) != RowKind::NewItem)
+                continue;
+            for (const auto &g : groups) {
+                for (int col : {g.quantity, g.amount, g.difference})
+                    sums[col] += cells().number(row, col);
+            }
+        }
+    } else if (m_totals && m_totals->RecordCount() > 0) {
+        static const char *const fields[4][3] = {{"FInitYtdBegQty", "FInitYtdBegBal", "FInitYtdBegDiff"},
+                                                 {"FInitYtdReceive", "FInitYtdDebit", "FInitYtdReceiveDiff"},
+                                                 {"FInitYtdSend", "FInitYtdCredit", "FInitYtdSendDiff"},
+                                                 {"FInitBegQty", "FInitBegBal", "FInitBegDiff"}};
+        for (int i = 0; i < 4; ++i) {
+            sums[groups[i].quantity] = m_totals->value(0, QLatin1String(fields[i][0])).toDouble();
+            sums[groups[i].amount] = m_totals->value(0, QLatin1String(fields[i][1])).toDouble();
+            sums[groups[i].difference] = m_totals->value(0, QLatin1String(fields[i][2])).toDouble();
+        }
+    }
+    const int row = cells().addRow();
+    m_kinds.append(RowKind::Totals);
+    cells().setValue(row, ItemID, TotalsMark);
+    cells().setText(row, Number, ResString(TotalsText));
+    for (const auto &g : groups) {
+        for (int col : {g.quantity, g.amount, g.difference})
+            cells().setValue(row, col, sums[col]);
+    }
+    cells().setRowStyle(row, CellStyle().setBackColor(m_colors.sum).setLocked(true));
+}

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "entry/iteminfo.h"
+#include "entry/itemrows.h"
+#include "frame/lumoicinitial_global.h"
+
+#include <QHash>
+#include <QObject>
+
+#include <memory>
+
+class CellModel;
+class Recordset;
+class SpreadGrid;
+
+// The place whose rows the entry grid shows.
+struct EntryPlace
+{
+    qint32 stockId = 0;
+    qint32 spId = 0;
+    qint16 stockType = 0;
+};
+
+// The content of the entry grid: one page of item rows of one place, the unfolded batch lines,
+// the grand-total row and the per-item information beside them.
+class LUMOICINITIAL_EXPORT EntrySheet : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int TotalsMark = -100;
+
+    EntrySheet(SpreadGrid &grid, QObject *parent = nullptr);
+    ~EntrySheet() override;
+
+    void setPlace(const EntryPlace &place) { m_place = place; }
+    const EntryPlace &place() const { return m_place; }
+    void setAmountScale(int scale) { m_amountScale = scale; }
+    int amountScale() const { return m_amountScale; }
+
+    // Loads page `pageIndex` (from 1) of the place with the library's filters; errors propagate.
+    void loadPage(int pageIndex, int pageSize);
+    int pageIndex() const { return m_pageIndex; }
+    int totalPages() const { return m_totalPages; }
+    int recordCount() const { return m_recordCount; }
+    // "3/12", or "0/0" for a place without records.
+    QString pageLabel() const;
+    // Empties the grid (the root and places without rows).
+    void clear();
+
+    // Rows: item rows, unfolded batch lines, new rows, and the totals row at the end.
+    bool isTotalsRow(int row) const;
+    bool isBatchLine(int row) const;
+    bool isItemRow(int row) const;
+    bool isNewRow(int row) const;
+    // The last row that holds an item or a batch line.
+    int lastDataRow() const;
+    const ItemInfo *itemInfo(int itemId) const;
+    void setItemInfo(const ItemInfo &info) { m_infos.insert(info.id, info); }
+
+    // Unfolding: inserts the item's batch lines under its row ("+" becomes "-"), or removes
+    // exactly the rows it inserted ("-" becomes "+"). False for rows without batch lines.
+    bool toggleBatchLines(int row);
+    bool isExpanded(int row) const;
+
+    // Appends a new empty row before the totals row; its number.
+    int addNewRow();
+    // Removes an item row (not an expanded one) and answers its "itemId|auxPropId" text when it
+    // was a saved row, empty for a new one.
+    QString removeItemRow(int row);
+
+    // The grand-total row: on the last page only, summed from the grid for one page, from the
+    // whole place's totals for several.
+    void refreshTotals();
+
+    SpreadGrid &grid() const { return m_grid; }
+    CellModel &cells() const;
+    const RowColors &colors() const { return m_colors; }
+
+private:
+    int qtyDecimal() const;
+    std::unique_ptr<QObject> dataService() const;
+    void removeTotalsRow();
+
+    SpreadGrid &m_grid;
+    EntryPlace m_place;
+    int m_amountScale = 2;
+    int m_pageIndex = 0;
+    int m_totalPages = 0;
+    int m_recordCount = 0;
+    bool m_useShortNumber = false;
+    RowColors m_colors;
+    QHash<int, ItemInfo> m_infos;
+    std::unique_ptr<Recordset> m_totals;   // over the whole place and filter
+    QHash<QString, int> m_expanded;        // item row key -> batch lines inserted under it
+    // The kind of every grid row, kept in step with every insert and removal the sheet makes.
+    enum class RowKind : quint8 { Header, Item, NewItem, BatchLine, Totals };
+    QVector<RowKind> m_kinds;
+};
