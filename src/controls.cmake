@@ -23,14 +23,21 @@ add_library(LumoICInitialCtl SHARED
   frame/typelibrary.cpp frame/typelibrary.h
   frame/valuationmethods.cpp frame/valuationmethods.h
   entry/accounttable.cpp entry/accounttable.h
+  entry/changebook.cpp entry/changebook.h
   entry/entrycommands.cpp entry/entrycommands.h
   entry/entrygridlayout.cpp entry/entrygridlayout.h
+  entry/entrysaver.cpp entry/entrysaver.h
   entry/entrysheet.cpp entry/entrysheet.h
+  entry/gridrowview.cpp entry/gridrowview.h
   entry/icinitctl.cpp entry/icinitctl.h
+  entry/itementry.cpp entry/itementry.h
   entry/iteminfo.cpp entry/iteminfo.h
   entry/itemrows.cpp entry/itemrows.h
   entry/navtree.cpp entry/navtree.h
+  entry/numbertext.cpp entry/numbertext.h
   entry/pagebar.cpp entry/pagebar.h
+  entry/rowcheck.cpp entry/rowcheck.h
+  entry/savescript.cpp entry/savescript.h
   entry/warehousetable.cpp entry/warehousetable.h
   adjust/icinitadjctl.cpp adjust/icinitadjctl.h
   print/icinitprint.cpp print/icinitprint.h
@@ -40,5 +47,4 @@ target_include_directories(LumoICInitialCtl PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(LumoICInitialCtl PUBLIC LumoAutomation LumoGrid Qt6::Widgets PRIVATE Qt6::PrintSupport)
 
 # Pieces that arrive in their own source lists.
-include(${CMAKE_CURRENT_SOURCE_DIR}/entry/entrydomain.cmake OPTIONAL)
 include(${CMAKE_CURRENT_SOURCE_DIR}/batch/batch.cmake OPTIONAL)

@@ -208,6 +208,23 @@ QString EntrySheet::removeItemRow(int row)
     return deleted;
 }
 
+void EntrySheet::markRowSaved(int row)
+{
+    if (!isNewRow(row))
+        return;
+    m_kinds[row] = RowKind::Item;
+    cells().clearCellStyle(row, Number, CellStyle::Locked);
+}
+
+QString EntrySheet::auxClassName(qint32 auxClassId) const
+{
+    for (const ItemInfo &info : m_infos) {
+        if (info.auxClassId == auxClassId && !info.auxClassName.isEmpty())
+            return info.auxClassName;
+    }
+    return {};
+}
+
 void EntrySheet::removeTotalsRow()
 {
     for (int row = int(m_kinds.size()) - 1; row > 0; --row) {

@@ -69,6 +69,11 @@ public:
     // was a saved row, empty for a new one.
     QString removeItemRow(int row);
 
+    // A saved new row becomes a loaded row: its code is no longer typed.
+    void markRowSaved(int row);
+    // The name of an auxiliary class of an item shown.
+    QString auxClassName(qint32 auxClassId) const;
+
     // The grand-total row: on the last page only, summed from the grid for one page, from the
     // whole place's totals for several.
     void refreshTotals();

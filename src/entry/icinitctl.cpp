@@ -1,10 +1,13 @@
 #include "icinitctl.h"
 
 #include "entry/entrygridlayout.h"
+#include "entry/entrysaver.h"
 #include "entry/entrysheet.h"
+#include "entry/itementry.h"
 #include "entry/navtree.h"
 #include "entry/pagebar.h"
 
+#include "frame/balancecheck.h"
 #include "frame/barlist.h"
 #include "frame/errorbox.h"
 #include "frame/librarystate.h"
@@ -22,6 +25,7 @@
 #include "frame/automation/recordset.h"
 
 #include "grid/cellmodel.h"
+#include "grid/spreadconsole.h"
 #include "grid/spreadgrid.h"
 
 #include <QComboBox>
@@ -42,7 +46,8 @@ bool isAvailable(EntryCommand command)
     switch (command) {
     case EntryCommand::Exit: case EntryCommand::Refresh: case EntryCommand::Tree: case EntryCommand::OrgWidth:
     case EntryCommand::AutoRefresh: case EntryCommand::ToolBar: case EntryCommand::ToolBarLabel:
-    case EntryCommand::StatusBar: case EntryCommand::DefaultStock:
+    case EntryCommand::StatusBar: case EntryCommand::DefaultStock: case EntryCommand::Save:
+    case EntryCommand::AddNew: case EntryCommand::Delete:
         return true;
     default:
         return false;
@@ -116,7 +121,12 @@ void ICInitCtl::buildLayout()
     m_grid = new SpreadGrid(this);
     m_grid->setObjectName(QStringLiteral("vsICInit"));
     m_sheet = new EntrySheet(*m_grid, this);
+    m_saver = std::make_unique<EntrySaver>(*m_sheet);
     connect(m_grid, &SpreadGrid::afterEdit, this, &ICInitCtl::onAfterEdit);
+    connect(m_grid, &SpreadGrid::validateEdit, this, [this](int row, int col, const QVariant &value) {
+        if (!checkEditedGroup(row, col, value))
+            m_grid->cancelEdit();
+    });
     connect(m_grid, &SpreadGrid::cellClicked, this, &ICInitCtl::onCellClicked);
 
     m_pageBar = new PageBar(this);
@@ -264,8 +274,10 @@ void ICInitCtl::switchMode(bool reconciliation)
 {
     const Mode wanted = reconciliation ? Mode::Check : Mode::Entry;
     m_modeBox->setCurrentIndex(reconciliation ? 1 : 0);
-    if (wanted == m_mode)
+    if (wanted == m_mode || !confirmLeave()) {
+        m_modeBox->setCurrentIndex(m_mode == Mode::Check ? 1 : 0);
         return;
+    }
     m_sheet->clear();
     showPages();
     setMode(wanted);
@@ -318,6 +330,11 @@ void ICInitCtl::tvICInit_NodeClick(const QString &key)
         if (m_mode == Mode::Entry && (index < 0 || index >= m_stocks.size()))
             throw LumoError(LumoError::AppBase + 31, QStringLiteral("下标越界：%1").arg(index),
                             QStringLiteral("tvICInit_NodeClick"));
+        if (!confirmLeave()) {
+            m_tree->selectNode(currentNodeKey());
+            LogEnd(logHandle, 0);
+            return;
+        }
         m_currentNode = index;
         loadRows(1);
         if (m_mode == Mode::Entry)
@@ -343,7 +360,7 @@ void ICInitCtl::loadRows(int pageIndex)
         m_sheet->loadPage(pageIndex, mlngPerPageSize());
     }
     showPages();
-    m_dirty = false;
+    m_saver->changes().clear();
     setMBlsIsNewData(false);
     barList()->setEnabled(EntryKeys::Find, m_sheet->lastDataRow() > 0);
     barList()->setEnabled(EntryKeys::EFind, m_sheet->lastDataRow() > 0);
@@ -379,6 +396,8 @@ void ICInitCtl::PageCommand(const QString &key)
     else
         return;
     page = qBound(1, page, qMax(1, mTotalPages()));
+    if (!confirmLeave())
+        return;
     try {
         loadRows(page);
     } catch (const LumoError &error) {
@@ -386,21 +405,67 @@ void ICInitCtl::PageCommand(const QString &key)
     }
 }
 
+void ICInitCtl::setSaveEnabled(bool enabled)
+{
+    const bool allowed = enabled && LibraryState::instance().periodOpen;
+    barList()->setEnabled(EntryKeys::Save, allowed);
+    barList()->setEnabled(EntryKeys::FSave, allowed);
+}
+
 void ICInitCtl::markRowChanged(int row)
 {
     m_grid->cells()->setText(row, EntryCol::Flag, QStringLiteral("1"));
-    m_dirty = true;
+    m_saver->changes().setDirty(true);
     setMBlsIsNewData(true);
-    if (LibraryState::instance().periodOpen) {
-        barList()->setEnabled(EntryKeys::Save, true);
-        barList()->setEnabled(EntryKeys::FSave, true);
+    if (!barList()->isEnabled(EntryKeys::Save)) {
+        setSaveEnabled(true);
+        RefreshToolbar();
     }
+}
+
+// Each edit of a figure is checked against its group at once; the complete row check runs when
+// the row is saved.
+bool ICInitCtl::checkEditedGroup(int row, int col, const QVariant &value)
+{
+    if (!m_sheet->isItemRow(row))
+        return true;
+    const CellModel &cells = *m_grid->cells();
+    for (const auto &g : ItemRows::groups()) {
+        if (col != g.quantity && col != g.amount && col != g.difference)
+            continue;
+        const auto figure = [&](int c) { return c == col ? value.toDouble() : cells.number(row, c); };
+        BalanceRules rules{m_sheet->place().stockType, SysParams::toBool(SysParam::UnderStock),
+                           SysParams::toInt(SysParam::AuditChoice)};
+        // A quantity is typed before its amount: a missing amount is judged when the row is saved.
+        if (col == g.quantity)
+            rules.auditChoice = 0;
+        int emptyGroups = 0;
+        const BalanceVerdict verdict = BalanceCheck::check(figure(g.quantity), figure(g.amount),
+                                                           figure(g.difference), emptyGroups, false, 0, rules);
+        if (!verdict.valid)
+            tellUser(verdict.message());
+        return verdict.valid;
+    }
+    return true;
 }
 
 void ICInitCtl::onAfterEdit(int row, int col)
 {
     if (!m_sheet->isItemRow(row) || col == EntryCol::Flag)
         return;
+    if (col == EntryCol::Number && m_sheet->isNewRow(row)) {
+        try {
+            const ItemEntry::Outcome outcome = ItemEntry::enterCode(*m_sheet, row, m_grid->cells()->text(row, col));
+            if (!outcome.filled) {
+                tellUser(outcome.message);
+                SpreadConsole::moveToCell(*m_grid, row, EntryCol::Number);
+                return;
+            }
+        } catch (const LumoError &error) {
+            reportProcedureError(QStringLiteral("FillItemDetailByF7"), error);
+            return;
+        }
+    }
     markRowChanged(row);
 }
 
@@ -408,11 +473,89 @@ void ICInitCtl::onCellClicked(int row, int col)
 {
     if (col != EntryCol::Mark || !m_sheet->isItemRow(row))
         return;
+    const ItemInfo *info = m_sheet->itemInfo(int(m_grid->cells()->number(row, EntryCol::ItemID)));
+    if (!info || !info->hasDetailLines() || m_sheet->isNewRow(row))
+        return;
+    // Unfolding starts from saved figures: pending changes are saved first, without asking.
+    if (barList()->isEnabled(EntryKeys::Save) && !SaveData())
+        return;
     try {
         m_sheet->toggleBatchLines(row);
     } catch (const LumoError &error) {
         reportProcedureError(QStringLiteral("FillBatManDetailByRs"), error);
     }
+}
+
+bool ICInitCtl::SaveData()
+{
+    setStatusText(Msg::Saving);
+    bool saved = false;
+    try {
+        const EntrySaver::Outcome outcome = m_saver->save();
+        if (!outcome.saved) {
+            tellUser(outcome.message);
+            SpreadConsole::moveToCell(*m_grid, outcome.refusedRow, outcome.refusedCol);
+        } else {
+            saved = true;
+            setSaveEnabled(false);
+            setMBlsIsNewData(false);
+            m_sheet->refreshTotals();
+            RefreshToolbar();
+        }
+    } catch (const LumoError &error) {
+        reportProcedureError(QStringLiteral("SaveData"), error);
+    }
+    setStatusText(Msg::Ready);
+    return saved;
+}
+
+bool ICInitCtl::confirmLeave()
+{
+    if (askToSave(m_saver->changes(), barList()->isEnabled(EntryKeys::Save)))
+        return SaveData();
+    setSaveEnabled(false);
+    return true;
+}
+
+void ICInitCtl::beforeUnload()
+{
+    confirmLeave();
+}
+
+int ICInitCtl::AddNewRow()
+{
+    const WarehouseEntry *place = m_mode == Mode::Entry && m_currentNode > 0 ? &m_stocks.at(m_currentNode) : nullptr;
+    if (!place || place->isStockMgr != 0)
+        return 0;
+    const int row = m_sheet->addNewRow();
+    SpreadConsole::moveToCell(*m_grid, row, EntryCol::Number);
+    return row;
+}
+
+bool ICInitCtl::DeleteCurrentRow()
+{
+    const int row = m_grid->row();
+    if (!m_sheet->isItemRow(row))
+        return false;
+    if (m_sheet->isExpanded(row)) {
+        tellUser(QStringLiteral("该物料已展开，不能删除！"));
+        return false;
+    }
+    m_saver->noteDeleted(m_sheet->removeItemRow(row));
+    m_sheet->refreshTotals();
+    setMBlsIsNewData(true);
+    setSaveEnabled(true);
+    RefreshToolbar();
+    return true;
+}
+
+QString ICInitCtl::currentNodeKey() const
+{
+    for (const QString &key : m_tree->nodeKeys()) {
+        if (m_tree->nodeTag(key) == m_currentNode)
+            return key;
+    }
+    return {};
 }
 
 void ICInitCtl::setNodeCommandsVisible(bool visible)
@@ -431,8 +574,18 @@ void ICInitCtl::runCommand(const QString &key)
         closeHostFrame();
         break;
     case EntryCommand::Refresh:
-        LoadingStocks();
+        if (m_currentNode >= 0 && confirmLeave())
+            loadRows(mlngPageIndex());
         RefreshToolbar();
+        break;
+    case EntryCommand::Save:
+        SaveData();
+        break;
+    case EntryCommand::AddNew:
+        AddNewRow();
+        break;
+    case EntryCommand::Delete:
+        DeleteCurrentRow();
         break;
     case EntryCommand::Tree:
         m_treePane->setHidden(!m_treePane->isHidden());

@@ -11,6 +11,7 @@
 
 #include <memory>
 
+class EntrySaver;
 class EntrySheet;
 class NavTree;
 class PageBar;
@@ -60,8 +61,21 @@ public:
     Q_INVOKABLE void PageCommand(const QString &key);
     Q_INVOKABLE QString pageLabel() const;
 
+    // The Save command: checks the changed rows and writes them in one call; false when a row was
+    // refused or the write failed.
+    Q_INVOKABLE bool SaveData();
+    // Asks "数据已经改变，是否需要保存？" when there are unsaved changes and saves on Yes; false
+    // when the save the user asked for did not succeed, so the caller stays where it is.
+    bool confirmLeave();
+    // Appends a new row and puts the cursor on its code cell.
+    Q_INVOKABLE int AddNewRow();
+    // Deletes the item row under the cursor (not an unfolded one).
+    Q_INVOKABLE bool DeleteCurrentRow();
+    EntrySaver *saver() const { return m_saver.get(); }
+
 protected:
     void runCommand(const QString &key) override;
+    void beforeUnload() override;
     void applyDefaultStockSetting() override;
     int stockListIndex() const override;
 
@@ -78,6 +92,9 @@ private:
     void onAfterEdit(int row, int col);
     void onCellClicked(int row, int col);
     void markRowChanged(int row);
+    void setSaveEnabled(bool enabled);
+    QString currentNodeKey() const;
+    bool checkEditedGroup(int row, int col, const QVariant &value);
 
     Mode m_mode = Mode::Entry;
     int m_currentNode = -1;
@@ -95,5 +112,5 @@ private:
     EntrySheet *m_sheet = nullptr;
     PageBar *m_pageBar = nullptr;
     QWidget *m_treePane = nullptr;
-    bool m_dirty = false;
+    std::unique_ptr<EntrySaver> m_saver;
 };

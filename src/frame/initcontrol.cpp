@@ -95,8 +95,10 @@ QObject *InitControl::Controls() const
 
 void InitControl::NotifyMessage(const QString &strMsg, const QVariantList &)
 {
-    if (strMsg == QueryUnload)
+    if (strMsg == QueryUnload) {
+        beforeUnload();
         saveViewSettings();
+    }
 }
 
 void InitControl::RefreshToolbar()

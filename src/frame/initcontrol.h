@@ -64,6 +64,8 @@ signals:
 protected:
     // Runs the command of a menu or toolbar key; unknown keys do nothing.
     virtual void runCommand(const QString &key) = 0;
+    // Runs when the host's frame is about to close, before the view settings are saved.
+    virtual void beforeUnload() {}
     // The name under which errors of the command procedure are reported.
     virtual QString commandProcedure() const { return QStringLiteral("DoAction"); }
 

@@ -27,6 +27,9 @@ public:
     QString operatorName;
     // Inventory initialisation still open: the negation of "ICClosed".
     bool periodOpen = false;
+    // The running number of initial-balance records, as numbered by the batch dialogs since the
+    // system parameters were read; a save writes it back when it moved.
+    qint64 iniBillInterId = 0;
 
 private:
     LibraryState() = default;

@@ -32,6 +32,12 @@ public:
         return rs;
     }
     Q_INVOKABLE void Fail() const { throw LumoError(LumoError::AppBase + 7, QStringLiteral("失败了"), QStringLiteral("Sample")); }
+    // Published members take up to fourteen arguments.
+    Q_INVOKABLE QString Fourteen(int a, int b, int c, int d, int e, int f, int g, int h, int i, int j, int k, int l,
+                                 int m, const QString &n) const
+    {
+        return QString::number(a + b + c + d + e + f + g + h + i + j + k + l + m) + n;
+    }
     Q_INVOKABLE int Count2(QObject *dictionary) const { return Dispatch::getProperty(dictionary, QStringLiteral("Count")).toInt(); }
 
 private:
@@ -135,6 +141,11 @@ private slots:
         Dictionary d;
         d.Add(QStringLiteral("x"), 1);
         QCOMPARE(Dispatch::call(&sample, QStringLiteral("Count2"), {QVariant::fromValue<QObject *>(&d)}).toInt(), 1);
+        QVariantList many;
+        for (int i = 1; i <= 13; ++i)
+            many.append(i);
+        many.append(QStringLiteral("!"));
+        QCOMPARE(Dispatch::call(&sample, QStringLiteral("Fourteen"), many).toString(), QStringLiteral("91!"));
     }
 
     void dispatchRaisesForUnknownMembersAndPassesErrors()
@@ -154,6 +165,7 @@ private slots:
             QCOMPARE(error.source(), QStringLiteral("Sample"));
         }
         QVERIFY_THROWS_EXCEPTION(LumoError, Dispatch::call(&sample, QStringLiteral("Scale"), {1, 2, 3}));
+        QVERIFY_THROWS_EXCEPTION(LumoError, Dispatch::call(&sample, QStringLiteral("Scale"), {QStringLiteral("abc")}));
         QVERIFY_THROWS_EXCEPTION(LumoError, Dispatch::call(nullptr, QStringLiteral("Scale")));
         QVERIFY_THROWS_EXCEPTION(LumoError, Dispatch::setProperty(&sample, QStringLiteral("Name"), QStringLiteral("x")));
     }

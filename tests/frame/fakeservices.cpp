@@ -40,6 +40,18 @@ public:
             rs->appendRow(QVector<QVariant>(row.begin(), row.end()));
         return rs;
     }
+    // A place without balances: no rows, no pages.
+    Q_INVOKABLE QObject *FetchYtdInitialData(const QString &, int, int, int, int, int, const QString &,
+                                             const QString &, const QString &, const QString &, bool)
+    {
+        ++FakeWorld::instance().initialDataCalls;
+        auto *page = new Dictionary;
+        page->Add(QStringLiteral("Rows"), QVariant::fromValue<QObject *>(new Recordset({QStringLiteral("FItemID")})));
+        page->Add(QStringLiteral("Totals"), QVariant::fromValue<QObject *>(new Recordset({QStringLiteral("FInitBegQty")})));
+        page->Add(QStringLiteral("TotalPages"), 0);
+        page->Add(QStringLiteral("RecordCount"), 0);
+        return page;
+    }
     Q_INVOKABLE QObject *FetchMeasureUnits(const QString &)
     {
         auto *rs = new Recordset({QStringLiteral("FMeasureUnitID"), QStringLiteral("FUnitGroupID"),

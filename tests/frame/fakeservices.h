@@ -24,6 +24,7 @@ struct FakeWorld
     int commitCalls = 0;
     int dataObjectsCreated = 0;
     QStringList stockTypeArguments;
+    int initialDataCalls = 0;
     bool logEnabled = true;
     int logObjectsCreated = 0;
     QStringList logLines;

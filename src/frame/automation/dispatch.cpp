@@ -6,7 +6,6 @@
 #include <QMetaMethod>
 #include <QMetaProperty>
 
-#include <array>
 
 namespace {
 
@@ -55,27 +54,23 @@ QVariant convertArgument(const QVariant &arg, int typeId, const QString &member)
 QVariant callMethod(QObject *object, const QMetaMethod &method, const QVariantList &args)
 {
     const QString member = QString::fromLatin1(method.name());
-    std::array<QVariant, 10> converted;
-    std::array<QGenericArgument, 10> generic;
+    // Published members take up to fourteen arguments: the call goes straight to the meta-call
+    // with an argument array of any length.
+    QVector<QVariant> converted(args.size());
+    QVector<void *> argv(args.size() + 1, nullptr);
     for (int i = 0; i < args.size(); ++i) {
         const int typeId = method.parameterType(i);
         converted[i] = convertArgument(args.at(i), typeId, member);
-        generic[i] = typeId == QMetaType::QVariant
-                         ? QGenericArgument("QVariant", &converted[i])
-                         : QGenericArgument(method.parameterTypeName(i).constData(), converted[i].constData());
+        argv[i + 1] = typeId == QMetaType::QVariant ? static_cast<void *>(&converted[i]) : converted[i].data();
     }
     QVariant result;
-    QGenericReturnArgument returnArgument;
-    if (method.returnType() == QMetaType::QVariant) {
-        returnArgument = QGenericReturnArgument("QVariant", &result);
-    } else if (method.returnType() != QMetaType::Void) {
+    if (method.returnType() == QMetaType::QVariant)
+        argv[0] = &result;
+    else if (method.returnType() != QMetaType::Void) {
         result = QVariant(QMetaType(method.returnType()));
-        returnArgument = QGenericReturnArgument(method.typeName(), result.data());
+        argv[0] = result.data();
     }
-    const bool ok = method.invoke(object, Qt::DirectConnection, returnArgument, generic[0], generic[1], generic[2],
-                                  generic[3], generic[4], generic[5], generic[6], generic[7], generic[8], generic[9]);
-    if (!ok)
-        memberNotFound(object, member);
+    QMetaObject::metacall(object, QMetaObject::InvokeMetaMethod, method.methodIndex(), argv.data());
     return result;
 }
 
@@ -140,8 +135,6 @@ void setProperty(QObject *object, const QString &name, const QVariant &value)
 QVariant call(QObject *object, const QString &member, const QVariantList &args)
 {
     requireObject(object, member);
-    if (args.size() > 10)
-        throw LumoError(LumoError::InvalidArgument, QStringLiteral("参数太多：%1").arg(member), source);
     QMetaMethod method;
     if (findMethod(object, member, int(args.size()), &method))
         return callMethod(object, method, args);

@@ -1,0 +1,53 @@
+#include "balancecheck.h"
+
+#include "logincontext.h"
+#include "messages.h"
+#include "valuationmethods.h"
+
+namespace {
+
+constexpr int GroupsPerRow = 4;
+
+BalanceVerdict refuse(std::initializer_list<const char *> lines)
+{
+    BalanceVerdict verdict;
+    verdict.valid = false;
+    for (const char *line : lines)
+        verdict.lines.append(ResString(QString::fromUtf8(line)));
+    return verdict;
+}
+
+} // namespace
+
+QString BalanceVerdict::message() const
+{
+    return lines.join(Msg::LineBreak);
+}
+
+namespace BalanceCheck {
+
+BalanceVerdict check(double quantity, double amount, double difference, int &emptyGroups, bool allocate, int track,
+                     const BalanceRules &rules)
+{
+    const double value = amount + difference;
+    const bool agency = rules.stockType == AgencyStockType;
+    if (quantity == 0 && value == 0) {
+        ++emptyGroups;
+        if (emptyGroups >= GroupsPerRow)
+            return refuse({agency ? "录入的数据[数量=0]！" : "录入的数据[数量=0，金额=0]！",
+                           "没有实际意义，数据非法！请重新录入！"});
+    }
+    if (quantity < 0 && !rules.underStock)
+        return refuse({"录入的数据[数量<0]！", "但账套不允许负结存,因此数量不能<0！", "数据非法！请重新录入！"});
+    if (quantity > 0 && value < 0)
+        return refuse({"录入的数据[数量>0，金额<0]！", "单价将出现负数，数据非法！请重新录入！"});
+    if (quantity < 0 && value > 0)
+        return refuse({"录入的数据[数量<0，金额>0]！", "单价将出现负数，数据非法！请重新录入！"});
+    if (quantity != 0 && value == 0 && !agency && rules.auditChoice == 1)
+        return refuse({"录入的数据[金额=0]！", "但账套实行数量金额核算,因此金额不能等于0！", "数据非法！请重新录入！"});
+    if (allocate && Valuation::isAverage(track) && quantity == 0 && value != 0)
+        return refuse({"分摊的数据[数量=0，金额<>0]！", "单价将不一致，数据非法！请重新录入！"});
+    return {};
+}
+
+} // namespace BalanceCheck
