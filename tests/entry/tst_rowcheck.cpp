@@ -1,0 +1,310 @@
+#include "tst_rowcheck.h"
+
+#include "fakerowview.h"
+
+#include "entry/entrygridlayout.h"
+#include "entry/entrysheet.h"
+#include "entry/gridrowview.h"
+#include "entry/rowcheck.h"
+
+#include "frame/icinitstruct.h"
+#include "frame/sysparams.h"
+
+#include "frame/automation/dictionary.h"
+
+#include "grid/cellmodel.h"
+#include "grid/numberformat.h"
+#include "grid/spreadconsole.h"
+
+#include <QTest>
+
+namespace {
+
+const QString NoItem = QStringLiteral("系统检测不到物料，请重新选择！");
+const QString NoUnit = QStringLiteral("系统检测不到计量单位，请重新选择！");
+const QString Negative = QStringLiteral(
+    "录入的数据[数量<0]！\r\n但账套不允许负结存,因此数量不能<0！\r\n数据非法！请重新录入！");
+const QString EmptyRow = QStringLiteral("录入的数据[数量=0，金额=0]！\r\n没有实际意义，数据非法！请重新录入！");
+const QString NoAmount = QStringLiteral(
+    "录入的数据[金额=0]！\r\n但账套实行数量金额核算,因此金额不能等于0！\r\n数据非法！请重新录入！");
+
+constexpr int ColorClass = 5;
+const EntryPlace Place{12, 0, 501};
+
+QString className(qint32 auxClassId)
+{
+    return auxClassId == ColorClass ? QStringLiteral("颜色") : QStringLiteral("未知类别");
+}
+
+void setParam(const QString &key, const QVariant &value)
+{
+    SysParams::current()->setItem(key, value);
+}
+
+enum Fault {
+    NoItemId = 0x01,
+    NegativeItemId = 0x02,
+    BlankCode = 0x04,
+    NoUnitId = 0x08,
+    NoAuxProp = 0x10,
+    BadFigures = 0x20,
+};
+
+FakeRowView rowWith(int faults)
+{
+    FakeRowView row;
+    if (faults & NoItemId)
+        row.item = 0;
+    if (faults & NegativeItemId)
+        row.item = -3;
+    if (faults & BlankCode)
+        row.code = QStringLiteral("   ");
+    if (faults & NoUnitId)
+        row.unit = 0;
+    if (faults & NoAuxProp) {
+        row.auxLocked = false;
+        row.auxClass = ColorClass;
+    }
+    if (faults & BadFigures)
+        row.groups[1] = {-1, 0, -5, 0};
+    return row;
+}
+
+} // namespace
+
+void TestRowCheck::init()
+{
+    SysParams::replace(std::make_unique<Dictionary>());
+    setParam(SysParam::CurrentPeriod, 3);
+    setParam(SysParam::UnderStock, 0);
+    setParam(SysParam::AuditChoice, 1);
+}
+
+void TestRowCheck::cleanup()
+{
+    SysParams::replace(nullptr);
+}
+
+void TestRowCheck::refusalOrderAndCursor_data()
+{
+    QTest::addColumn<int>("faults");
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QString>("message");
+
+    const QString code = QStringLiteral("1.01.001");
+    const QString auxMessage = QStringLiteral("物料1.01.001使用颜色管理，请选择颜色！");
+    QTest::newRow("no item") << int(NoItemId) << code << EntryCol::Number << NoItem;
+    QTest::newRow("negative item id") << int(NegativeItemId) << code << EntryCol::Number << NoItem;
+    QTest::newRow("blank code") << int(BlankCode) << code << EntryCol::Number << NoItem;
+    // The rate column beside the unit takes the cursor, not the unit column.
+    QTest::newRow("no unit") << int(NoUnitId) << code << EntryCol::SecCoefficient << NoUnit;
+    QTest::newRow("auxiliary property not chosen") << int(NoAuxProp) << code << EntryCol::AuxProp << auxMessage;
+    QTest::newRow("code trimmed in the message") << int(NoAuxProp) << QStringLiteral("  1.01.001 ") << EntryCol::AuxProp
+                                                 << auxMessage;
+    QTest::newRow("item before everything")
+        << int(NoItemId | BlankCode | NoUnitId | NoAuxProp | BadFigures) << code << EntryCol::Number << NoItem;
+    QTest::newRow("code before unit") << int(BlankCode | NoUnitId) << code << EntryCol::Number << NoItem;
+    QTest::newRow("unit before auxiliary property")
+        << int(NoUnitId | NoAuxProp | BadFigures) << code << EntryCol::SecCoefficient << NoUnit;
+    QTest::newRow("auxiliary property before figures")
+        << int(NoAuxProp | BadFigures) << code << EntryCol::AuxProp << auxMessage;
+}
+
+void TestRowCheck::refusalOrderAndCursor()
+{
+    QFETCH(int, faults);
+    QFETCH(QString, code);
+    QFETCH(int, column);
+    QFETCH(QString, message);
+
+    FakeRowView row = rowWith(faults);
+    if (!(faults & BlankCode))
+        row.code = code;
+    ICInitStruct record;
+    const RowVerdict verdict = RowCheck::check(row, Place, className, record);
+    QVERIFY(!verdict.valid);
+    QCOMPARE(verdict.column, column);
+    QCOMPARE(verdict.message, message);
+}
+
+void TestRowCheck::refusedGroupMovesToItsQuantity_data()
+{
+    QTest::addColumn<int>("group");
+    QTest::addColumn<int>("column");
+    QTest::newRow("year start") << 0 << EntryCol::YtdBegQty;
+    QTest::newRow("receipts") << 1 << EntryCol::ReceiveQty;
+    QTest::newRow("issues") << 2 << EntryCol::SendQty;
+    QTest::newRow("opening") << 3 << EntryCol::BegQty;
+}
+
+void TestRowCheck::refusedGroupMovesToItsQuantity()
+{
+    QFETCH(int, group);
+    QFETCH(int, column);
+
+    FakeRowView row;
+    row.groups[size_t(group)] = {-2, 0, -20, 0};
+    ICInitStruct record;
+    const RowVerdict verdict = RowCheck::check(row, Place, className, record);
+    QVERIFY(!verdict.valid);
+    QCOMPARE(verdict.column, column);
+    QCOMPARE(verdict.message, Negative);
+}
+
+void TestRowCheck::settingsDecideGroupRules()
+{
+    ICInitStruct record;
+
+    // A row of nothing is refused once, on the opening group.
+    FakeRowView empty;
+    empty.groups = {};
+    RowVerdict verdict = RowCheck::check(empty, Place, className, record);
+    QCOMPARE(verdict.message, EmptyRow);
+    QCOMPARE(verdict.column, EntryCol::BegQty);
+
+    FakeRowView negative;
+    negative.groups[0] = {-5, 0, -100, 0};
+    negative.groups[3] = {-5, 0, -100, 0};
+    QCOMPARE(RowCheck::check(negative, Place, className, record).column, EntryCol::YtdBegQty);
+    setParam(SysParam::UnderStock, 1);
+    QVERIFY(RowCheck::check(negative, Place, className, record).valid);
+
+    FakeRowView quantityOnly;
+    quantityOnly.groups[0] = {3, 0, 0, 0};
+    verdict = RowCheck::check(quantityOnly, Place, className, record);
+    QCOMPARE(verdict.message, NoAmount);
+    QVERIFY(RowCheck::check(quantityOnly, {12, 0, 502}, className, record).valid);
+    setParam(SysParam::AuditChoice, 0);
+    QVERIFY(RowCheck::check(quantityOnly, Place, className, record).valid);
+}
+
+void TestRowCheck::validRowFillsRecord()
+{
+    FakeRowView row;
+    row.auxLocked = false;
+    row.auxClass = ColorClass;
+    row.auxProp = 41;
+    // Binary noise from typed arithmetic is rounded away before the check and in the record.
+    row.groups = {{{0.1 + 0.2, 1.5, 10.25, -0.25},
+                   {2, 4, 20, 0},
+                   {1, 2, 7.000000000049, 0},
+                   {1.3, 3.5, 23.25, -0.25}}};
+    row.rate = 2.5;
+    row.secUnit = 9;
+    row.stockIn = QDate(2024, 1, 5);
+    row.key = QStringLiteral("12|0|3|3057|0");
+    row.batchLocked = false;
+
+    ICInitStruct record;
+    const RowVerdict verdict = RowCheck::check(row, Place, className, record);
+    QVERIFY2(verdict.valid, qPrintable(verdict.message));
+    QCOMPARE(int(record.Period), 3);
+    QCOMPARE(record.StockID, 12);
+    QCOMPARE(record.SPID, 0);
+    QCOMPARE(record.ItemID, 3057);
+    QCOMPARE(record.UnitID, 7);
+    // Compared as their shortest texts: a fuzzy compare would let the noise through.
+    QCOMPARE(NumberFormat::plain(record.YtdAuxBegQty), QStringLiteral("0.3"));
+    QCOMPARE(record.YtdBegBal, 10.25);
+    QCOMPARE(record.YtdBegDiff, -0.25);
+    QCOMPARE(record.YtdAuxReceive, 2.0);
+    QCOMPARE(record.YtdDebit, 20.0);
+    QCOMPARE(record.YtdAuxSend, 1.0);
+    QCOMPARE(NumberFormat::plain(record.YtdCredit), QStringLiteral("7"));
+    QCOMPARE(record.AuxBegQty, 1.3);
+    QCOMPARE(record.BegBal, 23.25);
+    QCOMPARE(record.BegDiff, -0.25);
+    QCOMPARE(record.YtdAuxUnitBegQty, 1.5);
+    QCOMPARE(record.YtdAuxUnitReceive, 4.0);
+    QCOMPARE(record.YtdAuxUnitSend, 2.0);
+    QCOMPARE(record.AuxUnitBegQty, 3.5);
+    QCOMPARE(record.SecCoefficient, 2.5);
+    QCOMPARE(record.SecUnitID, 9);
+    QCOMPARE(record.AuxPropID, 41);
+    QCOMPARE(record.StockInDate, QStringLiteral("2024-01-05"));
+    QCOMPARE(record.oFieldCompose, QStringLiteral("12|0|3|3057|0"));
+    QCOMPARE(record.composedKey(), QStringLiteral("12|0|3|3057|41"));
+    QVERIFY(record.BatchManager);
+
+    row.stockIn = QDate();
+    row.batchLocked = true;
+    QVERIFY(RowCheck::check(row, Place, className, record).valid);
+    QCOMPARE(record.StockInDate, QString());
+    QVERIFY(!record.BatchManager);
+}
+
+void TestRowCheck::refusedRowLeavesRecord()
+{
+    ICInitStruct record;
+    record.ItemID = 99;
+    record.StockInDate = QStringLiteral("2023-12-31");
+    FakeRowView row;
+    row.groups[2] = {-1, 0, -1, 0};
+    QVERIFY(!RowCheck::check(row, Place, className, record).valid);
+    QCOMPARE(record.ItemID, 99);
+    QCOMPARE(record.StockInDate, QStringLiteral("2023-12-31"));
+    QCOMPARE(int(record.Period), 0);
+}
+
+void TestRowCheck::gridRowReadsTheEntryColumns()
+{
+    using namespace EntryCol;
+    CellModel cells;
+    cells.reset(3, Count);
+    // As the grid is built: both cells locked unless the row's item asks for them.
+    cells.setColStyle(AuxProp, CellStyle().setLocked(true));
+    cells.setColStyle(Batch, CellStyle().setLocked(true));
+
+    const int row = 2;
+    cells.setValue(row, ItemID, 3057);
+    cells.setText(row, Number, QStringLiteral("1.01.001"));
+    cells.setValue(row, UnitID, 7);
+    cells.setValue(row, AuxClassID, ColorClass);
+    cells.setCellStyle(row, AuxProp, CellStyle().setLocked(false));
+    // Every figure column its own value, so a column read from the wrong place shows.
+    const int columns[] = {YtdBegQty, YtdBegAuxQty, YtdBegBal, YtdBegDiff, ReceiveQty, ReceiveAuxQty, Debit,
+                           ReceiveDiff, SendQty, SendAuxQty, Credit, SendDiff, BegQty, BegAuxQty, BegBal, BegDiff};
+    for (int i = 0; i < 16; ++i)
+        cells.setValue(row, columns[i], 1.0 + i);
+    cells.setValue(row, SecCoefficient, 12.5);
+    cells.setValue(row, SecUnitID, 9);
+    cells.setValue(row, StockInDate, QDate(2024, 3, 1));
+    cells.setText(row, FieldCompose, QStringLiteral("12|0|3|3057|40"));
+
+    ICInitStruct record;
+    RowVerdict verdict = RowCheck::check(GridRowView(cells, row), Place, className, record);
+    QCOMPARE(verdict.column, AuxProp);
+    QCOMPARE(verdict.message, QStringLiteral("物料1.01.001使用颜色管理，请选择颜色！"));
+
+    cells.setValue(row, AuxPropID, 41);
+    verdict = RowCheck::check(GridRowView(cells, row), Place, className, record);
+    QVERIFY2(verdict.valid, qPrintable(verdict.message));
+    QCOMPARE(record.ItemID, 3057);
+    QCOMPARE(record.UnitID, 7);
+    QCOMPARE(record.AuxPropID, 41);
+    const double figures[] = {record.YtdAuxBegQty, record.YtdAuxUnitBegQty, record.YtdBegBal, record.YtdBegDiff,
+                              record.YtdAuxReceive, record.YtdAuxUnitReceive, record.YtdDebit, record.YtdReceiveDiff,
+                              record.YtdAuxSend, record.YtdAuxUnitSend, record.YtdCredit, record.YtdSendDiff,
+                              record.AuxBegQty, record.AuxUnitBegQty, record.BegBal, record.BegDiff};
+    for (int i = 0; i < 16; ++i)
+        QCOMPARE(figures[i], 1.0 + i);
+    QCOMPARE(record.SecCoefficient, 12.5);
+    QCOMPARE(record.SecUnitID, 9);
+    QCOMPARE(record.StockInDate, QStringLiteral("2024-03-01"));
+    QCOMPARE(record.oFieldCompose, QStringLiteral("12|0|3|3057|40"));
+    QVERIFY(!record.BatchManager);
+
+    // A batch item's batch cell is an unlocked button; a date typed as text still reads.
+    SpreadConsole::setButtonCell(cells, row, Batch);
+    cells.setText(row, StockInDate, QStringLiteral("2024-02-29"));
+    QVERIFY(RowCheck::check(GridRowView(cells, row), Place, className, record).valid);
+    QVERIFY(record.BatchManager);
+    QCOMPARE(record.StockInDate, QStringLiteral("2024-02-29"));
+
+    // The item code typed on a new row is what the check trims.
+    cells.setText(row, Number, QStringLiteral("  "));
+    QCOMPARE(RowCheck::check(GridRowView(cells, row), Place, className, record).column, Number);
+    cells.clearCell(row, ItemID);
+    QCOMPARE(RowCheck::check(GridRowView(cells, row), Place, className, record).message, NoItem);
+}

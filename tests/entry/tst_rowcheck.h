@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QObject>
+
+class TestRowCheck : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void refusalOrderAndCursor_data();
+    void refusalOrderAndCursor();
+    void refusedGroupMovesToItsQuantity_data();
+    void refusedGroupMovesToItsQuantity();
+    void settingsDecideGroupRules();
+    void validRowFillsRecord();
+    void refusedRowLeavesRecord();
+    void gridRowReadsTheEntryColumns();
+};
