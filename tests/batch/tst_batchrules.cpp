@@ -1,0 +1,518 @@
+#include "tst_batchrules.h"
+
+#include "batch/apportion.h"
+#include "batch/batchitem.h"
+#include "batch/batchline.h"
+#include "batch/batchscript.h"
+#include "batch/batchvalidation.h"
+#include "batch/linebalance.h"
+
+#include "frame/automation/dictionary.h"
+
+#include <QTest>
+
+using Amounts = QList<std::optional<double>>;
+Q_DECLARE_METATYPE(Amounts)
+Q_DECLARE_METATYPE(FigureKind)
+Q_DECLARE_METATYPE(QList<FigureKind>)
+
+namespace {
+
+const QString CRLF = QStringLiteral("\r\n");
+
+// A changed line that passes every check of a batch and shelf-life item.
+struct Line
+{
+    BatchLine line;
+
+    explicit Line(int row, const QString &batch = QStringLiteral("B1"))
+    {
+        line.row = row;
+        line.batchNo = batch;
+        line.changed = true;
+        line.stockInDate = QDate(2024, 1, 1);
+        line.kfDate = QDate(2023, 12, 1);
+        line.kfPeriod = 180;
+        group(YearOpeningGroup, 10, 100).group(PeriodOpeningGroup, 10, 100);
+    }
+    Line &group(int index, double quantity, double amount)
+    {
+        line.setFigure(BatchGroups[size_t(index)].quantity, quantity);
+        line.setFigure(BatchGroups[size_t(index)].amount, amount);
+        return *this;
+    }
+    Line &figure(int col, double value)
+    {
+        line.setFigure(col, value);
+        return *this;
+    }
+    Line &kf(const QDate &date)
+    {
+        line.kfDate = date;
+        return *this;
+    }
+    operator BatchLine() const { return line; }
+};
+
+BatchItem item(bool batch, bool shelfLife, int track = 78)
+{
+    BatchItem it;
+    it.id = 3057;
+    it.name = QStringLiteral("冷轧板");
+    it.batchManaged = batch;
+    it.shelfLifeManaged = shelfLife;
+    it.track = track;
+    return it;
+}
+
+BatchRules amountRules(bool allocate = false)
+{
+    BatchRules rules;
+    rules.balance.auditChoice = 1;
+    rules.allocate = allocate;
+    return rules;
+}
+
+std::optional<BatchRefusal> saveCheck(const BatchItem &it, const QList<BatchLine> &lines,
+                                      const BatchRules &rules = amountRules())
+{
+    return BatchValidation::checkBeforeSave(it, rules, ApportionState{}, lines);
+}
+
+} // namespace
+
+void TestBatchRules::apportion_data()
+{
+    QTest::addColumn<Amounts>("quantities");
+    QTest::addColumn<double>("total");
+    QTest::addColumn<int>("scale");
+    QTest::addColumn<Amounts>("expected");
+
+    QTest::newRow("three batches of one") << Amounts{1, 1, 1} << 100.0 << 2 << Amounts{33.33, 33.33, 33.34};
+    QTest::newRow("negative total") << Amounts{1, 1, 1} << -100.0 << 2 << Amounts{-33.33, -33.33, -33.34};
+    // Empty quantity cells are passed over and keep their amounts.
+    QTest::newRow("empty cell skipped") << Amounts{1, std::nullopt, 2} << 10.0 << 2
+                                        << Amounts{3.33, std::nullopt, 6.67};
+    // The residue goes to the last line with quantity; a zero line after it gets nothing.
+    QTest::newRow("zero after the last") << Amounts{1, 2, 0} << 10.0 << 2 << Amounts{3.33, 6.67, 0.0};
+    QTest::newRow("no total typed") << Amounts{4, 6} << 0.0 << 2 << Amounts{0.0, 0.0};
+    // 0.025 per unit rounds half away from zero on its decimal text, not down on its binary value.
+    QTest::newRow("halves away from zero") << Amounts{1, 1, 2} << 0.1 << 2 << Amounts{0.03, 0.03, 0.04};
+    QTest::newRow("no decimals") << Amounts{1, 1, 1} << 100.0 << 0 << Amounts{33.0, 33.0, 34.0};
+}
+
+void TestBatchRules::apportion()
+{
+    QFETCH(Amounts, quantities);
+    QFETCH(double, total);
+    QFETCH(int, scale);
+    QFETCH(Amounts, expected);
+
+    const Amounts amounts = Apportion::split(quantities, total, scale);
+    QCOMPARE(amounts.size(), expected.size());
+    double sum = 0;
+    for (int i = 0; i < amounts.size(); ++i) {
+        QCOMPARE(amounts[i].has_value(), expected[i].has_value());
+        if (!expected[i])
+            continue;
+        QCOMPARE(*amounts[i] + 1.0, *expected[i] + 1.0); // fuzzy, also near zero
+        sum += *amounts[i];
+    }
+    QCOMPARE(sum + 1.0, total + 1.0); // the lines add up to the total exactly
+}
+
+void TestBatchRules::apportionFloatingRemainderTakesNoResidue()
+{
+    // 0.1 + 0.2 + 0.3 leaves a remainder of about 5.5e-17 when taken away again one by one: the
+    // remaining quantity never becomes exactly 0, so every line is priced and nobody takes the rest.
+    const Amounts quantities{0.1, 0.2, 0.3};
+    QVERIFY(0.1 + 0.2 + 0.3 - 0.1 - 0.2 - 0.3 != 0.0);
+
+    const Amounts amounts = Apportion::split(quantities, 0.01, 2);
+    QCOMPARE(amounts.size(), 3);
+    // Price 0.01 / 0.6: each line rounds to 0.00, and the lost cent is not given to the last line.
+    for (const std::optional<double> &amount : amounts)
+        QCOMPARE(*amount + 1.0, 1.0);
+
+    const Amounts hundred = Apportion::split(quantities, 100.0, 2);
+    QCOMPARE(*hundred[0], 16.67);
+    QCOMPARE(*hundred[1], 33.33);
+    QCOMPARE(*hundred[2], 50.0);
+}
+
+void TestBatchRules::lineBalance_data()
+{
+    QTest::addColumn<QList<double>>("figures"); // columns 2 to 17
+    QTest::addColumn<QList<FigureKind>>("unbalanced");
+
+    //                          qty  sec  amt   diff | received        | sent            | period
+    QTest::newRow("balanced") << QList<double>{10, 5, 100, 1, 2, 1, 20, 0, 4, 2, 40, 0.5, 8, 4, 80, 0.5}
+                              << QList<FigureKind>{};
+    QTest::newRow("quantity off") << QList<double>{11, 5, 100, 1, 2, 1, 20, 0, 4, 2, 40, 0.5, 8, 4, 80, 0.5}
+                                  << QList<FigureKind>{FigureKind::Quantity};
+    QTest::newRow("amount and difference off")
+        << QList<double>{10, 5, 100, 1, 2, 1, 20, 0, 4, 2, 41, 0.5, 8, 4, 80, 1}
+        << QList<FigureKind>{FigureKind::Amount, FigureKind::Difference};
+    // -10 = -9 + (-3) - (-2): negative figures that balance pass.
+    QTest::newRow("negatives balanced") << QList<double>{-10, 0, -100, 0, -2, 0, -20, 0, -3, 0, -30, 0, -9, 0, -90, 0}
+                                        << QList<FigureKind>{};
+    // All negative and off: -10 against -5 + (-3) - (-2) = -6.
+    QTest::newRow("negatives off") << QList<double>{-10, 0, -100, 0, -2, 0, -20, 0, -3, 0, -30, 0, -5, 0, -90, 0}
+                                   << QList<FigureKind>{FigureKind::Quantity};
+    // Unrounded: 0.004 apart is a difference even where the display shows two decimals.
+    QTest::newRow("below display precision") << QList<double>{1.004, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0}
+                                             << QList<FigureKind>{FigureKind::Quantity};
+    // 0.1 + 0.2 is 0.30000000000000004: binary noise is no difference.
+    QTest::newRow("binary noise") << QList<double>{0.3, 0, 0, 0, 0, 0, 0, 0, 0.2, 0, 0, 0, 0.1, 0, 0, 0}
+                                  << QList<FigureKind>{};
+}
+
+void TestBatchRules::lineBalance()
+{
+    QFETCH(QList<double>, figures);
+    QFETCH(QList<FigureKind>, unbalanced);
+
+    BatchLine line;
+    for (int i = 0; i < figures.size(); ++i)
+        line.setFigure(BatCol::FirstFigure + i, figures[i]);
+    QCOMPARE(LineBalance::unbalanced(line), unbalanced);
+}
+
+void TestBatchRules::typedBatch_data()
+{
+    QTest::addColumn<bool>("shelfLife");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("loaded");
+    QTest::addColumn<QString>("message"); // empty: accepted
+
+    const QString empty = QStringLiteral("批号不能为空，请输入批号！");
+    const QString exists = QStringLiteral("当前批号已存在，请重新输入！");
+    QTest::newRow("empty") << false << QString() << QStringLiteral("B1") << empty;
+    QTest::newRow("blanks") << false << QStringLiteral("   ") << QString() << empty;
+    QTest::newRow("new number") << false << QStringLiteral("B9") << QString() << QString();
+    QTest::newRow("held by another line") << false << QStringLiteral("B2") << QString() << exists;
+    QTest::newRow("held, blanks around") << false << QStringLiteral(" B2 ") << QStringLiteral("B1") << exists;
+    // With shelf life the same batch may come again under another production date.
+    QTest::newRow("held, shelf-life item") << true << QStringLiteral("B2") << QString() << QString();
+}
+
+void TestBatchRules::typedBatch()
+{
+    QFETCH(bool, shelfLife);
+    QFETCH(QString, typed);
+    QFETCH(QString, loaded);
+    QFETCH(QString, message);
+
+    const std::optional<QString> refused = BatchValidation::checkTypedBatch(
+        item(true, shelfLife), typed, loaded, {QStringLiteral("B2"), QStringLiteral("B3")});
+    QCOMPARE(refused.value_or(QString()), message);
+}
+
+void TestBatchRules::productionDate_data()
+{
+    QTest::addColumn<QDate>("kfDate");
+    QTest::addColumn<QDate>("stockIn");
+    QTest::addColumn<bool>("withShelfLife");
+    QTest::addColumn<int>("col"); // -1: accepted
+    QTest::addColumn<QString>("message");
+
+    const QDate stockIn(2024, 1, 1);
+    QTest::newRow("same day") << stockIn << stockIn << true << -1 << QString();
+    QTest::newRow("day before") << stockIn.addDays(-1) << stockIn << true << -1 << QString();
+    QTest::newRow("one day later") << stockIn.addDays(1) << stockIn << true << int(BatCol::KFDate)
+                                   << QStringLiteral("该物料实行保质期管理，生产日期不能大于入库日期！");
+    QTest::newRow("a year later, earlier month")
+        << QDate(2024, 1, 1) << QDate(2023, 12, 31) << true << int(BatCol::KFDate)
+        << QStringLiteral("该物料实行保质期管理，生产日期不能大于入库日期！");
+    QTest::newRow("no production date") << QDate() << stockIn << true << int(BatCol::KFDate)
+                                         << QStringLiteral("该物料实行保质期管理，生产日期不能为空，请输入生产日期！");
+    QTest::newRow("no shelf life") << stockIn << stockIn << false << int(BatCol::KFPeriod)
+                                   << QStringLiteral("该物料实行保质期管理，保质期(天)不能为空，请输入保质期(天)！");
+}
+
+void TestBatchRules::productionDate()
+{
+    QFETCH(QDate, kfDate);
+    QFETCH(QDate, stockIn);
+    QFETCH(bool, withShelfLife);
+    QFETCH(int, col);
+    QFETCH(QString, message);
+
+    Line line(4);
+    line.kf(kfDate);
+    line.line.stockInDate = stockIn;
+    if (!withShelfLife)
+        line.line.kfPeriod.reset();
+    const std::optional<BatchRefusal> refused = saveCheck(item(true, true), {line});
+    QCOMPARE(refused ? refused->col : -1, col);
+    QCOMPARE(refused ? refused->message : QString(), message);
+    if (refused)
+        QCOMPARE(refused->row, 4);
+}
+
+void TestBatchRules::repeats_data()
+{
+    QTest::addColumn<bool>("batch");
+    QTest::addColumn<bool>("shelfLife");
+    QTest::addColumn<QString>("secondBatch");
+    QTest::addColumn<QDate>("secondDate");
+    QTest::addColumn<int>("col");
+    QTest::addColumn<QString>("message");
+
+    const QDate first(2023, 12, 1);
+    const QDate other(2023, 11, 1);
+    const QString both = QStringLiteral("批次+生产/采购日期不能重复!");
+    QTest::newRow("both, same batch other date") << true << true << "B1" << other << -1 << QString();
+    QTest::newRow("both, other batch same date") << true << true << "B2" << first << -1 << QString();
+    QTest::newRow("both, same batch and date") << true << true << "B1" << first << int(BatCol::BatchNo) << both;
+    QTest::newRow("batch only, same batch") << true << false << "B1" << other << int(BatCol::BatchNo)
+                                            << QStringLiteral("批次不能重复!");
+    QTest::newRow("batch only, other batch") << true << false << "B2" << first << -1 << QString();
+    QTest::newRow("shelf life only, same date") << false << true << "B2" << first << int(BatCol::KFDate)
+                                                << QStringLiteral("生产/采购日期不能重复!");
+    QTest::newRow("shelf life only, other date") << false << true << "B1" << other << -1 << QString();
+}
+
+void TestBatchRules::repeats()
+{
+    QFETCH(bool, batch);
+    QFETCH(bool, shelfLife);
+    QFETCH(QString, secondBatch);
+    QFETCH(QDate, secondDate);
+    QFETCH(int, col);
+    QFETCH(QString, message);
+
+    // The repeat is a line in between and the refusal points at the later one.
+    const QList<BatchLine> lines{Line(1, QStringLiteral("B1")).kf(QDate(2023, 12, 1)),
+                                 Line(2, QStringLiteral("B7")).kf(QDate(2022, 1, 1)),
+                                 Line(3, secondBatch).kf(secondDate)};
+    const std::optional<BatchRefusal> refused = saveCheck(item(batch, shelfLife), lines);
+    QCOMPARE(refused ? refused->col : -1, col);
+    QCOMPARE(refused ? refused->message : QString(), message);
+    if (refused)
+        QCOMPARE(refused->row, 3);
+}
+
+void TestBatchRules::apportioningIsCheckedFirst()
+{
+    // An empty batch number would be refused too; the missing apportioning comes first.
+    const QList<BatchLine> lines{Line(1, QString())};
+    const ApportionState notApportioned{true, false, true};
+    const std::optional<BatchRefusal> refused =
+        BatchValidation::checkBeforeSave(item(true, false, 76), amountRules(true), notApportioned, lines);
+    QVERIFY(refused);
+    QCOMPARE(refused->message, QStringLiteral("加权平均法、移动平均法的物料\r\n采用批次管理时，金额需要分摊来确定单价！\r\n"
+                                              "系统检测到金额未分摊，请先分摊金额！"));
+    QCOMPARE(refused->row, -1);
+
+    // Apportioned, unchanged or not offered: the line check speaks.
+    const QString batchRequired = QStringLiteral("该物料实行批次管理，批号不能为空，请输入批号！");
+    for (const ApportionState &state : {ApportionState{true, true, true}, ApportionState{true, false, false},
+                                        ApportionState{false, false, true}}) {
+        const std::optional<BatchRefusal> next =
+            BatchValidation::checkBeforeSave(item(true, false, 76), amountRules(true), state, lines);
+        QVERIFY(next);
+        QCOMPARE(next->message, batchRequired);
+        QCOMPARE(next->col, int(BatCol::BatchNo));
+    }
+}
+
+void TestBatchRules::onlyChangedLinesAreChecked()
+{
+    Line unchanged(1, QString());
+    unchanged.line.changed = false;
+    QVERIFY(!saveCheck(item(true, false), {unchanged}));
+
+    // The repeat test looks at every line, changed or not.
+    Line first(1);
+    first.line.changed = false;
+    Line second(2);
+    second.line.changed = false;
+    QVERIFY(saveCheck(item(true, false), {first, second}));
+}
+
+void TestBatchRules::allocationRefusesValueWithoutQuantity()
+{
+    // Received: no quantity but an amount of 10.
+    const BatchLine line = Line(2).figure(BatCol::Debit, 10);
+    const BatchItem average = item(true, false, 76);
+
+    const std::optional<BatchRefusal> refused = saveCheck(average, {line}, amountRules(true));
+    QVERIFY(refused);
+    QCOMPARE(refused->message, QStringLiteral("分摊的数据[数量=0，金额<>0]！\r\n单价将不一致，数据非法！请重新录入！"));
+    QCOMPARE(refused->col, int(BatCol::ReceiveQty));
+    QCOMPARE(refused->row, 2);
+
+    QVERIFY(!saveCheck(average, {line}, amountRules(false)));
+    QVERIFY(!saveCheck(item(true, false, 78), {line}, amountRules(true)));
+
+    const BalanceVerdict onEdit = BatchValidation::checkGroup(line, BatchGroups[1], average, amountRules(true));
+    QVERIFY(!onEdit.valid);
+}
+
+void TestBatchRules::emptyLineIsRefusedOnItsFourthGroup()
+{
+    BatchLine empty = Line(3);
+    empty.figures.fill(0);
+    const std::optional<BatchRefusal> refused = saveCheck(item(true, false), {empty});
+    QVERIFY(refused);
+    QCOMPARE(refused->col, int(BatCol::BegQty));
+    QCOMPARE(refused->message, QStringLiteral("录入的数据[数量=0，金额=0]！\r\n没有实际意义，数据非法！请重新录入！"));
+
+    // A single empty group after an edit is no refusal.
+    QVERIFY(BatchValidation::checkGroup(empty, BatchGroups[0], item(true, false), amountRules()).valid);
+}
+
+void TestBatchRules::sqlNumber_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("integer") << 10.0 << "10";
+    QTest::newRow("negative") << -5.5 << "-5.5";
+    QTest::newRow("binary noise") << 0.1 + 0.2 << "0.3";
+    QTest::newRow("ten decimals") << 1.23456789012345 << "1.2345678901";
+    QTest::newRow("tiny") << 0.00000000004 << "0";
+    QTest::newRow("tiny negative") << -0.00000000004 << "0";
+    QTest::newRow("large, no exponent") << 1e15 << "1000000000000000";
+    QTest::newRow("money") << 123456789012.35 << "123456789012.35";
+}
+
+void TestBatchRules::sqlNumber()
+{
+    QFETCH(double, value);
+    QFETCH(QString, text);
+    QCOMPARE(BatchScript::number(value), text);
+}
+
+void TestBatchRules::scriptForOneLine()
+{
+    BatchScriptKey key;
+    key.stockId = 12;
+    key.spId = 3;
+    key.period = 1;
+    key.itemId = 3057;
+    key.auxPropId = 0;
+    key.unitId = 7;
+    key.fieldCompose = QStringLiteral("12|3|1|3057|0");
+
+    BatchLine line = Line(1, QStringLiteral("B'01"))
+                         .figure(BatCol::YtdBegQty, 10)
+                         .figure(BatCol::YtdBegBal, 1234.5)
+                         .figure(BatCol::ReceiveQty, 2)
+                         .figure(BatCol::Debit, 20.123456789012)
+                         .figure(BatCol::SendQty, 4)
+                         .figure(BatCol::Credit, 40)
+                         .figure(BatCol::BegQty, 8)
+                         .figure(BatCol::BegBal, 1214.623456789)
+                         .figure(BatCol::BegDiff, 0.1)
+                         .figure(BatCol::BegSecQty, 0.5)
+                         .figure(BatCol::YtdBegSecQty, 0.25)
+                         .figure(BatCol::SendSecQty, 0.125)
+                         .figure(BatCol::ReceiveSecQty, 0.0625)
+                         .kf(QDate(2023, 12, 20));
+    line.billInterId = 5;
+    line.snListId = 77;
+
+    const QString indent(26, QLatin1Char(' '));
+    const QString expected =
+        QStringLiteral(" Delete from ICInvInitial  Where FStockID=12 And        FSPID=3 And        FPeriod=1 And        "
+                       "FItemID=3057 and        FAuxPropID=0")
+        + CRLF + QStringLiteral(" Delete from ICInvInitial where FFieldCompose='12|3|1|3057|0'") + CRLF
+        + QStringLiteral(" Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo,") + CRLF
+        + indent + QStringLiteral("FYtdAuxBegQty,FYtdBegBal,FYtdBegDiff,") + CRLF + indent
+        + QStringLiteral("FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff,") + CRLF + indent
+        + QStringLiteral("FYtdAuxSend,FYtdCredit,FYtdSendDiff,") + CRLF + indent
+        + QStringLiteral("FAuxBegQty,FBegBal,FBegDiff,FBillInterID,") + CRLF + indent
+        + QStringLiteral("FKFDate,FKFPeriod,") + CRLF + indent
+        + QStringLiteral("FAuxUnitBegQty,FYtdAuxUnitBegQty,FYtdAuxUnitSend,") + CRLF + indent
+        + QStringLiteral("FYtdAuxUnitReceive,FStockInDate,FSecUnitID,FAuxPropID,FSecCoefficient,FSNListID,FFieldCompose)")
+        + QStringLiteral(" Values('0',1,12,3,3057,7,'B''01',10,1234.5,0,2,20.123456789,0,4,40,0,8,1214.623456789,0.1,5,"
+                         "'2023-12-20',180,0.5,0.25,0.125,0.0625,'2024-01-01',0,0,0,77,'12|3|1|3057|0')");
+    QCOMPARE(BatchScript::build(key, {line}, {}), expected);
+}
+
+void TestBatchRules::scriptWithoutLinesOnlyDeletes()
+{
+    BatchScriptKey key;
+    key.stockId = 5;
+    key.spId = 0;
+    key.period = 3;
+    key.itemId = 41;
+    key.auxPropId = 9;
+    const QString expected =
+        QStringLiteral(" Delete from ICInvInitial  Where FStockID=5 And        FSPID=0 And        FPeriod=3 And        "
+                       "FItemID=41 and        FAuxPropID=9")
+        + CRLF + QStringLiteral("Delete ICSerial Where FSNListID In (77,81)") + CRLF
+        + QStringLiteral("Delete ICSerialFlow Where FSNListID In (77,81)") + CRLF
+        + QStringLiteral("Delete ICSerial_F1 Where FSNListID In (77,81)");
+    QCOMPARE(BatchScript::build(key, {}, {77, 81}), expected);
+
+    key.fieldCompose = QStringLiteral("it's");
+    QVERIFY(BatchScript::build(key, {}, {}).endsWith(QStringLiteral(" where FFieldCompose='it''s'")));
+}
+
+void TestBatchRules::itemFromKey()
+{
+    Dictionary key;
+    key.Add(QStringLiteral("ID"), 3057);
+    key.Add(QStringLiteral("ShortNum"), QStringLiteral("LZB"));
+    key.Add(QStringLiteral("Num"), QStringLiteral("01.002"));
+    key.Add(QStringLiteral("Name"), QStringLiteral("冷轧板"));
+    key.Add(QStringLiteral("Model"), QStringLiteral("1.0mm"));
+    key.Add(QStringLiteral("FBM"), QStringLiteral("True"));
+    key.Add(QStringLiteral("FKF"), 0);
+    key.Add(QStringLiteral("Track"), 81);
+    key.Add(QStringLiteral("PlanPrice"), 12.5);
+    key.Add(QStringLiteral("UnitID"), 7);
+    key.Add(QStringLiteral("QtyDecimal"), 3);
+    key.Add(QStringLiteral("PriceDecimal"), 4);
+    key.Add(QStringLiteral("KFPeriod"), 180);
+    key.Add(QStringLiteral("SecUnitID"), 8);
+    key.Add(QStringLiteral("SecCoefficient"), 2.5);
+    key.Add(QStringLiteral("AuxPropID"), 11);
+
+    const BatchItem it = BatchItem::fromItemKey(key);
+    QCOMPARE(it.id, 3057);
+    QCOMPARE(it.shortNumber, QStringLiteral("LZB"));
+    QCOMPARE(it.number, QStringLiteral("01.002"));
+    QVERIFY(it.batchManaged);
+    QVERIFY(!it.shelfLifeManaged);
+    QVERIFY(it.plannedCost());
+    QCOMPARE(it.planPrice, 12.5);
+    QCOMPARE(it.unitId, 7);
+    QCOMPARE(it.qtyDecimal, 3);
+    QCOMPARE(it.priceDecimal, 4);
+    QCOMPARE(it.kfPeriod, 180);
+    QCOMPARE(it.secUnitId, 8);
+    QCOMPARE(it.secCoefficient, 2.5);
+    QCOMPARE(it.auxPropId, 11);
+    QCOMPARE(it.title(), QStringLiteral("冷轧板/1.0mm"));
+
+    key.setItem(QStringLiteral("Model"), QStringLiteral(" "));
+    QCOMPARE(BatchItem::fromItemKey(key).title(), QStringLiteral("冷轧板"));
+}
+
+void TestBatchRules::modeCaption_data()
+{
+    QTest::addColumn<bool>("batch");
+    QTest::addColumn<int>("track");
+    QTest::addColumn<bool>("quantitiesOnly");
+    QTest::addColumn<QString>("caption");
+
+    QTest::newRow("batch, amounts") << true << 78 << false << "批号/数量/金额";
+    QTest::newRow("batch, quantities") << true << 78 << true << "批号/数量";
+    QTest::newRow("batch, planned cost") << true << 81 << false << "批号/数量/金额/材料成本差异";
+    QTest::newRow("batch, planned cost, quantities") << true << 81 << true << "批号/数量";
+    QTest::newRow("shelf life, amounts") << false << 81 << false << "数量/金额";
+    QTest::newRow("shelf life, quantities") << false << 76 << true << "数量";
+}
+
+void TestBatchRules::modeCaption()
+{
+    QFETCH(bool, batch);
+    QFETCH(int, track);
+    QFETCH(bool, quantitiesOnly);
+    QFETCH(QString, caption);
+    QCOMPARE(item(batch, !batch, track).modeCaption(quantitiesOnly), caption);
+}

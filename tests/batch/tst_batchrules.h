@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QObject>
+
+// The batch dialog's rules without a widget: apportioning, the line balance, the checks, the
+// save script and the member handover.
+class TestBatchRules : public QObject
+{
+    Q_OBJECT
+private slots:
+    void apportion_data();
+    void apportion();
+    void apportionFloatingRemainderTakesNoResidue();
+
+    void lineBalance_data();
+    void lineBalance();
+
+    void typedBatch_data();
+    void typedBatch();
+    void productionDate_data();
+    void productionDate();
+    void repeats_data();
+    void repeats();
+    void apportioningIsCheckedFirst();
+    void onlyChangedLinesAreChecked();
+    void allocationRefusesValueWithoutQuantity();
+    void emptyLineIsRefusedOnItsFourthGroup();
+
+    void sqlNumber_data();
+    void sqlNumber();
+    void scriptForOneLine();
+    void scriptWithoutLinesOnlyDeletes();
+
+    void itemFromKey();
+    void modeCaption_data();
+    void modeCaption();
+};
