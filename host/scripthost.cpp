@@ -9,7 +9,11 @@
 #include "frame/automation/dispatch.h"
 #include "frame/automation/lumoerror.h"
 
+#include <QApplication>
 #include <QCoreApplication>
+#include <QDialog>
+#include <QPointer>
+#include <QTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -87,6 +91,41 @@ ScriptHost::ScriptHost(QJSEngine &engine, SuiteWindow &suite, QObject *parent)
     , m_suite(suite)
     , m_installed(&m_prompter)
 {
+    qApp->installEventFilter(this);
+}
+
+void ScriptHost::onNextDialog(const QJSValue &handler)
+{
+    m_dialogHandler = handler;
+}
+
+bool ScriptHost::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *dialog = qobject_cast<QDialog *>(watched);
+    if (event->type() != QEvent::Show || !dialog || !dialog->isModal())
+        return false;
+    const QJSValue handler = m_dialogHandler;
+    m_dialogHandler = QJSValue();
+    QPointer<QDialog> shown(dialog);
+    QTimer::singleShot(0, this, [this, shown, handler] {
+        if (!shown)
+            return;
+        if (!handler.isCallable()) {
+            m_pendingError = QStringLiteral("a dialog opened without a handler: %1").arg(shown->objectName());
+            shown->reject();
+            return;
+        }
+        const QJSValue wrapped = m_engine.globalObject().property(QStringLiteral("__wrapControl")).call(
+            {m_engine.newQObject(shown.data())});
+        QJSEngine::setObjectOwnership(shown.data(), QJSEngine::CppOwnership);
+        const QJSValue result = QJSValue(handler).call({wrapped});
+        if (result.isError()) {
+            m_pendingError = result.toString();
+            if (shown)
+                shown->reject();
+        }
+    });
+    return false;
 }
 
 QJSValue ScriptHost::raise(const QString &message)
@@ -237,6 +276,10 @@ int runScript(const QString &file, SuiteWindow &suite)
     engine.evaluate(QString::fromUtf8(prelude)).call({hostValue});
 
     const QJSValue result = engine.evaluate(source, file);
+    if (!host.pendingError().isEmpty()) {
+        std::fprintf(stderr, "%s: %s\n", qPrintable(file), qPrintable(host.pendingError()));
+        return 1;
+    }
     if (host.exitRequested())
         return host.exitCode();
     if (result.isError()) {

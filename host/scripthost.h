@@ -32,11 +32,20 @@ public:
     Q_INVOKABLE void processEvents();
     Q_INVOKABLE void exit(int code);
     Q_INVOKABLE QString propsString() const;
+    // The next modal dialog that opens is handed to `handler` once its event loop runs; a dialog
+    // that opens without a handler is closed (a script never waits for a person).
+    Q_INVOKABLE void onNextDialog(const QJSValue &handler);
     // print(...): the arguments joined by blanks on standard output.
     Q_INVOKABLE void print(const QString &line);
 
     bool exitRequested() const { return m_exitRequested; }
     int exitCode() const { return m_exitCode; }
+
+    // An error inside a dialog handler, reported when the script ends.
+    QString pendingError() const { return m_pendingError; }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QJSValue raise(const QString &message);
@@ -45,6 +54,8 @@ private:
     SuiteWindow &m_suite;
     ScriptedPrompter m_prompter;
     ScopedPrompter m_installed;
+    QJSValue m_dialogHandler;
+    QString m_pendingError;
     bool m_exitRequested = false;
     int m_exitCode = 0;
 };

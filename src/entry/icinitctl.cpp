@@ -1,5 +1,6 @@
 #include "icinitctl.h"
 
+#include "batch/frmbatchmanager.h"
 #include "entry/entrygridlayout.h"
 #include "entry/entrysaver.h"
 #include "entry/entrysheet.h"
@@ -19,6 +20,7 @@
 #include "frame/sysparams.h"
 
 #include "frame/automation/componentregistry.h"
+#include "frame/automation/dictionary.h"
 #include "frame/automation/dispatch.h"
 #include "frame/automation/lumoerror.h"
 #include "frame/automation/objectownership.h"
@@ -128,6 +130,7 @@ void ICInitCtl::buildLayout()
             m_grid->cancelEdit();
     });
     connect(m_grid, &SpreadGrid::cellClicked, this, &ICInitCtl::onCellClicked);
+    connect(m_grid, &SpreadGrid::cellButtonClick, this, &ICInitCtl::onCellButtonClick);
 
     m_pageBar = new PageBar(this);
     m_pageBar->setObjectName(QStringLiteral("pageBar"));
@@ -481,6 +484,40 @@ void ICInitCtl::onCellClicked(int row, int col)
         return;
     try {
         m_sheet->toggleBatchLines(row);
+    } catch (const LumoError &error) {
+        reportProcedureError(QStringLiteral("FillBatManDetailByRs"), error);
+    }
+}
+
+void ICInitCtl::onCellButtonClick(int row, int col)
+{
+    if (col != EntryCol::Batch || !m_sheet->isItemRow(row))
+        return;
+    // The batch lines hang on the item row's saved key: a new or changed row is saved first.
+    if (barList()->isEnabled(EntryKeys::Save) && !SaveData())
+        return;
+    CellModel &cells = *m_grid->cells();
+    const ItemInfo *info = m_sheet->itemInfo(int(cells.number(row, EntryCol::ItemID)));
+    if (!info || !info->hasDetailLines())
+        return;
+    ItemInfo item = *info;
+    item.auxPropId = int(cells.number(row, EntryCol::AuxPropID));
+    const std::unique_ptr<Dictionary> itemKey = item.toItemKey();
+    frmBatchManager dialog(this);
+    dialog.setBMItemKey(itemKey.get());
+    dialog.setCurrentBMStock(m_sheet->place().stockId);
+    dialog.setCurrentBMSPlace(m_sheet->place().spId);
+    dialog.setCurrentBMItem(item.id);
+    dialog.setCurrentUnitID(int(cells.number(row, EntryCol::UnitID)));
+    dialog.setCurrentSecUnitID(int(cells.number(row, EntryCol::SecUnitID)));
+    dialog.setFieldCompose(cells.text(row, EntryCol::FieldCompose));
+    dialog.setLVSColor(int(SettingsStore::rgbNumber(m_sheet->colors().lock)));
+    dialog.setStockType(m_sheet->place().stockType);
+    dialog.ShowDialog();
+    if (!dialog.SavedBatMan())
+        return;
+    try {
+        loadRows(mlngPageIndex());
     } catch (const LumoError &error) {
         reportProcedureError(QStringLiteral("FillBatManDetailByRs"), error);
     }

@@ -91,6 +91,8 @@ private:
     void showPages();
     void onAfterEdit(int row, int col);
     void onCellClicked(int row, int col);
+    // The batch cell of a batch- or shelf-life-managed item opens the batch dialog.
+    void onCellButtonClick(int row, int col);
     void markRowChanged(int row);
     void setSaveEnabled(bool enabled);
     QString currentNodeKey() const;
