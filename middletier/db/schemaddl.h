@@ -1,0 +1,32 @@
+#pragma once
+
+#include "middletier_global.h"
+#include "schema.h"
+
+#include <QStringList>
+
+class DbDialect;
+
+// The DDL of the declared schema in one dialect: a whole schema at a version, or the steps
+// from one version to a later one.
+class LUMOMIDDLETIER_EXPORT SchemaDdl
+{
+public:
+    explicit SchemaDdl(const DbDialect &dialect)
+        : m_dialect(dialect)
+    {
+    }
+
+    // CREATE TABLE and CREATE INDEX for every table as it stood at the version.
+    QStringList create(int version) const;
+    // New tables, added columns and new indexes of the versions after `from` up to `to`.
+    QStringList migrate(int from, int to) const;
+
+    QStringList createTable(const TableDecl &table, int version) const;
+
+private:
+    QString columnDefinition(const ColumnDecl &column) const;
+    QString createIndex(const TableDecl &table, const IndexDecl &index) const;
+
+    const DbDialect &m_dialect;
+};

@@ -1,0 +1,98 @@
+#include "sqlitedialect.h"
+
+#include <QSqlQuery>
+#include <QVariant>
+
+QString SqliteDialect::columnType(ColumnType type, int size) const
+{
+    switch (type) {
+    case ColumnType::Integer:
+    case ColumnType::SmallInt:
+    case ColumnType::BigInt:
+        return QStringLiteral("INTEGER");
+    case ColumnType::Real:
+        return QStringLiteral("REAL");
+    case ColumnType::Text:
+        return QStringLiteral("VARCHAR(%1)").arg(size);
+    case ColumnType::LongText:
+    case ColumnType::Date:
+    case ColumnType::DateTime:
+        return QStringLiteral("TEXT");
+    }
+    return QStringLiteral("TEXT");
+}
+
+QString SqliteDialect::autoIncrementKey() const
+{
+    // AUTOINCREMENT never hands out an id again, not even the last one after it was deleted:
+    // a task handle must not come back for another task.
+    return QStringLiteral("INTEGER PRIMARY KEY AUTOINCREMENT");
+}
+
+QString SqliteDialect::isNull(const QString &expression, const QString &replacement) const
+{
+    return QStringLiteral("ifnull(%1,%2)").arg(expression, replacement);
+}
+
+QString SqliteDialect::dateText(const QString &expression) const
+{
+    return QStringLiteral("substr(%1,1,10)").arg(expression);
+}
+
+QString SqliteDialect::insertIgnore(const QString &table, const QStringList &columns) const
+{
+    return QStringLiteral("INSERT OR IGNORE INTO %1 (%2) VALUES (%3)")
+        .arg(table, columns.join(QLatin1Char(',')), placeholders(int(columns.size())));
+}
+
+QStringList SqliteDialect::beginExclusive(const QString &) const
+{
+    // A deferred BEGIN would let two writers read first and then dead-lock on the upgrade.
+    return {QStringLiteral("BEGIN IMMEDIATE")};
+}
+
+QStringList SqliteDialect::resetAutoIncrement(const QString &, const QString &) const
+{
+    // sqlite_sequence already follows the largest id ever written.
+    return {};
+}
+
+QStringList SqliteDialect::sessionSetup(const AcctDbLocation &) const
+{
+    return {QStringLiteral("PRAGMA foreign_keys=ON"), QStringLiteral("PRAGMA journal_mode=WAL"),
+            QStringLiteral("PRAGMA synchronous=NORMAL")};
+}
+
+QStringList SqliteDialect::createContainer(const AcctDbLocation &) const
+{
+    return {};
+}
+
+QStringList SqliteDialect::tableNames(const QSqlDatabase &db) const
+{
+    QSqlQuery query(db);
+    query.exec(QStringLiteral("SELECT name FROM sqlite_master WHERE type='table' AND name NOT LIKE 'sqlite_%'"));
+    QStringList names;
+    while (query.next())
+        names.append(query.value(0).toString());
+    return names;
+}
+
+QStringList SqliteDialect::columnNames(const QSqlDatabase &db, const QString &table) const
+{
+    QSqlQuery query(db);
+    query.prepare(QStringLiteral("SELECT name FROM pragma_table_info(?)"));
+    query.addBindValue(table);
+    query.exec();
+    QStringList names;
+    while (query.next())
+        names.append(query.value(0).toString());
+    return names;
+}
+
+int SqliteDialect::maxBindValues() const
+{
+    // The limit of SQLite builds before 3.32; newer ones allow more, but longer statements
+    // gain nothing measurable.
+    return 999;
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "middletier_global.h"
+
+#include "script/boundsql.h"
+#include "script/dialect.h"
+#include "script/filterfields.h"
+
+#include <QList>
+#include <QStringList>
+
+#include <optional>
+
+// One key of an ORDER BY: a declared column expression and its direction.
+struct SortKey
+{
+    QString column;
+    bool descending = false;
+};
+
+// The filter and sort texts that the find/filter/sort dialog and the filter dialog leave in the
+// shared filter settings, as a data set applies them. Every text goes through
+// script::FilterParser over the fields the data set declares, so only declared fields and the
+// known operators pass and every value is bound.
+class LUMOMIDDLETIER_EXPORT DialogFilter
+{
+public:
+    struct Applied
+    {
+        // "(condition) AND (condition) ..." over the declared columns; empty for no condition.
+        script::BoundSql where;
+        QList<SortKey> sort;
+    };
+
+    // Filter texts are combined with AND; empty texts (and the filter dialog's bare
+    // " where 1=1 and ") add nothing.
+    DialogFilter(const QStringList &filters, const QString &sort);
+
+    // Nothing when a text names an undeclared field or is not a filter or sort at all: such a
+    // text selects nothing, it never reaches the database.
+    std::optional<Applied> apply(const script::FilterFields &fields, script::Dialect dialect) const;
+
+private:
+    QStringList m_filters;
+    QString m_sort;
+};
+
+// "column ASC, column DESC" of the keys.
+LUMOMIDDLETIER_EXPORT QString orderByText(const QList<SortKey> &keys);

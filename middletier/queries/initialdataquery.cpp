@@ -1,0 +1,43 @@
+#include "initialdataquery.h"
+
+#include "itemrowfields.h"
+#include "pagedresult.h"
+#include "pagewindow.h"
+
+#include "db/recordsetbuilder.h"
+#include "db/sqlrun.h"
+
+#include "frame/automation/recordset.h"
+
+namespace InitialDataQuery {
+
+Dictionary *fetch(const QSqlDatabase &db, const Request &request)
+{
+    const PageWindow window(request.pageSize, request.pageIndex);
+    const auto sql = InitialDataSql::build(request.place, DialogFilter(request.filters, request.sort),
+                                           request.useShortNumber, script::dialectForDriver(db.driverName()));
+    qint64 recordCount = 0;
+    QVector<QVariant> sums(ItemRowFields::figureFields().size(), 0.0);
+    if (sql) {
+        const script::BoundSql totals = sql->totals();
+        QSqlQuery query = SqlRun::exec(db, totals.sql, totals.values);
+        if (query.next()) {
+            recordCount = query.value(0).toLongLong();
+            for (qsizetype f = 0; f < sums.size(); ++f)
+                sums[f] = query.value(int(f) + 1).toDouble();
+        }
+    }
+
+    std::unique_ptr<Recordset> rows;
+    if (sql && window.offset() < recordCount) {
+        const script::BoundSql page = sql->page(window);
+        QSqlQuery query = SqlRun::exec(db, page.sql, page.values);
+        rows.reset(recordsetFromQuery(query, ItemRowFields::rowFields()));
+    } else {
+        rows = std::make_unique<Recordset>(ItemRowFields::rowFields());
+    }
+    return PagedResult::make(std::move(rows), window.totalPages(recordCount), recordCount,
+                             PagedResult::totals(db, sums));
+}
+
+} // namespace InitialDataQuery

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "middletier_global.h"
+
+#include <QSqlDatabase>
+#include <QString>
+#include <QStringList>
+
+class DbDialect;
+class Recordset;
+
+// Who registers a task: a user, on a computer, in a process. Two registrations of the same
+// session never conflict.
+struct TaskSession
+{
+    int userId = 0;
+    QString userName;
+    QString computerName;
+    qint64 processId = 0;
+};
+
+struct TaskRequest
+{
+    int taskId = 0;
+    QString funcCode;
+    int kind = 0;
+    int flagA = 0;
+    int flagB = 0;
+    QString extra;
+};
+
+// The task table of the network task mutex (t_TaskMutex) of one account set. Every change runs
+// in a transaction that holds the table against other writers, so two processes registering
+// the same task at once cannot both succeed. See NetControlMutex for the rules.
+class LUMOMIDDLETIER_EXPORT TaskMutexStore
+{
+public:
+    inline static const QStringList Fields{
+        QStringLiteral("FTaskHandle"), QStringLiteral("FTaskID"),   QStringLiteral("FFuncCode"),
+        QStringLiteral("FUserID"),     QStringLiteral("FUserName"), QStringLiteral("FComputerName"),
+        QStringLiteral("FProcessID"),  QStringLiteral("FKind"),     QStringLiteral("FFlagA"),
+        QStringLiteral("FFlagB"),      QStringLiteral("FExtra"),    QStringLiteral("FStartTime"),
+        QStringLiteral("FCommitted")};
+
+    // localComputer: the computer whose processes can be checked (this one).
+    TaskMutexStore(const QSqlDatabase &db, const DbDialect &dialect, const QString &localComputer);
+
+    // The handle (> 0) of the session's registration of the task, or 0 when a live
+    // registration of another session holds the same task.
+    int registerTask(const TaskSession &session, const TaskRequest &request);
+    // Marks the session's registration as committed; false for a handle the session does not hold.
+    bool commit(const TaskSession &session, int handle);
+    // Removes a registration, whoever holds it; false when there was none.
+    bool release(int handle);
+    // Every live registration, oldest first (fields above).
+    Recordset *tasks();
+
+    // Removes the registrations of processes of this computer that no longer run.
+    int clearStale();
+
+    static bool processAlive(qint64 processId);
+
+private:
+    int clearStaleInTransaction();
+
+    QSqlDatabase m_db;
+    const DbDialect &m_dialect;
+    QString m_localComputer;
+};

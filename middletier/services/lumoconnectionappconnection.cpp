@@ -1,0 +1,30 @@
+#include "lumoconnectionappconnection.h"
+
+#include "currentlogin.h"
+#include "db/accountset.h"
+#include "db/recordsetbuilder.h"
+#include "db/sqlrun.h"
+#include "mterrors.h"
+#include "script/readstatement.h"
+#include "script/scripterror.h"
+
+#include "frame/automation/recordset.h"
+
+LumoConnectionAppConnection::LumoConnectionAppConnection(QObject *parent)
+    : QObject(parent)
+{
+}
+
+QObject *LumoConnectionAppConnection::Execute(const QString &sql)
+{
+    const QSqlDatabase db = AccountSet::fromPropsString(currentLoginPropsString()).database();
+    script::ReadStatement read;
+    try {
+        read = script::checkRead(sql, script::dialectForDriver(db.driverName()));
+    } catch (const script::ScriptError &error) {
+        throw LumoError(MtError::StatementRefused, MtError::StatementRefusedText.arg(error.text()),
+                        QStringLiteral("LumoConnection.AppConnection.Execute"));
+    }
+    QSqlQuery query = SqlRun::exec(db, read.sql, read.values);
+    return recordsetFromQuery(query);
+}

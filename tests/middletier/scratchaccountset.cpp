@@ -1,0 +1,107 @@
+#include "scratchaccountset.h"
+
+#include "db/accountset.h"
+#include "db/dbdialect.h"
+#include "db/schemamanager.h"
+#include "db/sqlrun.h"
+#include "demo/democompany.h"
+
+#include "frame/automation/lumoerror.h"
+
+#include <QAtomicInt>
+#include <QCoreApplication>
+#include <QTest>
+
+namespace {
+
+QAtomicInt schemaCounter;
+
+QString postgresServer()
+{
+    return qEnvironmentVariable(ScratchAccountSet::PostgresVariable);
+}
+
+} // namespace
+
+bool ScratchAccountSet::available(const QString &backend)
+{
+    return backend == Sqlite || !postgresServer().isEmpty();
+}
+
+ScratchAccountSet::ScratchAccountSet(const QString &backend, Content content)
+    : m_backend(backend)
+{
+    if (backend == Postgres) {
+        m_schema = QStringLiteral("lumo_t%1_%2")
+                       .arg(QCoreApplication::applicationPid())
+                       .arg(schemaCounter.fetchAndAddOrdered(1));
+        m_acctDb = postgresServer() + QStringLiteral("?schema=") + m_schema;
+    } else {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_acctDb = m_dir->filePath(QStringLiteral("account.db"));
+    }
+    if (content == Content::Nothing)
+        return;
+    const AccountSet set = AccountSet::create(m_acctDb);
+    if (content == Content::Demo)
+        DemoCompany(set.database(), set.dialect()).seed({});
+}
+
+ScratchAccountSet::~ScratchAccountSet()
+{
+    if (!m_schema.isEmpty()) {
+        try {
+            const AccountSet set = AccountSet::open(m_acctDb);
+            SqlRun::exec(set.database(), QStringLiteral("DROP SCHEMA IF EXISTS %1 CASCADE").arg(m_schema));
+        } catch (const LumoError &) {
+            // Nothing was created in the schema; PostgreSQL drops nothing then either.
+        }
+    }
+    AccountSet::close(m_acctDb);
+}
+
+QString ScratchAccountSet::propsString(int userId, const QString &userName) const
+{
+    return QStringLiteral("UserName=%1;UserID=%2;AcctDB={%3};").arg(userName).arg(userId).arg(m_acctDb);
+}
+
+QSqlDatabase ScratchAccountSet::db() const
+{
+    return AccountSet::open(m_acctDb).database();
+}
+
+void ScratchAccountSet::createAtVersion(int version)
+{
+    const AcctDbLocation location = AcctDbLocation::parse(m_acctDb);
+    const DbDialect &dialect = DbDialect::of(location.backend());
+    const QString name = QStringLiteral("scratch-old-version");
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(dialect.driverName(), name);
+        if (location.isPostgres()) {
+            db.setHostName(location.host());
+            db.setPort(location.port());
+            db.setDatabaseName(location.databaseName());
+            db.setUserName(location.userName());
+            db.setPassword(location.password());
+        } else {
+            db.setDatabaseName(location.filePath());
+        }
+        QVERIFY2(db.open(), "the scratch database opens");
+        SqlRun::execAll(db, dialect.createContainer(location));
+        SqlRun::execAll(db, dialect.sessionSetup(location));
+        SchemaManager(db, dialect).create(version);
+        db.close();
+    }
+    QSqlDatabase::removeDatabase(name);
+}
+
+void addBackendColumn()
+{
+    QTest::addColumn<QString>("backend");
+}
+
+void addBackendRows(const char *suffix)
+{
+    QTest::newRow(qPrintable(ScratchAccountSet::Sqlite + QLatin1String(suffix))) << ScratchAccountSet::Sqlite;
+    QTest::newRow(qPrintable(ScratchAccountSet::Postgres + QLatin1String(suffix))) << ScratchAccountSet::Postgres;
+}

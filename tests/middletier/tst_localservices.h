@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QObject>
+
+// The services that need no account set: shared properties, the trace log, form fonts, and
+// the registration of every ProgID.
+class TestLocalServices : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanup();
+
+    void registersEveryProgId_data();
+    void registersEveryProgId();
+    void sharedPropertiesRoundTrip();
+    void sharedObjectIsNotKeptAlive();
+    void logIsOffUnlessSwitchedOn();
+    void logWritesStartAndEnd_data();
+    void logWritesStartAndEnd();
+    void printFontProperties();
+    void formFontReachesEveryWidget();
+    void formFontReachesCollectionItems();
+};

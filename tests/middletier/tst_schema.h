@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QObject>
+
+// The schema declaration, its DDL on both backends, migrations and account-set locations.
+class TestSchema : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void declarationIsConsistent();
+    void holdsEveryColumnTheScriptsWrite();
+    void createsEveryDeclaredColumn_data();
+    void createsEveryDeclaredColumn();
+    void migratesFromVersionOne_data();
+    void migratesFromVersionOne();
+    void dialectStatementsRunOnTheBackend_data();
+    void dialectStatementsRunOnTheBackend();
+    void refusesWhatIsNotAnAccountSet();
+    void refusesNewerAccountSet();
+    void parsesLocations_data();
+    void parsesLocations();
+    void refusesBadLocations_data();
+    void refusesBadLocations();
+};
