@@ -28,10 +28,10 @@ namespace {
 // Controls and their child collections are wrapped so that `control.Controls.tvICInit` reaches a
 // child by its object name, and service objects so that their errors become script exceptions.
 const char *const prelude = R"JS(
-(function (host) {
+(function (host, global) {
     function bindAll(target, value) { return typeof value === 'function' ? value.bind(target) : value; }
-    globalThis.print = function (...args) { host.print(args.map(String).join(' ')); };
-    globalThis.__wrapControls = function (collection) {
+    global.print = function (...args) { host.print(args.map(String).join(' ')); };
+    global.__wrapControls = function (collection) {
         return new Proxy(collection, {
             get(t, p) {
                 if (typeof p === 'string' && !(p in t)) {
@@ -42,7 +42,7 @@ const char *const prelude = R"JS(
             }
         });
     };
-    globalThis.__wrapControl = function (control) {
+    global.__wrapControl = function (control) {
         return new Proxy(control, {
             get(t, p) {
                 if (p === 'Controls') return __wrapControls(t.Controls);
@@ -52,7 +52,7 @@ const char *const prelude = R"JS(
             set(t, p, v) { t[p] = v; return true; }
         });
     };
-    globalThis.__wrapService = function (object) {
+    global.__wrapService = function (object) {
         return new Proxy(object, {
             get(t, p) {
                 if (p === '__target') return t;
@@ -73,8 +73,12 @@ QVariant fromScript(const QJSValue &value)
         QObject *object = value.toQObject();
         return QVariant::fromValue(object);
     }
-    if (value.isObject() && value.hasProperty(QStringLiteral("__target")))
-        return QVariant::fromValue(value.property(QStringLiteral("__target")).toQObject());
+    // A wrapped control or service answers its object through the proxy's get trap only.
+    if (value.isObject()) {
+        const QJSValue target = value.property(QStringLiteral("__target"));
+        if (target.isQObject())
+            return QVariant::fromValue(target.toQObject());
+    }
     return value.toVariant();
 }
 
@@ -273,7 +277,8 @@ int runScript(const QString &file, SuiteWindow &suite)
     QJSEngine::setObjectOwnership(&host, QJSEngine::CppOwnership);
     const QJSValue hostValue = engine.newQObject(&host);
     engine.globalObject().setProperty(QStringLiteral("host"), hostValue);
-    engine.evaluate(QString::fromUtf8(prelude)).call({hostValue});
+    // The engine of Qt 6.4 has no globalThis, so the prelude is handed the global object.
+    engine.evaluate(QString::fromUtf8(prelude)).call({hostValue, engine.globalObject()});
 
     const QJSValue result = engine.evaluate(source, file);
     if (!host.pendingError().isEmpty()) {

@@ -53,6 +53,13 @@ SuiteWindow::SuiteWindow(const QString &accountSet, const QString &userName, QWi
     resize(1280, 800);
 }
 
+SuiteWindow::~SuiteWindow()
+{
+    // Frames still open are hidden while the main window's layout is already gone; they must not
+    // redraw the menus then.
+    disconnect(m_mdi, nullptr, this, nullptr);
+}
+
 void SuiteWindow::buildSuiteMenu()
 {
     QMenu *system = menuBar()->addMenu(QStringLiteral("系统(&S)"));

@@ -16,6 +16,7 @@ class SuiteWindow : public QMainWindow
 
 public:
     SuiteWindow(const QString &accountSet, const QString &userName, QWidget *parent = nullptr);
+    ~SuiteWindow() override;
 
     // Creates the control, puts it in a new frame and shows it with the frame's host window.
     // Null (and the frame closed) when the control cannot be made or refuses to show.

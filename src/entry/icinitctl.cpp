@@ -68,10 +68,8 @@ ICInitCtl::ICInitCtl(QWidget *parent)
     for (const QString &key : {QStringLiteral("mcFOutAdjBilll"), QStringLiteral("mcFStartBal"), QStringLiteral("OutBill"),
                                QStringLiteral("Start")})
         barList()->setVisible(key, false);
+    // Nothing is loaded yet: Save and Find stay disabled.
     enableCommands();
-    // Nothing is loaded yet: nothing to save or find.
-    for (const QString &key : {EntryKeys::Save, EntryKeys::FSave, EntryKeys::Find, EntryKeys::EFind})
-        barList()->setEnabled(key, false);
     try {
         EntryGridLayout::build(*m_grid, GetIndustryType());
     } catch (const LumoError &) {
@@ -213,6 +211,11 @@ void ICInitCtl::enableCommands()
         if (!QLatin1String(spec.toolKey).isEmpty())
             bars.setEnabled(QString::fromLatin1(spec.toolKey), available);
     }
+    // Save follows the unsaved rows and Find the loaded ones, whatever the mode allows.
+    setSaveEnabled(m_saver && m_saver->changes().isDirty());
+    const bool rowsLoaded = m_sheet && m_sheet->lastDataRow() > 0;
+    bars.setEnabled(EntryKeys::Find, rowsLoaded);
+    bars.setEnabled(EntryKeys::EFind, rowsLoaded);
 }
 
 void ICInitCtl::LoadingStocks()
