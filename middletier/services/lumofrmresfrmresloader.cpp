@@ -26,14 +26,26 @@ QFont formFont()
     return font;
 }
 
+// A form's own emphasis (a bigger, bold title) is part of its design: the language's font gives
+// the family, and only widgets of the ordinary size take its size too.
+void applyToWidget(QObject *widget, const QFont &font)
+{
+    QFont own = widget->property(FontProperty).value<QFont>();
+    const bool ordinary = own.pointSizeF() == QGuiApplication::font().pointSizeF() && !own.bold();
+    own.setFamily(font.family());
+    if (ordinary)
+        own.setPointSizeF(font.pointSizeF());
+    widget->setProperty(FontProperty, own);
+}
+
 void applyToTree(QObject *root, const QFont &font)
 {
     if (root->isWidgetType())
-        root->setProperty(FontProperty, font);
+        applyToWidget(root, font);
     const QList<QObject *> descendants = root->findChildren<QObject *>();
     for (QObject *object : descendants) {
         if (object->isWidgetType())
-            object->setProperty(FontProperty, font);
+            applyToWidget(object, font);
     }
 }
 

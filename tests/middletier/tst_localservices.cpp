@@ -190,6 +190,11 @@ void TestLocalServices::formFontReachesEveryWidget()
     QWidget form;
     auto *inner = new QWidget(&form);
     auto *label = new QLabel(QStringLiteral("仓    库:"), inner);
+    auto *title = new QLabel(QStringLiteral("存货初始数据录入"), &form);
+    QFont titleFont = title->font();
+    titleFont.setPointSize(15);
+    titleFont.setBold(true);
+    title->setFont(titleFont);
     auto *helper = new QObject(&form);
     helper->setProperty("font", QStringLiteral("untouched"));
     callService(ProgId::FrmResLoader, QStringLiteral("SetFrmFont"),
@@ -200,6 +205,11 @@ void TestLocalServices::formFontReachesEveryWidget()
         if (cjkInstalled)
             QCOMPARE(widget->font().family(), QStringLiteral("WenQuanYi Micro Hei"));
     }
+    // The title keeps its emphasis and takes only the family.
+    QCOMPARE(title->font().pointSize(), 15);
+    QVERIFY(title->font().bold());
+    if (cjkInstalled)
+        QCOMPARE(title->font().family(), QStringLiteral("WenQuanYi Micro Hei"));
     QCOMPARE(helper->property("font").toString(), QStringLiteral("untouched"));
 }
 
