@@ -224,7 +224,7 @@ void DemoCompany::seed(const Options &options)
     const int lastBillInterId = seedBalances(year);
     seedSerialNumbers(year);
     setParameter(QStringLiteral("INIBillInterID"), lastBillInterId);
-    if (options.items > 0)
+    if (options.items > 0 || options.warehouses > 0)
         DemoVolume(m_db, m_dialect).seed(options.items, options.warehouses, CurrentPeriod, year);
     seedLedger(year);
     for (const auto &[table, column] : {std::pair{QStringLiteral("t_User"), QStringLiteral("FUserID")},

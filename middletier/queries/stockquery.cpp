@@ -43,13 +43,8 @@ QString typeCondition(const QList<int> &types, QVariantList &values)
 
 QList<Warehouse> loadWarehouses(const QSqlDatabase &db, const QList<int> &types)
 {
-    QVariantList values;
-    const QString sql = QStringLiteral("SELECT s.FItemID, s.FParentID, s.FNumber, s.FShortNumber, s.FName, s.FTypeID, "
-                                       "CASE WHEN s.FIsStockMgr<>0 OR EXISTS (SELECT 1 FROM t_StockPlace p "
-                                       "WHERE p.FStockID=s.FItemID AND p.FDeleted=0) THEN 1 ELSE 0 END "
-                                       "FROM t_Stock s WHERE s.FDeleted=0%1 ORDER BY s.FNumber")
-                            .arg(typeCondition(types, values));
-    QSqlQuery query = SqlRun::exec(db, sql, values);
+    const script::BoundSql sql = StockQuery::warehouseStatement(types);
+    QSqlQuery query = SqlRun::exec(db, sql.sql, sql.values);
     QList<Warehouse> warehouses;
     while (query.next()) {
         warehouses.append({query.value(0).toInt(), query.value(1).toInt(), query.value(2).toString(),
@@ -61,12 +56,8 @@ QList<Warehouse> loadWarehouses(const QSqlDatabase &db, const QList<int> &types)
 
 QList<Place> loadPlaces(const QSqlDatabase &db, const QList<int> &types)
 {
-    QVariantList values;
-    const QString sql = QStringLiteral("SELECT p.FSPID, p.FStockID, p.FNumber, p.FShortNumber, p.FName "
-                                       "FROM t_StockPlace p JOIN t_Stock s ON s.FItemID=p.FStockID "
-                                       "WHERE p.FDeleted=0 AND s.FDeleted=0%1 ORDER BY p.FNumber")
-                            .arg(typeCondition(types, values));
-    QSqlQuery query = SqlRun::exec(db, sql, values);
+    const script::BoundSql sql = StockQuery::placeStatement(types);
+    QSqlQuery query = SqlRun::exec(db, sql.sql, sql.values);
     QList<Place> places;
     while (query.next()) {
         places.append({query.value(0).toInt(), query.value(1).toInt(), query.value(2).toString(),
@@ -135,6 +126,27 @@ private:
 } // namespace
 
 namespace StockQuery {
+
+script::BoundSql warehouseStatement(const QList<int> &types)
+{
+    script::BoundSql sql;
+    sql.sql = QStringLiteral("SELECT s.FItemID, s.FParentID, s.FNumber, s.FShortNumber, s.FName, s.FTypeID, "
+                             "CASE WHEN s.FIsStockMgr<>0 OR EXISTS (SELECT 1 FROM t_StockPlace p "
+                             "WHERE p.FStockID=s.FItemID AND p.FDeleted=0) THEN 1 ELSE 0 END "
+                             "FROM t_Stock s WHERE s.FDeleted=0%1 ORDER BY s.FNumber")
+                  .arg(typeCondition(types, sql.values));
+    return sql;
+}
+
+script::BoundSql placeStatement(const QList<int> &types)
+{
+    script::BoundSql sql;
+    sql.sql = QStringLiteral("SELECT p.FSPID, p.FStockID, p.FNumber, p.FShortNumber, p.FName "
+                             "FROM t_StockPlace p JOIN t_Stock s ON s.FItemID=p.FStockID "
+                             "WHERE p.FDeleted=0 AND s.FDeleted=0%1 ORDER BY p.FNumber")
+                  .arg(typeCondition(types, sql.values));
+    return sql;
+}
 
 Recordset *fetchStocks(const QSqlDatabase &db, const QList<int> &types)
 {

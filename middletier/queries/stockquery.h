@@ -2,6 +2,8 @@
 
 #include "middletier_global.h"
 
+#include "script/boundsql.h"
+
 #include <QList>
 #include <QSqlDatabase>
 #include <QStringList>
@@ -25,5 +27,10 @@ inline const QStringList Fields{QStringLiteral("FItemID"),     QStringLiteral("F
 // warehouses, siblings in number order. A warehouse whose parent is not in the result (another
 // type, deleted, or a loop) is placed at the top with FParentID 0.
 LUMOMIDDLETIER_EXPORT Recordset *fetchStocks(const QSqlDatabase &db, const QList<int> &types);
+
+// The two reads behind fetchStocks (the tree is put together in memory): the warehouses of the
+// types with their FIsStockMgr, and the stock places of those warehouses, each in number order.
+LUMOMIDDLETIER_EXPORT script::BoundSql warehouseStatement(const QList<int> &types);
+LUMOMIDDLETIER_EXPORT script::BoundSql placeStatement(const QList<int> &types);
 
 } // namespace StockQuery

@@ -178,7 +178,11 @@ private:
             m_cursor.next();
             name += QLatin1Char('.') + m_cursor.next().text;
         }
+        // The dialogs may qualify a field by the alias of its table in their own queries
+        // ("t1.FModel"); the alias is theirs, the field is the declared name behind it.
         const FilterField *field = m_fields.find(name);
+        if (!field && name.contains(QLatin1Char('.')))
+            field = m_fields.find(name.section(QLatin1Char('.'), -1));
         if (!field)
             TokenCursor::fail(unknownMessage.arg(name));
         return *field;

@@ -6,15 +6,16 @@
 #include "sqltokenizer.h"
 #include "tokencursor.h"
 
+#include <QHash>
 #include <QStringList>
+#include <QVarLengthArray>
 
 namespace script {
 
 namespace {
 
-// How many characters of a statement an error quotes, and how far it looks for them.
+// How many characters of a statement an error quotes.
 constexpr qsizetype quotedLength = 60;
-constexpr qsizetype quotedSource = 4000;
 
 QString kindKeyword(StatementKind kind)
 {
@@ -31,9 +32,26 @@ QString kindKeyword(StatementKind kind)
 
 // The first characters of a statement as written, with its blanks and line ends folded (the
 // batch dialog indents its continuation lines by many blanks).
+// Every statement keeps its quote, so this stops as soon as the quote is full rather than
+// copying the statement.
 QString quoteStatement(const QString &text, qsizetype begin, qsizetype end)
 {
-    return text.mid(begin, qMin(end - begin, quotedSource)).simplified().left(quotedLength);
+    QString quote;
+    quote.reserve(quotedLength);
+    bool blank = false;
+    for (qsizetype i = begin; i < end && quote.size() < quotedLength; ++i) {
+        const QChar c = text.at(i);
+        if (c.isSpace()) {
+            blank = !quote.isEmpty();
+            continue;
+        }
+        if (blank)
+            quote.append(QLatin1Char(' '));
+        blank = false;
+        if (quote.size() < quotedLength)
+            quote.append(c);
+    }
+    return quote;
 }
 
 bool startsLine(const QString &text, qsizetype begin)
@@ -93,7 +111,9 @@ private:
     const TableDef &table(StatementKind kind)
     {
         const Token &name = m_cursor.expectName(texts::tableName);
-        const TableDef *table = catalogue::findTable(name.text);
+        const TableDef *&table = m_tables[name.text];
+        if (!table)
+            table = catalogue::findTable(name.text);
         if (!table)
             TokenCursor::fail(texts::unknownTable.arg(name.text));
         if (!(table->allowedKinds & int(kind)))
@@ -104,20 +124,25 @@ private:
     const ColumnDef &column(const TableDef &table)
     {
         const Token &name = m_cursor.expectName(texts::columnName);
-        const ColumnDef *column = catalogue::findColumn(table, name.text);
+        const ColumnDef *&column = m_columns[{&table, name.text}];
+        if (!column)
+            column = catalogue::findColumn(table, name.text);
         if (!column)
             TokenCursor::fail(texts::unknownColumn.arg(QLatin1String(table.name), name.text));
         return *column;
     }
 
-    const ColumnDef &writableColumn(const TableDef &table, QStringList &seen)
+    // The catalogue holds each column once, so a column named twice is the same entry.
+    using SeenColumns = QVarLengthArray<const ColumnDef *, 32>;
+
+    const ColumnDef &writableColumn(const TableDef &table, SeenColumns &seen)
     {
         const ColumnDef &target = column(table);
         if (!target.writable)
             TokenCursor::fail(texts::columnNotWritable.arg(QLatin1String(table.name), QLatin1String(target.name)));
-        if (seen.contains(QLatin1String(target.name)))
+        if (seen.contains(&target))
             TokenCursor::fail(texts::duplicateColumn.arg(QLatin1String(target.name)));
-        seen.append(QLatin1String(target.name));
+        seen.append(&target);
         return target;
     }
 
@@ -161,7 +186,7 @@ private:
     {
         m_cursor.expectKeyword(QLatin1String("into"));
         const TableDef &target = table(StatementKind::Insert);
-        QStringList seen;
+        SeenColumns seen;
         QList<const ColumnDef *> columns;
         m_cursor.expectPunct(QLatin1String("("));
         do {
@@ -170,31 +195,43 @@ private:
         m_cursor.expectPunct(QLatin1String(")"));
         m_cursor.expectKeyword(QLatin1String("values"));
         m_cursor.expectPunct(QLatin1String("("));
-        QStringList placeholders;
+        qsizetype written = 0;
         do {
-            if (placeholders.size() == columns.size())
+            if (written == columns.size())
                 TokenCursor::fail(texts::valueCount.arg(columns.size()).arg(columns.size() + 1));
-            placeholders.append(literal(*columns.at(placeholders.size())));
+            literal(*columns.at(written++));
         } while (m_cursor.acceptPunct(QLatin1String(",")));
-        if (placeholders.size() != columns.size())
-            TokenCursor::fail(texts::valueCount.arg(columns.size()).arg(placeholders.size()));
+        if (written != columns.size())
+            TokenCursor::fail(texts::valueCount.arg(columns.size()).arg(written));
         m_cursor.expectPunct(QLatin1String(")"));
 
-        QStringList names;
-        for (const ColumnDef *column : std::as_const(columns))
-            names.append(name(column->name));
         statement.kind = StatementKind::Insert;
         statement.table = QLatin1String(target.name);
-        statement.sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                            .arg(name(target.name), names.join(QLatin1String(", ")),
-                                 placeholders.join(QLatin1String(", ")));
+        statement.sql = insertSql(target, columns);
+    }
+
+    // The same column list gives the same statement, written once per script.
+    QString insertSql(const TableDef &target, const QList<const ColumnDef *> &columns)
+    {
+        QString &sql = m_insertSql[columns];
+        if (sql.isEmpty()) {
+            QStringList names;
+            QStringList placeholders;
+            for (const ColumnDef *column : columns) {
+                names.append(name(column->name));
+                placeholders.append(QStringLiteral("?"));
+            }
+            sql = QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                      .arg(name(target.name), names.join(QLatin1String(", ")), placeholders.join(QLatin1String(", ")));
+        }
+        return sql;
     }
 
     void parseUpdate(Statement &statement)
     {
         const TableDef &target = table(StatementKind::Update);
         m_cursor.expectKeyword(QLatin1String("set"));
-        QStringList seen;
+        SeenColumns seen;
         QStringList assignments;
         do {
             const ColumnDef &column = writableColumn(target, seen);
@@ -319,6 +356,11 @@ private:
     TokenCursor &m_cursor;
     const SqlDialect &m_dialect;
     QVariantList m_values;
+    // A script names the same tables and columns over and over, as written; the catalogue is
+    // searched once per spelling.
+    QHash<QString, const TableDef *> m_tables;
+    QHash<std::pair<const TableDef *, QString>, const ColumnDef *> m_columns;
+    QHash<QList<const ColumnDef *>, QString> m_insertSql;
 };
 
 } // namespace

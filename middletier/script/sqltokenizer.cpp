@@ -2,12 +2,28 @@
 
 #include "scripttexts.h"
 
+#include <QHash>
+
 namespace script {
 
 namespace {
 
 // How much of an unterminated literal an error quotes.
 constexpr qsizetype quotedLiteral = 20;
+constexpr qsizetype charsPerToken = 3;
+
+constexpr QStringView SinglePuncts = u"(),.=<>";
+
+// The one-character punctuation as static texts: half the tokens of a script are commas and
+// parentheses, and these cost no allocation.
+const QString &singlePunctText(qsizetype index)
+{
+    static const QString texts[] = {QStringLiteral("("), QStringLiteral(")"), QStringLiteral(","),
+                                    QStringLiteral("."), QStringLiteral("="), QStringLiteral("<"),
+                                    QStringLiteral(">")};
+    static_assert(std::size(texts) == SinglePuncts.size());
+    return texts[index];
+}
 
 bool isNameStart(QChar c)
 {
@@ -33,7 +49,9 @@ bool isSeparator(QChar c)
 class Scanner
 {
 public:
-    explicit Scanner(const QString &text) : m_text(text) {}
+    // A script of the controls averages a token every few characters; reserving for that keeps
+    // a ten-thousand-statement script from growing the list again and again.
+    explicit Scanner(const QString &text) : m_text(text) { m_tokens.reserve(text.size() / charsPerToken + 1); }
 
     QList<Token> run()
     {
@@ -57,6 +75,19 @@ private:
         m_tokens.append({kind, text, begin, m_pos});
     }
 
+    // Names, numbers and punctuation repeat from statement to statement (the same column list
+    // ten thousand times), so each distinct text is allocated once and shared after that.
+    void pushShared(Token::Kind kind, qsizetype begin)
+    {
+        const QString probe = QString::fromRawData(m_text.constData() + begin, m_pos - begin);
+        auto known = m_shared.constFind(probe);
+        if (known == m_shared.constEnd()) {
+            const QString text(m_text.constData() + begin, m_pos - begin);
+            known = m_shared.insert(text, text);
+        }
+        push(kind, known.value(), begin);
+    }
+
     bool fail(const QString &message, qsizetype begin)
     {
         m_pos = begin + 1;
@@ -72,7 +103,7 @@ private:
         if (isNameStart(c)) {
             while (m_pos < m_text.size() && isNamePart(m_text.at(m_pos)))
                 ++m_pos;
-            push(Token::Kind::Name, m_text.mid(begin, m_pos - begin), begin);
+            pushShared(Token::Kind::Name, begin);
             return true;
         }
         if ((c == QLatin1Char('-') && next == QLatin1Char('-')) || (c == QLatin1Char('/') && next == QLatin1Char('*')))
@@ -86,17 +117,17 @@ private:
             return fail(texts::semicolonRefused, begin);
         if (c == QLatin1Char('<') && (next == QLatin1Char('=') || next == QLatin1Char('>'))) {
             m_pos += 2;
-            push(Token::Kind::Punct, m_text.mid(begin, 2), begin);
+            pushShared(Token::Kind::Punct, begin);
             return true;
         }
         if (c == QLatin1Char('>') && next == QLatin1Char('=')) {
             m_pos += 2;
-            push(Token::Kind::Punct, m_text.mid(begin, 2), begin);
+            pushShared(Token::Kind::Punct, begin);
             return true;
         }
-        if (QStringView(u"(),.=<>").contains(c)) {
+        if (const qsizetype punct = SinglePuncts.indexOf(c); punct >= 0) {
             ++m_pos;
-            push(Token::Kind::Punct, QString(c), begin);
+            push(Token::Kind::Punct, singlePunctText(punct), begin);
             return true;
         }
         return fail(texts::badCharacter.arg(c), begin);
@@ -121,7 +152,7 @@ private:
             const QString written = m_text.mid(begin, m_pos - begin);
             return fail(texts::badNumber.arg(written), begin);
         }
-        push(Token::Kind::Number, m_text.mid(begin, m_pos - begin), begin);
+        pushShared(Token::Kind::Number, begin);
         return true;
     }
 
@@ -151,6 +182,7 @@ private:
     const QString &m_text;
     qsizetype m_pos = 0;
     QList<Token> m_tokens;
+    QHash<QString, QString> m_shared;
 };
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "tst_dataservice.h"
 #include "tst_demodata.h"
+#include "tst_initialdata.h"
+#include "tst_ledgerdata.h"
 #include "tst_localservices.h"
 #include "tst_schema.h"
 #include "tst_taskmutex.h"
@@ -16,6 +18,8 @@ int main(int argc, char *argv[])
     run(TestSchema());
     run(TestDemoData());
     run(TestDataService());
+    run(TestInitialData());
+    run(TestLedgerData());
     run(TestTaskMutex());
     run(TestLocalServices());
     return failed;

@@ -1,13 +1,13 @@
 #include "tst_dataservice.h"
 
 #include "scratchaccountset.h"
+#include "servicecalls.h"
 
 #include "db/sqlrun.h"
 #include "mterrors.h"
 #include "queries/stockquery.h"
 #include "queries/typelist.h"
 #include "services/progids.h"
-#include "services/sharedpropertystore.h"
 
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dictionary.h"
@@ -15,9 +15,11 @@
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
 
-#include <QCoreApplication>
 #include <QHash>
 #include <QTest>
+
+using ServiceCalls::errorNumberOf;
+using ServiceCalls::publishLogin;
 
 namespace {
 
@@ -72,22 +74,6 @@ const StockRow *findByName(const QList<StockRow> &rows, const QString &name)
             return &row;
     }
     return nullptr;
-}
-
-int errorNumberOf(const std::function<void()> &action)
-{
-    try {
-        action();
-    } catch (const LumoError &error) {
-        return error.number();
-    }
-    return 0;
-}
-
-void publishLogin(const QString &props)
-{
-    SharedPropertyStore::instance().setValue(QCoreApplication::applicationPid(), SharedPropertyStore::PropsStringKey,
-                                             props);
 }
 
 QVariant firstField(const QVariant &recordset, int field)

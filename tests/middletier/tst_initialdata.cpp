@@ -1,0 +1,416 @@
+#include "tst_initialdata.h"
+
+#include "scratchaccountset.h"
+#include "servicecalls.h"
+
+#include "db/sqlrun.h"
+#include "queries/dataerrors.h"
+#include "services/progids.h"
+
+#include "frame/automation/dictionary.h"
+#include "frame/automation/objectownership.h"
+#include "frame/automation/recordset.h"
+
+#include <QTest>
+
+using namespace ServiceCalls;
+
+namespace {
+
+// A warehouse of its own with known balances for period 4 (the demo's current period). Its item
+// rows, in item-number order: 钢板 (only batch lines B1 2/20 and B2 3/30), 圆钢 without and with
+// the property 红色/S, 铜线, 铝型材, 润滑油, 螺钉, 螺母. Rows of another period and of a stock
+// place of the same warehouse are there to be left out.
+constexpr int Stock = 70;
+constexpr int Period = 4;
+constexpr int OtherPlace = 9;
+constexpr int SteelPlate = 1;
+constexpr int RoundSteel = 2;
+constexpr int Kilogram = 4;
+constexpr int Tonne = 6;
+constexpr int RedS = 1;
+constexpr double PlaceQty = 36; // 5 + 1 + 8 + 2 + 3 + 4 + 6 + 7
+constexpr double PlaceBal = 360;
+
+const QString Data = ProgId::MICInitialData;
+const QString Fetch = QStringLiteral("FetchYtdInitialData");
+
+struct Line
+{
+    int item;
+    int unit;
+    int aux;
+    QString batch;
+    double qty;
+    int bill = 0;
+    int spId = 0;
+    int period = Period;
+};
+
+void addLine(const QSqlDatabase &db, const Line &line)
+{
+    const QString compose = QStringLiteral("%1|%2|%3|%4|%5").arg(Stock).arg(line.spId).arg(line.period).arg(line.item).arg(line.aux);
+    // Year start = opening, nothing received or issued: the balance rule holds.
+    SqlRun::exec(db,
+                 QStringLiteral("INSERT INTO ICInvInitial (FBrNo, FPeriod, FStockID, FSPID, FItemID, FUnitID, FBatchNo, "
+                                "FAuxPropID, FYtdAuxBegQty, FYtdBegBal, FAuxBegQty, FBegBal, FStockInDate, FKFDate, "
+                                "FFieldCompose, FBillInterID) VALUES ('0',?,?,?,?,?,?,?,?,?,?,?,'2024-04-01','',?,?)"),
+                 {line.period, Stock, line.spId, line.item, line.unit, line.batch.isNull() ? QStringLiteral("") : line.batch, line.aux, line.qty, line.qty * 10,
+                  line.qty, line.qty * 10, compose, line.bill});
+}
+
+// Makes the warehouse in a demo account set.
+void seedPlace(const QSqlDatabase &db)
+{
+    SqlRun::exec(db, QStringLiteral("INSERT INTO t_Stock (FItemID, FNumber, FName) VALUES (?, '70', '测试仓')"), {Stock});
+    const QList<Line> lines{
+        {SteelPlate, Kilogram, 0, QStringLiteral("B1"), 2, 2},
+        {SteelPlate, Kilogram, 0, QStringLiteral("B2"), 3, 1},
+        {RoundSteel, Kilogram, 0, {}, 1},
+        {RoundSteel, Kilogram, RedS, {}, 8},
+        {3, 7, 0, {}, 2},
+        {4, 7, 0, {}, 3},
+        {5, 9, 0, {}, 4},
+        {7, 1, 0, {}, 6},
+        {8, 1, 0, {}, 7},
+        {RoundSteel, Kilogram, 0, {}, 100, 0, 0, Period - 1},
+        {3, 7, 0, {}, 1000, 0, OtherPlace},
+    };
+    for (const Line &line : lines)
+        addLine(db, line);
+}
+
+// "item/property" of every row, in order.
+QStringList rowKeys(Recordset &rows)
+{
+    QStringList keys;
+    for (rows.MoveFirst(); !rows.atEnd(); rows.MoveNext())
+        keys.append(QStringLiteral("%1/%2").arg(rows.Fields(QStringLiteral("FItemID")).toInt())
+                        .arg(rows.Fields(QStringLiteral("FAuxPropID")).toInt()));
+    return keys;
+}
+
+struct Page
+{
+    std::unique_ptr<Dictionary> result;
+    std::unique_ptr<Recordset> rows;
+    std::unique_ptr<Recordset> totals;
+
+    int totalPages() const { return result->Item(QStringLiteral("TotalPages")).toInt(); }
+    int recordCount() const { return result->Item(QStringLiteral("RecordCount")).toInt(); }
+    double total(const char *field) const { return totals->Fields(QLatin1String(field)).toDouble(); }
+};
+
+Page fetchPage(const ScratchAccountSet &scratch, int pageSize, int pageIndex, const QStringList &filters = {{}, {}, {}},
+               const QString &sort = {})
+{
+    Page page;
+    page.result = dictionary(Data, Fetch,
+                             {scratch.propsString(), Stock, 0, Period, pageSize, pageIndex, filters.value(0),
+                              filters.value(1), filters.value(2), sort, false});
+    if (page.result) {
+        page.rows = takeObject<Recordset>(page.result->Item(QStringLiteral("Rows")));
+        page.totals = takeObject<Recordset>(page.result->Item(QStringLiteral("Totals")));
+    }
+    return page;
+}
+
+} // namespace
+
+void TestInitialData::pagesCoverThePlaceWithTotals_data()
+{
+    addBackendColumn();
+    addBackendRows();
+}
+
+void TestInitialData::pagesCoverThePlaceWithTotals()
+{
+    QFETCH(QString, backend);
+    REQUIRE_BACKEND(backend);
+    ScratchAccountSet scratch(backend);
+    seedPlace(scratch.db());
+
+    // Eight item rows in pages of three: 3/3, 3/3 and 2; the totals are the whole place's on
+    // every page, so the grid's totals row on the last page sums all pages.
+    const QStringList expected{QStringLiteral("1/0"), QStringLiteral("2/0"), QStringLiteral("2/1"),
+                               QStringLiteral("3/0"), QStringLiteral("4/0"), QStringLiteral("5/0"),
+                               QStringLiteral("7/0"), QStringLiteral("8/0")};
+    QStringList seen;
+    for (int index = 1; index <= 4; ++index) {
+        const Page page = fetchPage(scratch, 3, index);
+        QVERIFY(page.rows && page.totals);
+        QCOMPARE(page.totalPages(), 3);
+        QCOMPARE(page.recordCount(), 8);
+        QCOMPARE(page.rows->RecordCount(), index < 3 ? 3 : index == 3 ? 2 : 0);
+        QCOMPARE(page.totals->RecordCount(), 1);
+        QCOMPARE(page.total("FInitBegQty"), PlaceQty);
+        QCOMPARE(page.total("FInitBegBal"), PlaceBal);
+        QCOMPARE(page.total("FInitYtdBegQty"), PlaceQty);
+        QCOMPARE(page.total("FInitYtdReceive"), 0.0);
+        QCOMPARE(page.totals->Fields(QStringLiteral("FQtyDecimal")).toInt(), 2);
+        seen += rowKeys(*page.rows);
+    }
+    QCOMPARE(seen, expected);
+
+    // The steel plate's row sums its two batch lines and is batch managed.
+    const Page first = fetchPage(scratch, 3, 1);
+    first.rows->MoveFirst();
+    QCOMPARE(first.rows->Fields(QStringLiteral("FInitBegQty")).toDouble(), 5.0);
+    QCOMPARE(first.rows->Fields(QStringLiteral("FInitBegBal")).toDouble(), 50.0);
+    QCOMPARE(first.rows->Fields(QStringLiteral("FBM")).toInt(), 1);
+    QCOMPARE(first.rows->Fields(QStringLiteral("FItemName")).toString(), QStringLiteral("钢板"));
+    QCOMPARE(first.rows->Fields(QStringLiteral("FTrackName")).toString(), QStringLiteral("加权平均法"));
+    QCOMPARE(first.rows->Fields(QStringLiteral("FStockInDate")).toString(), QStringLiteral("2024-04-01"));
+    first.rows->MoveNext();
+    QCOMPARE(first.rows->Fields(QStringLiteral("FFieldCompose")).toString(), QStringLiteral("70|0|4|2|0"));
+    QCOMPARE(first.rows->Fields(QStringLiteral("FInitBegQty")).toDouble(), 1.0);
+    first.rows->MoveNext();
+    QCOMPARE(first.rows->Fields(QStringLiteral("FAuxPropName")).toString(), QStringLiteral("红色/S"));
+
+    // A place without balances: no page, and a totals record of zeros.
+    const auto empty = dictionary(Data, Fetch, {scratch.propsString(), Stock, 3, Period, 3, 1, {}, {}, {}, {}, false});
+    QCOMPARE(empty->Item(QStringLiteral("TotalPages")).toInt(), 0);
+    const auto emptyTotals = takeObject<Recordset>(empty->Item(QStringLiteral("Totals")));
+    const auto emptyRows = takeObject<Recordset>(empty->Item(QStringLiteral("Rows")));
+    QCOMPARE(emptyRows->RecordCount(), 0);
+    QCOMPARE(emptyTotals->Fields(QStringLiteral("FInitBegBal")).toDouble(), 0.0);
+}
+
+void TestInitialData::refusesBadPages_data()
+{
+    QTest::addColumn<int>("pageSize");
+    QTest::addColumn<int>("pageIndex");
+    QTest::newRow("no rows per page") << 0 << 1;
+    QTest::newRow("page 0") << 10 << 0;
+    QTest::newRow("negative page") << 10 << -2;
+}
+
+void TestInitialData::refusesBadPages()
+{
+    QFETCH(int, pageSize);
+    QFETCH(int, pageIndex);
+    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+    QCOMPARE(errorNumberOf([&] { fetchPage(scratch, pageSize, pageIndex); }), DataError::BadPage);
+}
+
+void TestInitialData::filtersAndSortsSelectOnlyWhatTheySay_data()
+{
+    QTest::addColumn<QString>("backend");
+    QTest::addColumn<QStringList>("filters"); // Filter, ActualFilter, VirtualFilter
+    QTest::addColumn<QString>("sort");
+    QTest::addColumn<QStringList>("rows");
+    QTest::addColumn<double>("totalQty");
+
+    const QStringList all{QStringLiteral("1/0"), QStringLiteral("2/0"), QStringLiteral("2/1"), QStringLiteral("3/0"),
+                          QStringLiteral("4/0"), QStringLiteral("5/0"), QStringLiteral("7/0"), QStringLiteral("8/0")};
+    const QStringList none;
+    const auto add = [&](const char *name, const QStringList &filters, const QString &sort, const QStringList &rows,
+                         double qty) {
+        for (const QString &backend : {ScratchAccountSet::Sqlite, ScratchAccountSet::Postgres})
+            QTest::newRow(qPrintable(QStringLiteral("%1 %2").arg(QLatin1String(name), backend)))
+                << backend << filters << sort << rows << qty;
+    };
+    add("nothing chosen", {QStringLiteral(" where 1=1 and "), {}, {}}, {}, all, PlaceQty);
+    add("item code", {QStringLiteral("FNumber like '1.01%'"), {}, {}}, {},
+        {QStringLiteral("1/0"), QStringLiteral("2/0"), QStringLiteral("2/1")}, 14);
+    add("three filters joined by AND",
+        {QStringLiteral("FNumber like '1.0%'"), QStringLiteral("t1.FModel = 'Φ20'"), QStringLiteral("FAuxPropName = ''")},
+        {}, {QStringLiteral("2/0")}, 1);
+    add("on a sum, over whole item rows", {QStringLiteral("FInitBegQty >= 5"), {}, {}}, {},
+        {QStringLiteral("1/0"), QStringLiteral("2/1"), QStringLiteral("7/0"), QStringLiteral("8/0")}, 26);
+    add("sum and name", {QStringLiteral("FItemName = '铜线'"), QStringLiteral("FInitBegQty > 1"), {}}, {},
+        {QStringLiteral("3/0")}, 2);
+    add("sorted by a sum", {}, QStringLiteral("FInitBegQty DESC"),
+        {QStringLiteral("2/1"), QStringLiteral("8/0"), QStringLiteral("7/0"), QStringLiteral("1/0"),
+         QStringLiteral("5/0"), QStringLiteral("4/0"), QStringLiteral("3/0"), QStringLiteral("2/0")},
+        PlaceQty);
+    add("sorted by code, properties in order", {}, QStringLiteral("FNumber DESC"),
+        {QStringLiteral("8/0"), QStringLiteral("7/0"), QStringLiteral("5/0"), QStringLiteral("4/0"),
+         QStringLiteral("3/0"), QStringLiteral("2/0"), QStringLiteral("2/1"), QStringLiteral("1/0")},
+        PlaceQty);
+    // Texts that are no plain filter select nothing; the totals are zeros then.
+    add("unknown field", {QStringLiteral("FNoSuch = 1"), {}, {}}, {}, none, 0);
+    add("quote in a value", {QStringLiteral("FItemName = '钢板'' OR ''1''=''1'"), {}, {}}, {}, none, 0);
+    add("second statement", {QStringLiteral("FNumber = '1.01.001'; DELETE FROM ICInvInitial"), {}, {}}, {}, none, 0);
+    add("always true", {QStringLiteral("FNumber = 'x' OR 1=1"), {}, {}}, {}, none, 0);
+    add("comment", {QStringLiteral("FNumber = 'x' -- and more"), {}, {}}, {}, none, 0);
+    add("function", {QStringLiteral("lower(FNumber) = '1.01.001'"), {}, {}}, {}, none, 0);
+    add("sub-select", {QStringLiteral("FItemID IN (SELECT FItemID FROM t_ICItem)"), {}, {}}, {}, none, 0);
+    add("bad actual filter", {{}, QStringLiteral("FPassword = 'x'"), {}}, {}, none, 0);
+    add("unknown sort field", {}, QStringLiteral("FNoSuch"), none, 0);
+    add("statement in the sort", {}, QStringLiteral("FNumber; DROP TABLE t_ICItem"), none, 0);
+}
+
+void TestInitialData::filtersAndSortsSelectOnlyWhatTheySay()
+{
+    QFETCH(QString, backend);
+    QFETCH(QStringList, filters);
+    QFETCH(QString, sort);
+    QFETCH(double, totalQty);
+    REQUIRE_BACKEND(backend);
+    ScratchAccountSet scratch(backend);
+    const QSqlDatabase db = scratch.db();
+    seedPlace(db);
+    const auto count = [&](const QString &table) {
+        return SqlRun::scalar(db, QStringLiteral("SELECT count(*) FROM %1").arg(table)).toInt();
+    };
+    const int balances = count(QStringLiteral("ICInvInitial"));
+    const int items = count(QStringLiteral("t_ICItem"));
+
+    const Page page = fetchPage(scratch, 100, 1, filters, sort);
+    QVERIFY(page.rows && page.totals);
+    QTEST(rowKeys(*page.rows), "rows");
+    QCOMPARE(page.recordCount(), page.rows->RecordCount());
+    QCOMPARE(page.totalPages(), page.rows->RecordCount() > 0 ? 1 : 0);
+    QCOMPARE(page.total("FInitBegQty"), totalQty);
+    QCOMPARE(page.total("FInitBegBal"), totalQty * 10);
+    // Nothing a filter says reaches the database as SQL.
+    QCOMPARE(count(QStringLiteral("ICInvInitial")), balances);
+    QCOMPARE(count(QStringLiteral("t_ICItem")), items);
+}
+
+void TestInitialData::itemDetailFindsByCode_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<bool>("useShortNumber");
+    QTest::addColumn<QVariantList>("items");
+    QTest::newRow("code") << "1.01.002" << false << QVariantList{RoundSteel};
+    QTest::newRow("blanks around") << " 1.01.002 " << false << QVariantList{RoundSteel};
+    QTest::newRow("unknown code") << "1.01.999" << false << QVariantList{};
+    QTest::newRow("part of a code") << "1.01" << false << QVariantList{};
+    QTest::newRow("quote") << "1' OR '1'='1" << false << QVariantList{};
+    QTest::newRow("short code") << "SHORT2" << true << QVariantList{RoundSteel};
+    QTest::newRow("full code with short codes on") << "1.01.002" << true << QVariantList{};
+    QTest::newRow("deleted item") << "1.01.001" << false << QVariantList{};
+}
+
+void TestInitialData::itemDetailFindsByCode()
+{
+    QFETCH(QString, code);
+    QFETCH(bool, useShortNumber);
+    QFETCH(QVariantList, items);
+    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+    const QSqlDatabase db = scratch.db();
+    SqlRun::exec(db, QStringLiteral("UPDATE t_ICItem SET FShortNumber='SHORT2' WHERE FItemID=?"), {RoundSteel});
+    SqlRun::exec(db, QStringLiteral("UPDATE t_ICItem SET FDeleted=1 WHERE FItemID=?"), {SteelPlate});
+    SqlRun::exec(db, QStringLiteral("UPDATE t_SystemProfile SET FValue=? WHERE FKey='UseShortNumber'"),
+                 {useShortNumber ? QStringLiteral("1") : QStringLiteral("0")});
+
+    const auto rs = recordset(Data, QStringLiteral("FetchYtdItemDetail"), {scratch.propsString(), code});
+    QVERIFY(rs);
+    QCOMPARE(column(*rs, QStringLiteral("FItemID")).size(), items.size());
+    for (qsizetype i = 0; i < items.size(); ++i)
+        QCOMPARE(column(*rs, QStringLiteral("FItemID")).at(i).toInt(), items.at(i).toInt());
+    if (items.isEmpty())
+        return;
+    QCOMPARE(rs->Fields(QStringLiteral("FName")).toString(), QStringLiteral("圆钢"));
+    QCOMPARE(rs->Fields(QStringLiteral("FUnitID")).toInt(), Kilogram);
+    QCOMPARE(rs->Fields(QStringLiteral("FUnitName")).toString(), QStringLiteral("千克"));
+    QCOMPARE(rs->Fields(QStringLiteral("FTrack")).toInt(), 77);
+    QCOMPARE(rs->Fields(QStringLiteral("FTrackName")).toString(), QStringLiteral("移动平均法"));
+    QCOMPARE(rs->Fields(QStringLiteral("FBatchManager")).toInt(), 0);
+}
+
+void TestInitialData::initDataListsTheItemRows_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<int>("auxPropId"); // -1: the two-argument form
+    QTest::addColumn<QStringList>("composes");
+    QTest::addColumn<int>("error");
+    QTest::newRow("both properties") << "70|0|4|2" << -1
+                                     << QStringList{QStringLiteral("70|0|4|2|0"), QStringLiteral("70|0|4|2|1")} << 0;
+    QTest::newRow("one property") << "70|0|4|2" << RedS << QStringList{QStringLiteral("70|0|4|2|1")} << 0;
+    QTest::newRow("batch lines only") << " 70 | 0 | 4 | 1 " << -1 << QStringList{QStringLiteral("70|0|4|1|0")} << 0;
+    QTest::newRow("other period") << "70|0|3|3" << -1 << QStringList{} << 0;
+    QTest::newRow("three parts") << "70|0|4" << -1 << QStringList{} << DataError::BadPlaceItemKey;
+    QTest::newRow("five parts") << "70|0|4|2|0" << -1 << QStringList{} << DataError::BadPlaceItemKey;
+    QTest::newRow("not a number") << "70|0|4|2 or 1=1" << -1 << QStringList{} << DataError::BadPlaceItemKey;
+}
+
+void TestInitialData::initDataListsTheItemRows()
+{
+    QFETCH(QString, key);
+    QFETCH(int, auxPropId);
+    QFETCH(QStringList, composes);
+    QFETCH(int, error);
+    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+    seedPlace(scratch.db());
+    QVariantList args{scratch.propsString(), key};
+    if (auxPropId >= 0)
+        args.append(auxPropId);
+    std::unique_ptr<Recordset> rs;
+    QCOMPARE(errorNumberOf([&] { rs = recordset(Data, QStringLiteral("GetInitData"), args); }), error);
+    if (error != 0)
+        return;
+    QStringList found;
+    for (const QVariant &value : column(*rs, QStringLiteral("FFieldCompose")))
+        found.append(value.toString());
+    QCOMPARE(found, composes);
+}
+
+void TestInitialData::batchLinesComeInTheAskedUnit()
+{
+    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+    seedPlace(scratch.db());
+    const auto lines = [&](int unit, bool batch, bool shelfLife) {
+        return recordset(Data, QStringLiteral("FetchYtdBatManDetail"),
+                         {scratch.propsString(), Period, Stock, 0, SteelPlate, 0, unit, batch, shelfLife});
+    };
+
+    // Ordered by bill number: B2 (bill 1) before B1 (bill 2); kilograms as stored.
+    const auto stored = lines(0, true, false);
+    QCOMPARE(column(*stored, QStringLiteral("FBatchNo")), (QVariantList{QStringLiteral("B2"), QStringLiteral("B1")}));
+    QCOMPARE(stored->Fields(QStringLiteral("FAuxBegQty")).toDouble(), 3.0);
+    QCOMPARE(stored->Fields(QStringLiteral("FBegBal")).toDouble(), 30.0);
+    QCOMPARE(stored->Fields(QStringLiteral("FLock")).toInt(), 0);
+
+    // In tonnes the quantities are a thousandth; amounts stay.
+    const auto tonnes = lines(Tonne, true, false);
+    QCOMPARE(tonnes->Fields(QStringLiteral("FAuxBegQty")).toDouble(), 0.003);
+    QCOMPARE(tonnes->Fields(QStringLiteral("FBegBal")).toDouble(), 30.0);
+    QCOMPARE(tonnes->Fields(QStringLiteral("FUnitID")).toInt(), Tonne);
+
+    // Without batch or shelf-life management there are no lines; the lines have no production
+    // date, so shelf-life management alone finds none either.
+    QCOMPARE(lines(0, false, false)->RecordCount(), 0);
+    QCOMPARE(lines(0, false, true)->RecordCount(), 0);
+
+    // A closed initialisation locks the lines.
+    SqlRun::exec(scratch.db(), QStringLiteral("UPDATE t_SystemProfile SET FValue='1' WHERE FKey='ICClosed'"));
+    QCOMPARE(lines(0, true, false)->Fields(QStringLiteral("FLock")).toInt(), 1);
+}
+
+void TestInitialData::exportListsEveryRowOfThePlace_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<QString>("sort");
+    QTest::addColumn<QStringList>("batches"); // FBatchNo of the steel plate rows, in order
+    QTest::addColumn<int>("records");
+    QTest::newRow("everything") << "" << "" << QStringList{QStringLiteral("B1"), QStringLiteral("B2")} << 9;
+    QTest::newRow("one batch") << "FBatchNo = 'B2'" << "" << QStringList{QStringLiteral("B2")} << 1;
+    QTest::newRow("batches backwards") << "FNumber = '1.01.001'" << "FBatchNo DESC"
+                                       << QStringList{QStringLiteral("B2"), QStringLiteral("B1")} << 2;
+    QTest::newRow("refused filter") << "FBatchNo = 'B2' OR 1=1" << "" << QStringList{} << 0;
+    QTest::newRow("refused sort") << "" << "FBatchNo; DELETE FROM ICInvInitial" << QStringList{} << 0;
+}
+
+void TestInitialData::exportListsEveryRowOfThePlace()
+{
+    QFETCH(QString, filter);
+    QFETCH(QString, sort);
+    QFETCH(QStringList, batches);
+    QFETCH(int, records);
+    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+    seedPlace(scratch.db());
+    const auto rs = recordset(Data, QStringLiteral("FetchICExportData"),
+                              {scratch.propsString(), Stock, 0, Period, filter, sort});
+    QVERIFY(rs);
+    QCOMPARE(rs->RecordCount(), records);
+    QStringList steel;
+    for (rs->MoveFirst(); !rs->atEnd(); rs->MoveNext()) {
+        QCOMPARE(rs->Fields(QStringLiteral("FStockName")).toString(), QStringLiteral("测试仓"));
+        if (rs->Fields(QStringLiteral("FItemID")).toInt() == SteelPlate)
+            steel.append(rs->Fields(QStringLiteral("FBatchNo")).toString());
+    }
+    QCOMPARE(steel, batches);
+}
