@@ -52,6 +52,18 @@ public:
     // How many values one statement may bind.
     virtual int maxBindValues() const = 0;
 
+    // A trigger before each row of a table is inserted, updated or deleted; the statements refer
+    // to the row as NEW and OLD and see the rows the same statement wrote before it.
+    struct RowTrigger
+    {
+        QString name;
+        QString table;
+        QStringList onInsert;
+        QStringList onUpdate;
+        QStringList onDelete;
+    };
+    virtual QStringList beforeRowTrigger(const RowTrigger &trigger) const = 0;
+
 protected:
     static QString placeholders(int count);
 };

@@ -107,3 +107,17 @@ int PostgresDialect::maxBindValues() const
     // Well under the protocol's 65535; QPSQL writes the values into the EXECUTE text.
     return 8000;
 }
+
+QStringList PostgresDialect::beforeRowTrigger(const RowTrigger &trigger) const
+{
+    // One trigger function that branches on the kind of change; the row goes on as it came.
+    const auto body = [](const QStringList &statements, const char *row) {
+        return statements.join(QStringLiteral("; ")) + QStringLiteral("; RETURN %1;").arg(QLatin1String(row));
+    };
+    return {QStringLiteral("CREATE FUNCTION %1_fn() RETURNS trigger LANGUAGE plpgsql AS $body$ BEGIN "
+                           "IF TG_OP = 'INSERT' THEN %2 ELSIF TG_OP = 'UPDATE' THEN %3 ELSE %4 END IF; END $body$")
+                .arg(trigger.name, body(trigger.onInsert, "NEW"), body(trigger.onUpdate, "NEW"),
+                     body(trigger.onDelete, "OLD")),
+            QStringLiteral("CREATE TRIGGER %1 BEFORE INSERT OR UPDATE OR DELETE ON %2 FOR EACH ROW EXECUTE FUNCTION %1_fn()")
+                .arg(trigger.name, trigger.table)};
+}

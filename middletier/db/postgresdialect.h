@@ -22,4 +22,5 @@ public:
     QStringList tableNames(const QSqlDatabase &db) const override;
     QStringList columnNames(const QSqlDatabase &db, const QString &table) const override;
     int maxBindValues() const override;
+    QStringList beforeRowTrigger(const RowTrigger &trigger) const override;
 };

@@ -1,5 +1,7 @@
 #include "schema.h"
 
+#include "placetotals.h"
+
 namespace {
 
 // Builds one table declaration column by column, so the list below reads like DDL.
@@ -292,6 +294,10 @@ QList<TableDecl> declareTables()
                {QStringLiteral("FStockID"), QStringLiteral("FSPID"), QStringLiteral("FPeriod")})
         .index(QStringLiteral("Item"), {QStringLiteral("FItemID")})
         .index(QStringLiteral("Compose"), {QStringLiteral("FFieldCompose")}, 2)
+        .index(QStringLiteral("Group"),
+               {QStringLiteral("FStockID"), QStringLiteral("FSPID"), QStringLiteral("FPeriod"), QStringLiteral("FItemID"),
+                QStringLiteral("FAuxPropID")},
+               3)
         .references(QStringLiteral("FItemID"), QStringLiteral("t_ICItem"), QStringLiteral("FItemID"))
         .references(QStringLiteral("FStockID"), QStringLiteral("t_Stock"), QStringLiteral("FItemID"));
     tables << initial.build();
@@ -423,6 +429,19 @@ QList<TableDecl> declareTables()
                   .integer(QStringLiteral("FIndex"))
                   .primaryKey({QStringLiteral("FDataSet"), QStringLiteral("FFieldName")})
                   .build();
+
+    // ---- version 3 ----
+
+    // The totals of every place and period, kept by triggers on ICInvInitial (see PlaceTotals):
+    // the number of item rows (item and auxiliary property) and the sums of the twelve figures.
+    TableBuilder totals(PlaceTotals::Table, 3);
+    totals.integer(QStringLiteral("FStockID"), {})
+        .integer(QStringLiteral("FSPID"), {})
+        .integer(QStringLiteral("FPeriod"), {})
+        .integer(PlaceTotals::GroupCount)
+        .reals(PlaceTotals::figures())
+        .primaryKey({QStringLiteral("FStockID"), QStringLiteral("FSPID"), QStringLiteral("FPeriod")});
+    tables << totals.build();
 
     return tables;
 }

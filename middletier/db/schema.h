@@ -56,7 +56,8 @@ public:
     // ledger balances, serial numbers, users and rights, the task mutex.
     // Version 2: auxiliary properties, inventory balances after start-up, balance-adjustment
     // bills, report formats, filter field lists, the composed-key index.
-    static constexpr int CurrentVersion = 2;
+    // Version 3: the place totals kept by triggers, and the item-row index behind them.
+    static constexpr int CurrentVersion = 3;
     static inline const QString VersionTable = QStringLiteral("t_SchemaVersion");
 
     static const QList<TableDecl> &tables();

@@ -1,6 +1,7 @@
 #include "schemaddl.h"
 
 #include "dbdialect.h"
+#include "placetotals.h"
 
 QString SchemaDdl::columnDefinition(const ColumnDecl &column) const
 {
@@ -48,6 +49,8 @@ QStringList SchemaDdl::create(int version) const
         if (table.since <= version)
             statements += createTable(table, version);
     }
+    if (version >= PlaceTotals::Since)
+        statements += PlaceTotals::triggerStatements(m_dialect);
     return statements;
 }
 
@@ -70,6 +73,10 @@ QStringList SchemaDdl::migrate(int from, int to) const
             if (index.since > from && index.since <= to)
                 statements.append(createIndex(table, index));
         }
+    }
+    if (from < PlaceTotals::Since && to >= PlaceTotals::Since) {
+        statements += PlaceTotals::triggerStatements(m_dialect);
+        statements.append(PlaceTotals::backfill());
     }
     return statements;
 }

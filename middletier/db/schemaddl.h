@@ -17,9 +17,11 @@ public:
     {
     }
 
-    // CREATE TABLE and CREATE INDEX for every table as it stood at the version.
+    // CREATE TABLE and CREATE INDEX for every table as it stood at the version, and the
+    // triggers of that version.
     QStringList create(int version) const;
-    // New tables, added columns and new indexes of the versions after `from` up to `to`.
+    // New tables, added columns, new indexes and triggers of the versions after `from` up to
+    // `to`, and what fills the new tables from the rows already there.
     QStringList migrate(int from, int to) const;
 
     QStringList createTable(const TableDecl &table, int version) const;

@@ -96,3 +96,15 @@ int SqliteDialect::maxBindValues() const
     // gain nothing measurable.
     return 999;
 }
+
+QStringList SqliteDialect::beforeRowTrigger(const RowTrigger &trigger) const
+{
+    // SQLite has one trigger per kind of change.
+    const auto create = [&](const char *suffix, const char *event, const QStringList &statements) {
+        return QStringLiteral("CREATE TRIGGER %1_%2 BEFORE %3 ON %4 FOR EACH ROW BEGIN %5; END")
+            .arg(trigger.name, QLatin1String(suffix), QLatin1String(event), trigger.table,
+                 statements.join(QStringLiteral("; ")));
+    };
+    return {create("Ins", "INSERT", trigger.onInsert), create("Upd", "UPDATE", trigger.onUpdate),
+            create("Del", "DELETE", trigger.onDelete)};
+}

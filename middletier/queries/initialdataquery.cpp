@@ -4,6 +4,7 @@
 #include "pagedresult.h"
 #include "pagewindow.h"
 
+#include "db/placetotals.h"
 #include "db/recordsetbuilder.h"
 #include "db/sqlrun.h"
 
@@ -24,7 +25,7 @@ Dictionary *fetch(const QSqlDatabase &db, const Request &request)
         if (query.next()) {
             recordCount = query.value(0).toLongLong();
             for (qsizetype f = 0; f < sums.size(); ++f)
-                sums[f] = query.value(int(f) + 1).toDouble();
+                sums[f] = PlaceTotals::rounded(query.value(int(f) + 1).toDouble());
         }
     }
 

@@ -3,6 +3,8 @@
 #include "itemrowfields.h"
 #include "pagewindow.h"
 
+#include "db/placetotals.h"
+
 namespace {
 
 // The place condition on rows v; with the columns hidden from the index choice ("+"), SQLite
@@ -108,6 +110,12 @@ script::BoundSql InitialDataSql::totals() const
                       .arg(ItemRowFields::groupAggregates(), PlaceCondition, ItemRowFields::sumsOverGroups(),
                            ItemRowFields::rowJoins(), where);
         sql.values = placeValues() + m_applied.where.values;
+        return sql;
+    }
+    // The whole place: its totals are kept as its rows are written.
+    if (m_applied.where.isEmpty()) {
+        sql.sql = PlaceTotals::select();
+        sql.values = placeValues();
         return sql;
     }
     // An item-level condition holds for all rows of a group or for none, so the sums over the

@@ -3,11 +3,15 @@
 #include "scratchaccountset.h"
 #include "servicecalls.h"
 
+#include "db/placetotals.h"
 #include "db/sqlrun.h"
 #include "queries/dataerrors.h"
+#include "queries/itemrowfields.h"
 #include "services/progids.h"
 
+#include "frame/automation/componentregistry.h"
 #include "frame/automation/dictionary.h"
+#include "frame/automation/dispatch.h"
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
 
@@ -413,4 +417,110 @@ void TestInitialData::exportListsEveryRowOfThePlace()
             steel.append(rs->Fields(QStringLiteral("FBatchNo")).toString());
     }
     QCOMPARE(steel, batches);
+}
+
+namespace {
+
+// An item row as the entry grid inserts it: year start = opening = qty, amount 10 a unit.
+QString itemRowInsert(int item, int aux, const QString &batch, double qty)
+{
+    return QStringLiteral("Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo, "
+                          "FYtdAuxBegQty,FYtdBegBal,FYtdBegDiff, FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff, "
+                          "FYtdAuxSend,FYtdCredit,FYtdSendDiff, FAuxBegQty,FBegBal,FBegDiff, FAuxUnitBegQty,"
+                          "FYtdAuxUnitBegQty,FYtdAuxUnitSend, FYtdAuxUnitReceive,FStockInDate,FSecUnitID,FAuxPropID,"
+                          "FSecCoefficient,FFieldCompose) Values('0',%1,%2,0,%3,1,'%4',%5,%6,0.1,0,0,0,0,0,0,%5,%6,0.1,"
+                          "0,0,0,0,'2024-04-01',0,%7,0,'%2|0|%1|%3|%7')")
+        .arg(Period).arg(Stock).arg(item).arg(batch).arg(qty).arg(qty * 10).arg(aux);
+}
+
+QString itemDelete(int item, int aux)
+{
+    return QStringLiteral("Delete from ICInvInitial Where FStockID=%1 And FSPID=0 And FPeriod=%2 And FItemID = %3 "
+                          "And FAuxPropID = %4")
+        .arg(Stock).arg(Period).arg(item).arg(aux);
+}
+
+// The item rows and figure sums of the place as the rows themselves say, summed afresh.
+QList<double> summedAfresh(const QSqlDatabase &db)
+{
+    QStringList sums;
+    for (const QString &figure : PlaceTotals::figures())
+        sums.append(QStringLiteral("coalesce(sum(%1),0)").arg(figure));
+    QSqlQuery query = SqlRun::exec(
+        db,
+        QStringLiteral("SELECT (SELECT count(*) FROM (SELECT DISTINCT FItemID, FAuxPropID FROM ICInvInitial "
+                       "WHERE FStockID=? AND FSPID=0 AND FPeriod=?) d), %1 FROM ICInvInitial "
+                       "WHERE FStockID=? AND FSPID=0 AND FPeriod=?")
+            .arg(sums.join(QLatin1Char(','))),
+        {Stock, Period, Stock, Period});
+    QList<double> values;
+    if (query.next()) {
+        for (int i = 0; i <= int(PlaceTotals::figures().size()); ++i)
+            values.append(PlaceTotals::rounded(query.value(i).toDouble()));
+    }
+    return values;
+}
+
+QList<double> servedTotals(const Page &page)
+{
+    QList<double> values{double(page.recordCount())};
+    // The served names of the twelve figures, in the order of the stored columns.
+    for (const QString &field : ItemRowFields::figureFields())
+        values.append(page.totals->Fields(field).toDouble());
+    return values;
+}
+
+} // namespace
+
+void TestInitialData::placeTotalsFollowEveryWrite_data()
+{
+    addBackendColumn();
+    addBackendRows();
+}
+
+void TestInitialData::placeTotalsFollowEveryWrite()
+{
+    QFETCH(QString, backend);
+    REQUIRE_BACKEND(backend);
+    ScratchAccountSet scratch(backend);
+    const QSqlDatabase db = scratch.db();
+    seedPlace(db);
+    const auto data = CreateObject(Data);
+
+    // Each step is a script of the shapes the controls write; after each, the totals the page
+    // carries must be what the rows add up to.
+    const QList<std::pair<const char *, QString>> steps{
+        {"a new item row", itemRowInsert(6, 0, {}, 4)},
+        {"another line of an item row that has lines", itemRowInsert(SteelPlate, 0, QStringLiteral("B3"), 0.3)},
+        {"a row re-pointed onto an item row that exists",
+         QStringLiteral("update icinvinitial set FItemID=6,funitid=1,FFieldCompose='70|0|4|6|0',FAuxPropID=0 "
+                        "where FFieldCompose='70|0|4|2|0'")},
+        {"a row re-pointed onto a new property",
+         QStringLiteral("update icinvinitial set FItemID=3,funitid=7,FFieldCompose='70|0|4|3|1',FAuxPropID=1 "
+                        "where FFieldCompose='70|0|4|3|0'")},
+        {"figures rewritten in place",
+         QStringLiteral("update icinvinitial set FItemID=4, funitid=7 ,FStockInDate='2024-04-01',FYtdAuxBegQty=0.7,"
+                        "FYtdBegBal=0.2,FYtdBegDiff=0,FYtdAuxReceive=0,FYtdDebit=0,FYtdReceiveDiff=0,FYtdAuxSend=0,"
+                        "FYtdCredit=0,FYtdSendDiff=0,FAuxBegQty=0.7,FBegBal=0.2,FBegDiff=0,FAuxUnitBegQty=0,"
+                        "FYtdAuxUnitBegQty=0,FYtdAuxUnitSend=0,FYtdAuxUnitReceive=0,FFieldCompose='70|0|4|4|0' ,"
+                        "FAuxPropID=0 where FFieldCompose='70|0|4|4|0'")},
+        {"an item with lines deleted", itemDelete(SteelPlate, 0)},
+        {"every item row deleted",
+         QStringList{itemDelete(RoundSteel, RedS), itemDelete(3, 1), itemDelete(4, 0), itemDelete(5, 0),
+                     itemDelete(6, 0), itemDelete(7, 0), itemDelete(8, 0)}
+             .join(QStringLiteral("\r\n"))},
+    };
+    QCOMPARE(servedTotals(fetchPage(scratch, 3, 1)), summedAfresh(db));
+    for (const auto &[name, script] : steps) {
+        Dispatch::call(data.get(), QStringLiteral("UpdateINIData"), {scratch.propsString(), script});
+        const QList<double> expected = summedAfresh(db);
+        QVERIFY2(servedTotals(fetchPage(scratch, 3, 1)) == expected, name);
+    }
+    // Nothing is left, and the totals say so exactly, without binary residue.
+    QCOMPARE(summedAfresh(db).first(), 0.0);
+    QCOMPARE(servedTotals(fetchPage(scratch, 3, 1)), QList<double>(PlaceTotals::figures().size() + 1, 0.0));
+    // The other place of the warehouse and the other period kept theirs.
+    const auto other = dictionary(Data, Fetch, {scratch.propsString(), Stock, OtherPlace, Period, 3, 1, {}, {}, {}, {}, false});
+    const auto otherTotals = takeObject<Recordset>(other->Item(QStringLiteral("Totals")));
+    QCOMPARE(otherTotals->Fields(QStringLiteral("FInitBegQty")).toDouble(), 1000.0);
 }

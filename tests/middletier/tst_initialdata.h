@@ -23,4 +23,6 @@ private slots:
     void batchLinesComeInTheAskedUnit();
     void exportListsEveryRowOfThePlace_data();
     void exportListsEveryRowOfThePlace();
+    void placeTotalsFollowEveryWrite_data();
+    void placeTotalsFollowEveryWrite();
 };

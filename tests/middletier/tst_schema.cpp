@@ -4,6 +4,7 @@
 
 #include "db/accountset.h"
 #include "db/dbdialect.h"
+#include "db/placetotals.h"
 #include "db/schema.h"
 #include "db/schemamanager.h"
 #include "db/sqlrun.h"
@@ -145,6 +146,14 @@ void TestSchema::migratesFromVersionOne()
                                          "VALUES (70, 7, '070', '旧单位')"));
         SqlRun::exec(old, QStringLiteral("INSERT INTO t_ICItem (FItemID, FNumber, FName, FUnitGroupID, FUnitID) "
                                          "VALUES (5, 'OLD.1', '旧物料', 7, 70)"));
+        // Balance rows from before the place totals: two lines of one item row, and another place.
+        SqlRun::exec(old, QStringLiteral("INSERT INTO t_Stock (FItemID, FNumber, FName) VALUES (3, '03', '旧仓')"));
+        const QString line = QStringLiteral("INSERT INTO ICInvInitial (FBrNo, FPeriod, FStockID, FSPID, FItemID, "
+                                            "FUnitID, FBatchNo, FAuxPropID, FAuxBegQty, FBegBal, FFieldCompose) "
+                                            "VALUES ('0', 1, 3, ?, 5, 70, ?, 0, ?, ?, '')");
+        SqlRun::exec(old, line, {0, QStringLiteral("A"), 2.0, 20.5});
+        SqlRun::exec(old, line, {0, QStringLiteral("B"), 3.0, 30.25});
+        SqlRun::exec(old, line, {4, QString(QLatin1String("")), 1.0, 9.0});
         old.close();
     }
     QSqlDatabase::removeDatabase(QStringLiteral("v1"));
@@ -161,6 +170,16 @@ void TestSchema::migratesFromVersionOne()
         SqlRun::scalar(db, QStringLiteral("SELECT count(*) FROM t_SystemProfile WHERE FKey='ShowFilterFormByInit'"))
             .toInt(),
         1);
+    // The place totals of the rows already there are filled in by the upgrade.
+    const auto totals = [&](int spId) {
+        QSqlQuery query = SqlRun::exec(db, PlaceTotals::select(), {3, spId, 1});
+        // Item rows, opening quantity, opening amount.
+        return query.next() ? QList<double>{query.value(0).toDouble(), query.value(10).toDouble(),
+                                            query.value(11).toDouble()}
+                            : QList<double>{};
+    };
+    QCOMPARE(totals(0), (QList<double>{1, 5.0, 50.75}));
+    QCOMPARE(totals(4), (QList<double>{1, 1.0, 9.0}));
     // A second upgrade finds nothing to do.
     QCOMPARE(AccountSet::migrate(scratch.acctDb()), Schema::CurrentVersion);
 }
