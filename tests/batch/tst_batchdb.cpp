@@ -1,3 +1,4 @@
+#include "privatesettings.h"
 #include "scratchaccountset.h"
 #include "servicecalls.h"
 
@@ -14,9 +15,9 @@
 #include "grid/spreadgrid.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDate>
 #include <QSqlQuery>
-#include <QStandardPaths>
 #include <QTest>
 
 namespace {
@@ -118,8 +119,7 @@ private:
 private slots:
     void initTestCase()
     {
-        QStandardPaths::setTestModeEnabled(true);
-        Prompter::install(&m_prompter);
+            Prompter::install(&m_prompter);
     }
 
     void cleanupTestCase() { Prompter::install(nullptr); }
@@ -417,5 +417,11 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestBatchOnAccountSet)
+int main(int argc, char **argv)
+{
+    const PrivateSettings settings;
+    QApplication app(argc, argv);
+    TestBatchOnAccountSet suite;
+    return QTest::qExec(&suite, argc, argv);
+}
 #include "tst_batchdb.moc"

@@ -1,4 +1,5 @@
 // The entry control's suites on a temporary account set, in one executable.
+#include "privatesettings.h"
 #include "tst_commandsdb.h"
 #include "tst_totalsdb.h"
 
@@ -7,6 +8,7 @@
 
 int main(int argc, char **argv)
 {
+    const PrivateSettings settings;
     QApplication app(argc, argv);
     int failed = 0;
     {

@@ -19,7 +19,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QStandardPaths>
 #include <QTest>
 #include <QToolBar>
 
@@ -133,7 +132,6 @@ const SettingSpec *const viewSettings[] = {&Setting::ShowToolBar, &Setting::Show
 
 void TestCommandsOnAccountSet::initTestCase()
 {
-    QStandardPaths::setTestModeEnabled(true);
     Prompter::install(&m_prompter);
 }
 

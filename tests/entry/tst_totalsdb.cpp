@@ -18,7 +18,6 @@
 #include "grid/spreadgrid.h"
 
 #include <QLocale>
-#include <QStandardPaths>
 #include <QTest>
 
 using namespace EntryDb;
@@ -71,7 +70,6 @@ void addTwoItemRows(const ScratchAccountSet &scratch)
 
 void TestTotalsOnAccountSet::initTestCase()
 {
-    QStandardPaths::setTestModeEnabled(true);
     Prompter::install(&m_prompter);
 }
 
