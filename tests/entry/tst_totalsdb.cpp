@@ -10,6 +10,7 @@
 #include "entry/navtree.h"
 #include "entry/pagebar.h"
 
+#include "frame/barlist.h"
 #include "frame/librarystate.h"
 #include "frame/settingsstore.h"
 
@@ -165,6 +166,34 @@ void TestTotalsOnAccountSet::onePageSumsTheGridWithEmptyCellsAsZero()
     expected[columns.indexOf(EntryCol::BegDiff)] -= 150;
     for (int i = 0; i < columns.size(); ++i)
         QCOMPARE(grid.number(row, columns.at(i)), expected.at(i));
+}
+
+void TestTotalsOnAccountSet::sumCommandGoesToTheGrandTotal_data()
+{
+    addBackendColumn();
+    addBackendRows();
+}
+
+void TestTotalsOnAccountSet::sumCommandGoesToTheGrandTotal()
+{
+    QFETCH(QString, backend);
+    REQUIRE_BACKEND(backend);
+    ScratchAccountSet scratch(backend);
+    addTwoItemRows(scratch);
+    ICInitCtl control;
+    QVERIFY(show(control, scratch));
+    control.setMlngPerPageSize(2);
+    control.tree()->clickNode(ShelfB);
+    control.PageCommand(PageBar::NextPage);
+    QCOMPARE(control.pageLabel(), QStringLiteral("2/5"));
+
+    QVERIFY(control.barList()->Click(QStringLiteral("mcESum")));
+    QCOMPARE(control.pageLabel(), QStringLiteral("5/5"));
+    const SpreadGrid &grid = *control.grid();
+    QCOMPARE(grid.row(), grid.rows() - 1);
+    QCOMPARE(grid.col(), int(EntryCol::Number));
+    QCOMPARE(grid.TextMatrix(grid.row(), EntryCol::Number), QStringLiteral("总计"));
+    QCOMPARE(grid.number(grid.row(), EntryCol::BegBal), sumsOfPlace(scratch, ShelfBId).at(10));
 }
 
 void TestTotalsOnAccountSet::filterSelectingNothingGivesZeros_data()

@@ -18,6 +18,8 @@ private slots:
     void onlyTheLastPageSumsThePlace();
     void onePageSumsTheGridWithEmptyCellsAsZero_data();
     void onePageSumsTheGridWithEmptyCellsAsZero();
+    void sumCommandGoesToTheGrandTotal_data();
+    void sumCommandGoesToTheGrandTotal();
     void filterSelectingNothingGivesZeros_data();
     void filterSelectingNothingGivesZeros();
 
