@@ -217,6 +217,9 @@ void ICInitCtl::enableCommands()
         if (!QLatin1String(spec.toolKey).isEmpty())
             bars.setEnabled(QString::fromLatin1(spec.toolKey), available);
     }
+    // Quantities alone leave nothing to reconcile with the ledger.
+    for (const QString &key : reconciliationKeys())
+        bars.setVisible(key, reconciliationExists());
     // Save follows the unsaved rows and Find the loaded ones.
     setSaveEnabled(m_saver && m_saver->changes().isDirty());
     setFindEnabled();
@@ -642,7 +645,12 @@ QString ICInitCtl::currentNodeKey() const
 void ICInitCtl::setNodeCommandsVisible(bool visible)
 {
     for (const QString &key : nodeDependentKeys())
-        barList()->setVisible(key, visible);
+        barList()->setVisible(key, visible && (reconciliationExists() || !reconciliationKeys().contains(key)));
+}
+
+bool ICInitCtl::reconciliationExists() const
+{
+    return SysParams::current() && SysParams::toInt(SysParam::AuditChoice) != 0;
 }
 
 void ICInitCtl::runCommand(const QString &key)

@@ -91,6 +91,8 @@ private:
     void setMode(Mode mode);
     void enableCommands();
     void setNodeCommandsVisible(bool visible);
+    // Whether the account set keeps amounts ("AuditChoice"), so that there is a reconciliation.
+    bool reconciliationExists() const;
     void fillStockList();
     void openDefaultStock();
     // Loads page `pageIndex` of the current node into the grid.

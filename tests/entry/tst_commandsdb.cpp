@@ -356,6 +356,34 @@ void TestCommandsOnAccountSet::enablingFollowsModeAndInitialisation()
     QVERIFY(!bars.isEnabled(EntryKeys::Save));
 }
 
+void TestCommandsOnAccountSet::reconciliationCommandsNeedAmounts_data()
+{
+    QTest::addColumn<int>("auditChoice");
+    QTest::newRow("quantities only") << 0;
+    QTest::newRow("quantities and amounts") << 1;
+}
+
+void TestCommandsOnAccountSet::reconciliationCommandsNeedAmounts()
+{
+    QFETCH(int, auditChoice);
+    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+    setParameter(scratch, QStringLiteral("AuditChoice"), auditChoice);
+    HostFrame host;
+    ICInitCtl control;
+    QVERIFY(show(control, scratch, &host));
+    control.tree()->clickNode(ShelfB);
+    const BarList &bars = *control.barList();
+    for (const char *key : {"mcVCheck", "Check", "mcVBalance", "Balance", "Transfer"})
+        QVERIFY2(bars.isVisible(QLatin1String(key)) == (auditChoice != 0), key);
+    // The entry commands are there either way.
+    for (const char *key : {"mcEAddNew", "AddNew", "mcESum", "Sum", "mcFSave", "Save"})
+        QVERIFY2(bars.isVisible(QLatin1String(key)), key);
+    // The warehouse root shows no entry commands, whatever the accounting.
+    control.tree()->clickNode(QStringLiteral("K0"));
+    for (const char *key : {"mcVBalance", "Balance", "AddNew"})
+        QVERIFY2(!bars.isVisible(QLatin1String(key)), key);
+}
+
 void TestCommandsOnAccountSet::keysRunTheCommandOfTheirAccelerator()
 {
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);

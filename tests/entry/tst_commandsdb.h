@@ -22,6 +22,8 @@ private slots:
     void viewSettingsSurviveANewShow();
     void enablingFollowsModeAndInitialisation_data();
     void enablingFollowsModeAndInitialisation();
+    void reconciliationCommandsNeedAmounts_data();
+    void reconciliationCommandsNeedAmounts();
     void keysRunTheCommandOfTheirAccelerator();
 
 private:
