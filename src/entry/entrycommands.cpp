@@ -116,3 +116,11 @@ const QVector<QString> &nodeDependentKeys()
         EntryKeys::Separator3};
     return keys;
 }
+
+const QVector<QString> &reconciliationKeys()
+{
+    static const QVector<QString> keys{QStringLiteral("mcVCheck"), QStringLiteral("Check"),
+                                       QStringLiteral("mcVBalance"), QStringLiteral("Balance"),
+                                       EntryKeys::Transfer};
+    return keys;
+}

@@ -49,3 +49,5 @@ LUMOICINITIAL_EXPORT bool entryCommandForKey(const QString &key, EntryCommand *c
 LUMOICINITIAL_EXPORT void fillEntryBarList(BarList &bars);
 // The entry commands whose visibility follows the clicked node.
 LUMOICINITIAL_EXPORT const QVector<QString> &nodeDependentKeys();
+// The reconciliation commands, which exist only when the account set keeps amounts.
+LUMOICINITIAL_EXPORT const QVector<QString> &reconciliationKeys();

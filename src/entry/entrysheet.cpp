@@ -115,6 +115,12 @@ bool EntrySheet::isTotalsRow(int row) const
     return row > 0 && row < m_kinds.size() && m_kinds.at(row) == RowKind::Totals;
 }
 
+int EntrySheet::totalsRow() const
+{
+    const int row = int(m_kinds.lastIndexOf(RowKind::Totals));
+    return qMax(0, row);
+}
+
 bool EntrySheet::isBatchLine(int row) const
 {
     return row > 0 && row < m_kinds.size() && m_kinds.at(row) == RowKind::BatchLine;

@@ -77,6 +77,8 @@ public:
     // The grand-total row: on the last page only, summed from the grid for one page, from the
     // whole place's totals for several.
     void refreshTotals();
+    // The row of the grand total; 0 when none is shown.
+    int totalsRow() const;
 
     SpreadGrid &grid() const { return m_grid; }
     CellModel &cells() const;

@@ -42,15 +42,19 @@ namespace {
 constexpr int AppTypeStock = 2;
 const QString NodeClickLog = QStringLiteral("LumoICInitialCtl.ICInitCtl.tvICInit_NodeClick 显示初始化录入界面");
 
-// Commands whose procedures this build has; the rest stay disabled.
-bool isAvailable(EntryCommand command)
+// Whether a command can run: it needs a procedure in this build, the entry commands need entry
+// mode, and the commands that change figures need initialisation to be open.
+bool isAvailable(EntryCommand command, bool entryMode, bool initialisationOpen)
 {
     switch (command) {
     case EntryCommand::Exit: case EntryCommand::Refresh: case EntryCommand::Tree: case EntryCommand::OrgWidth:
     case EntryCommand::AutoRefresh: case EntryCommand::ToolBar: case EntryCommand::ToolBarLabel:
-    case EntryCommand::StatusBar: case EntryCommand::DefaultStock: case EntryCommand::Save:
-    case EntryCommand::AddNew: case EntryCommand::Delete:
+    case EntryCommand::StatusBar: case EntryCommand::DefaultStock:
         return true;
+    case EntryCommand::Sum:
+        return entryMode;
+    case EntryCommand::Save: case EntryCommand::AddNew: case EntryCommand::Delete:
+        return entryMode && initialisationOpen;
     default:
         return false;
     }
@@ -204,18 +208,29 @@ void ICInitCtl::setMode(Mode mode)
 void ICInitCtl::enableCommands()
 {
     BarList &bars = *barList();
+    const bool entryMode = m_mode == Mode::Entry;
+    const bool initialisationOpen = LibraryState::instance().periodOpen;
     for (const EntryCommandSpec &spec : entryCommandTable()) {
-        const bool available = isAvailable(spec.command);
+        const bool available = isAvailable(spec.command, entryMode, initialisationOpen);
         for (const char *menuKey : spec.menuKeys)
             bars.setEnabled(QString::fromLatin1(menuKey), available);
         if (!QLatin1String(spec.toolKey).isEmpty())
             bars.setEnabled(QString::fromLatin1(spec.toolKey), available);
     }
-    // Save follows the unsaved rows and Find the loaded ones, whatever the mode allows.
+    // Quantities alone leave nothing to reconcile with the ledger.
+    for (const QString &key : reconciliationKeys())
+        bars.setVisible(key, reconciliationExists());
+    // Save follows the unsaved rows and Find the loaded ones.
     setSaveEnabled(m_saver && m_saver->changes().isDirty());
-    const bool rowsLoaded = m_sheet && m_sheet->lastDataRow() > 0;
-    bars.setEnabled(EntryKeys::Find, rowsLoaded);
-    bars.setEnabled(EntryKeys::EFind, rowsLoaded);
+    setFindEnabled();
+}
+
+void ICInitCtl::setFindEnabled()
+{
+    const bool enabled = isAvailable(EntryCommand::Find, m_mode == Mode::Entry, LibraryState::instance().periodOpen)
+        && m_sheet && m_sheet->lastDataRow() > 0;
+    barList()->setEnabled(EntryKeys::Find, enabled);
+    barList()->setEnabled(EntryKeys::EFind, enabled);
 }
 
 void ICInitCtl::LoadingStocks()
@@ -368,8 +383,7 @@ void ICInitCtl::loadRows(int pageIndex)
     showPages();
     m_saver->changes().clear();
     setMBlsIsNewData(false);
-    barList()->setEnabled(EntryKeys::Find, m_sheet->lastDataRow() > 0);
-    barList()->setEnabled(EntryKeys::EFind, m_sheet->lastDataRow() > 0);
+    setFindEnabled();
 }
 
 void ICInitCtl::showPages()
@@ -413,7 +427,7 @@ void ICInitCtl::PageCommand(const QString &key)
 
 void ICInitCtl::setSaveEnabled(bool enabled)
 {
-    const bool allowed = enabled && LibraryState::instance().periodOpen;
+    const bool allowed = enabled && m_mode == Mode::Entry && LibraryState::instance().periodOpen;
     barList()->setEnabled(EntryKeys::Save, allowed);
     barList()->setEnabled(EntryKeys::FSave, allowed);
 }
@@ -499,31 +513,43 @@ void ICInitCtl::onCellButtonClick(int row, int col)
     // The batch lines hang on the item row's saved key: a new or changed row is saved first.
     if (barList()->isEnabled(EntryKeys::Save) && !SaveData())
         return;
-    CellModel &cells = *m_grid->cells();
-    const ItemInfo *info = m_sheet->itemInfo(int(cells.number(row, EntryCol::ItemID)));
-    if (!info || !info->hasDetailLines())
+    const std::unique_ptr<frmBatchManager> dialog = batchDialogFor(row);
+    if (!dialog)
         return;
-    ItemInfo item = *info;
-    item.auxPropId = int(cells.number(row, EntryCol::AuxPropID));
-    const std::unique_ptr<Dictionary> itemKey = item.toItemKey();
-    frmBatchManager dialog(this);
-    dialog.setBMItemKey(itemKey.get());
-    dialog.setCurrentBMStock(m_sheet->place().stockId);
-    dialog.setCurrentBMSPlace(m_sheet->place().spId);
-    dialog.setCurrentBMItem(item.id);
-    dialog.setCurrentUnitID(int(cells.number(row, EntryCol::UnitID)));
-    dialog.setCurrentSecUnitID(int(cells.number(row, EntryCol::SecUnitID)));
-    dialog.setFieldCompose(cells.text(row, EntryCol::FieldCompose));
-    dialog.setLVSColor(int(SettingsStore::rgbNumber(m_sheet->colors().lock)));
-    dialog.setStockType(m_sheet->place().stockType);
-    dialog.ShowDialog();
-    if (!dialog.SavedBatMan())
+    dialog->ShowDialog();
+    if (!dialog->SavedBatMan())
         return;
     try {
         loadRows(mlngPageIndex());
     } catch (const LumoError &error) {
         reportProcedureError(QStringLiteral("FillBatManDetailByRs"), error);
     }
+}
+
+std::unique_ptr<frmBatchManager> ICInitCtl::batchDialogFor(int row)
+{
+    if (!m_sheet->isItemRow(row))
+        return {};
+    const CellModel &cells = *m_grid->cells();
+    const ItemInfo *info = m_sheet->itemInfo(int(cells.number(row, EntryCol::ItemID)));
+    if (!info || !info->hasDetailLines())
+        return {};
+    ItemInfo item = *info;
+    item.auxPropId = int(cells.number(row, EntryCol::AuxPropID));
+    auto dialog = std::make_unique<frmBatchManager>(this);
+    // The dialog reads the item's collection when it opens; it keeps it until then.
+    Dictionary *itemKey = item.toItemKey().release();
+    itemKey->setParent(dialog.get());
+    dialog->setBMItemKey(itemKey);
+    dialog->setCurrentBMStock(m_sheet->place().stockId);
+    dialog->setCurrentBMSPlace(m_sheet->place().spId);
+    dialog->setCurrentBMItem(item.id);
+    dialog->setCurrentUnitID(int(cells.number(row, EntryCol::UnitID)));
+    dialog->setCurrentSecUnitID(int(cells.number(row, EntryCol::SecUnitID)));
+    dialog->setFieldCompose(cells.text(row, EntryCol::FieldCompose));
+    dialog->setLVSColor(int(SettingsStore::rgbNumber(m_sheet->colors().lock)));
+    dialog->setStockType(m_sheet->place().stockType);
+    return dialog;
 }
 
 bool ICInitCtl::SaveData()
@@ -589,6 +615,24 @@ bool ICInitCtl::DeleteCurrentRow()
     return true;
 }
 
+bool ICInitCtl::showTotals()
+{
+    if (m_mode != Mode::Entry || m_currentNode < 0)
+        return false;
+    // The grand total is shown on the last page only.
+    if (mTotalPages() > 1 && mlngPageIndex() != mTotalPages()) {
+        PageCommand(PageBar::LastPage);
+        if (mlngPageIndex() != mTotalPages())
+            return false;
+    }
+    m_sheet->refreshTotals();
+    const int row = m_sheet->totalsRow();
+    if (row <= 0)
+        return false;
+    SpreadConsole::moveToCell(*m_grid, row, EntryCol::Number);
+    return true;
+}
+
 QString ICInitCtl::currentNodeKey() const
 {
     for (const QString &key : m_tree->nodeKeys()) {
@@ -601,7 +645,12 @@ QString ICInitCtl::currentNodeKey() const
 void ICInitCtl::setNodeCommandsVisible(bool visible)
 {
     for (const QString &key : nodeDependentKeys())
-        barList()->setVisible(key, visible);
+        barList()->setVisible(key, visible && (reconciliationExists() || !reconciliationKeys().contains(key)));
+}
+
+bool ICInitCtl::reconciliationExists() const
+{
+    return SysParams::current() && SysParams::toInt(SysParam::AuditChoice) != 0;
 }
 
 void ICInitCtl::runCommand(const QString &key)
@@ -626,6 +675,9 @@ void ICInitCtl::runCommand(const QString &key)
         break;
     case EntryCommand::Delete:
         DeleteCurrentRow();
+        break;
+    case EntryCommand::Sum:
+        showTotals();
         break;
     case EntryCommand::Tree:
         m_treePane->setHidden(!m_treePane->isHidden());

@@ -12,6 +12,7 @@
 #include <memory>
 
 class EntrySaver;
+class frmBatchManager;
 class EntrySheet;
 class NavTree;
 class PageBar;
@@ -72,6 +73,12 @@ public:
     // Deletes the item row under the cursor (not an unfolded one).
     Q_INVOKABLE bool DeleteCurrentRow();
     EntrySaver *saver() const { return m_saver.get(); }
+    // The batch dialog for the item row, its members set from the row and the item; null for a
+    // row without batch or shelf-life management. The caller prepares and shows it.
+    std::unique_ptr<frmBatchManager> batchDialogFor(int row);
+    // The Sum command: goes to the last page, sums again and puts the cursor on the "总计" row;
+    // false where no totals row can be shown.
+    Q_INVOKABLE bool showTotals();
 
 protected:
     void runCommand(const QString &key) override;
@@ -84,6 +91,8 @@ private:
     void setMode(Mode mode);
     void enableCommands();
     void setNodeCommandsVisible(bool visible);
+    // Whether the account set keeps amounts ("AuditChoice"), so that there is a reconciliation.
+    bool reconciliationExists() const;
     void fillStockList();
     void openDefaultStock();
     // Loads page `pageIndex` of the current node into the grid.
@@ -95,6 +104,8 @@ private:
     void onCellButtonClick(int row, int col);
     void markRowChanged(int row);
     void setSaveEnabled(bool enabled);
+    // Find needs loaded rows, and its procedure.
+    void setFindEnabled();
     QString currentNodeKey() const;
     bool checkEditedGroup(int row, int col, const QVariant &value);
 

@@ -123,10 +123,16 @@ void InitControl::bindHost(QObject *parentWnd)
     if (m_parentWindow)
         disconnect(m_parentWindow, nullptr, this, nullptr);
     m_parentWindow = parentWnd;
-    // The host's toolbar buttons of this control arrive as their keys.
-    connect(parentWnd, SIGNAL(ToolBarClick(QString)), this, SLOT(dispatchCommand(QString)));
+    // The host's toolbar buttons of this control arrive as their keys; like the control's own
+    // buttons they run only while enabled and shown.
+    connect(parentWnd, SIGNAL(ToolBarClick(QString)), this, SLOT(hostToolBarClick(QString)));
     RefreshToolbar();
     rebuildToolBar();
+}
+
+void InitControl::hostToolBarClick(const QString &key)
+{
+    m_barList->Click(key);
 }
 
 void InitControl::dispatchCommand(const QString &key)
@@ -172,7 +178,11 @@ void InitControl::rebuildToolBar()
 {
     // A hosted control shows its buttons on the host's toolbar; alone, on its own.
     m_toolBar->setVisible(!m_parentWindow && m_barList->toolbarVisible());
+    // The toolbar owns the actions it made; clear() only takes them off.
+    const QList<QAction *> previous = m_toolBar->actions();
     m_toolBar->clear();
+    for (QAction *action : previous)
+        action->deleteLater();
     m_toolBar->setToolButtonStyle(m_barList->toolbarLabels() ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
     for (const BarList::Item &item : m_barList->items()) {
         if (!item.visible || item.kind == BarList::ItemKind::MenuItem)
@@ -182,6 +192,7 @@ void InitControl::rebuildToolBar()
             continue;
         }
         QAction *action = m_toolBar->addAction(QIcon::fromTheme(item.iconName), item.caption);
+        action->setObjectName(item.key);
         action->setEnabled(item.enabled);
         const QString key = item.key;
         connect(action, &QAction::triggered, m_barList, [this, key] { m_barList->Click(key); });

@@ -96,6 +96,7 @@ protected:
 
 private slots:
     void dispatchCommand(const QString &key);
+    void hostToolBarClick(const QString &key);
 
 private:
 

@@ -267,30 +267,6 @@ void TestBatchDialog::typedBatchRepeatIsRefused()
     QCOMPARE(grid.TextMatrix(2, Flag), QString()); // refused edits change nothing
 }
 
-void TestBatchDialog::batchRepeatsWithOtherDateAreSaved()
-{
-    BatchWorld::instance().detailRows = {
-        record(QStringLiteral("B1"), 10, 500, 0, false, QStringLiteral("2023-12-01")),
-        record(QStringLiteral("B2"), 5, 50, 0, false, QStringLiteral("2023-11-01"))};
-    const auto dialog = openDialog(true, true);
-    SpreadGrid &grid = *dialog->grid();
-
-    // Same batch, other production date: accepted on entry and at the save.
-    QVERIFY(grid.editCell(2, BatchNo, QStringLiteral("B1")));
-    QVERIFY(dialog->pressButton(QStringLiteral("Save")));
-    QCOMPARE(BatchWorld::instance().scripts.size(), 1);
-    QVERIFY(dialog->SavedBatMan());
-
-    // Same batch and same date: refused at the save, the cursor on the later line.
-    QVERIFY(grid.editCell(2, KFDate, QStringLiteral("2023-12-01")));
-    QVERIFY(dialog->pressButton(QStringLiteral("Save")));
-    QCOMPARE(BatchWorld::instance().scripts.size(), 1);
-    QCOMPARE(m_prompter.messages().last().text, QStringLiteral("批次+生产/采购日期不能重复!"));
-    QCOMPARE(m_prompter.messages().last().icon, Prompter::Icon::Warning);
-    QCOMPARE(grid.row(), 2);
-    QCOMPARE(grid.col(), int(BatchNo));
-}
-
 void TestBatchDialog::apportioningSplitsTheTypedTotals()
 {
     setParams({{QStringLiteral("ShareBal"), 1}});
@@ -333,25 +309,6 @@ void TestBatchDialog::apportioningSplitsTheTypedTotals()
     QCOMPARE(grid.TextMatrix(4, BatchNo), QStringLiteral("合计"));
 }
 
-void TestBatchDialog::unapportionedAmountsAreNotSaved()
-{
-    setParams({{QStringLiteral("ShareBal"), 1}});
-    BatchWorld::instance().detailRows = {record(QStringLiteral("B1"), 1, 10), record(QStringLiteral("B2"), 1, 10)};
-    const auto dialog = openDialog(true, false, 77);
-    SpreadGrid &grid = *dialog->grid();
-
-    QVERIFY(grid.editCell(2, BegBal, 12));
-    QVERIFY(grid.editCell(2, YtdBal, 12));
-    QVERIFY(dialog->pressButton(QStringLiteral("Save")));
-    QVERIFY(BatchWorld::instance().scripts.isEmpty());
-    QVERIFY(!dialog->SavedBatMan());
-    QCOMPARE(m_prompter.messages().size(), 1);
-    QCOMPARE(m_prompter.messages()[0].text,
-             QStringLiteral("加权平均法、移动平均法的物料\r\n采用批次管理时，金额需要分摊来确定单价！\r\n"
-                            "系统检测到金额未分摊，请先分摊金额！"));
-    QCOMPARE(m_prompter.messages()[0].icon, Prompter::Icon::Warning);
-}
-
 void TestBatchDialog::quantityEditsFillDependentCells()
 {
     BatchWorld::instance().unitCoefficient = 1;
@@ -392,33 +349,6 @@ void TestBatchDialog::refusedGroupKeepsTheFigure()
     dialog->pressButton(QStringLiteral("Save"));
     QVERIFY(BatchWorld::instance().scripts.isEmpty());
     QCOMPARE(m_prompter.messages().size(), 2);
-}
-
-void TestBatchDialog::balanceTestMarksUnbalancedLines()
-{
-    BatchWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500), record(QStringLiteral("B2"), -4, -40),
-                                         record(QStringLiteral("B3"), -3, -30)};
-    setParams({{QStringLiteral("UnderStock"), 1}});
-    const auto dialog = openDialog(true, false);
-    SpreadGrid &grid = *dialog->grid();
-    const QColor plain = grid.cellBackColor(1, YtdQty);
-
-    // Line 3, all negative: year opening -3 against -2 + 0 - 0.
-    QVERIFY(grid.editCell(3, BegQty, -2));
-    QVERIFY(dialog->pressButton(QStringLiteral("Balance")));
-    for (int col : {YtdQty, RecvQty, SendQty, BegQty}) {
-        QVERIFY(grid.cellBackColor(3, col) != plain);
-        QCOMPARE(grid.cellBackColor(2, col), plain);
-        QCOMPARE(grid.cellBackColor(1, col), plain);
-    }
-    QCOMPARE(grid.cellBackColor(3, YtdBal), plain);
-    QCOMPARE(grid.row(), 3);
-    QCOMPARE(grid.col(), int(YtdQty));
-
-    // Issuing one more balances the line again and the marks go.
-    QVERIFY(grid.editCell(3, SendQty, -1));
-    QVERIFY(dialog->pressButton(QStringLiteral("Balance")));
-    QCOMPARE(grid.cellBackColor(3, BegQty), plain);
 }
 
 void TestBatchDialog::renamedBatchIsDeletedAndInserted()
@@ -548,9 +478,8 @@ void TestBatchDialog::closePrompt_data()
     const int no = int(Prompter::Answer::No);
     QTest::newRow("no change") << false << false << false << -1 << false << 0;
     QTest::newRow("yes, valid") << true << true << false << yes << false << 1;
-    QTest::newRow("yes, check fails") << true << false << false << yes << true << 0;
     QTest::newRow("yes, check fails, window") << true << false << true << yes << true << 0;
-    QTest::newRow("no") << true << false << false << no << false << 0;
+    QTest::newRow("no, window") << true << false << true << no << false << 0;
 }
 
 void TestBatchDialog::closePrompt()

@@ -26,12 +26,9 @@ private slots:
     void hiddenColumns();
     void emptyItemNeedsAddNew();
     void typedBatchRepeatIsRefused();
-    void batchRepeatsWithOtherDateAreSaved();
     void apportioningSplitsTheTypedTotals();
-    void unapportionedAmountsAreNotSaved();
     void quantityEditsFillDependentCells();
     void refusedGroupKeepsTheFigure();
-    void balanceTestMarksUnbalancedLines();
     void renamedBatchIsDeletedAndInserted();
     void deletingEveryLineLeavesOnlyDeletes();
     void saveScriptReachesTheService();

@@ -1,0 +1,427 @@
+#include "privatesettings.h"
+#include "scratchaccountset.h"
+#include "servicecalls.h"
+
+#include "batch/frmbatchmanager.h"
+#include "db/sqlrun.h"
+#include "entry/entrygridlayout.h"
+#include "entry/entrysheet.h"
+#include "entry/icinitctl.h"
+#include "entry/navtree.h"
+
+#include "frame/logincontext.h"
+#include "frame/prompter.h"
+
+#include "grid/spreadgrid.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDate>
+#include <QSqlQuery>
+#include <QTest>
+
+namespace {
+
+// The demo company's places and items the dialog is opened for.
+const QString ShelfA = QStringLiteral("K1P1"); // 原材料仓 / A区货架
+const QString ShelfB = QStringLiteral("K1P2"); // 原材料仓 / B区货架
+constexpr int SteelPlate = 1;   // batches, weighted average: its amounts are apportioned
+constexpr int EpoxyGlue = 6;    // batches and shelf life, individual valuation
+constexpr int ComponentKit = 9; // batches only, a batch variant of valuation
+
+// Grid columns of the dialog.
+enum Col { BatchNo = 1, YtdQty = 2, YtdBal = 4, RecvQty = 6, SendQty = 10, BegQty = 14, BegBal = 16, KFDate = 22 };
+
+const QString CRLF = QStringLiteral("\r\n");
+
+QString demoDay(int month, int day)
+{
+    return QDate(QDate::currentDate().year(), month, day).toString(Qt::ISODate);
+}
+
+void setParameter(const ScratchAccountSet &scratch, const QString &key, const QVariant &value)
+{
+    SqlRun::exec(scratch.db(), QStringLiteral("UPDATE t_SystemProfile SET FValue=? WHERE FKey=?"),
+                 {value.toString(), key});
+}
+
+// "batch production-date opening-qty opening-amount year-opening-amount" of every stored line
+// of an item in the current period, in batch and date order.
+QStringList storedLines(const ScratchAccountSet &scratch, int spId, int itemId)
+{
+    QSqlQuery query = SqlRun::exec(
+        scratch.db(),
+        QStringLiteral("SELECT FBatchNo, FKFDate, FAuxBegQty, FBegBal, FYtdBegBal FROM ICInvInitial "
+                       "WHERE FStockID=1 AND FSPID=? AND FItemID=? AND FPeriod=4 ORDER BY FBatchNo, FKFDate"),
+        {spId, itemId});
+    QStringList lines;
+    while (query.next()) {
+        lines.append(QStringLiteral("%1 %2 %3 %4 %5")
+                         .arg(query.value(0).toString(), query.value(1).toString())
+                         .arg(query.value(2).toDouble())
+                         .arg(query.value(3).toDouble())
+                         .arg(query.value(4).toDouble()));
+    }
+    return lines;
+}
+
+int serialRecords(const ScratchAccountSet &scratch, int listId)
+{
+    int count = 0;
+    for (const char *table : {"ICSerial", "ICSerialFlow", "ICSerial_F1"})
+        count += SqlRun::scalar(scratch.db(), QStringLiteral("SELECT count(*) FROM %1 WHERE FSNListID=?")
+                                                  .arg(QLatin1String(table)),
+                                {listId})
+                     .toInt();
+    return count;
+}
+
+} // namespace
+
+// The batch dialog on a temporary account set with the demo company: opened from the entry
+// control's item row as a user opens it, and judged by what reaches ICInvInitial.
+class TestBatchOnAccountSet : public QObject
+{
+    Q_OBJECT
+
+private:
+    ScriptedPrompter m_prompter;
+    std::unique_ptr<ScratchAccountSet> m_scratch;
+    std::unique_ptr<ICInitCtl> m_control;
+
+    // Shows the entry control on the scratch set, clicks the place and opens the dialog on the
+    // item's row; null (with the test failed) when any step does not work.
+    std::unique_ptr<frmBatchManager> openItem(const QString &placeKey, int itemId)
+    {
+        ServiceCalls::publishLogin(m_scratch->propsString());
+        LoginContext::instance().reset();
+        m_control = std::make_unique<ICInitCtl>();
+        if (!m_control->Show(nullptr, true))
+            return {};
+        m_control->tree()->clickNode(placeKey);
+        const EntrySheet &sheet = *m_control->sheet();
+        for (int row = 1; row <= sheet.lastDataRow(); ++row) {
+            if (sheet.isItemRow(row) && int(m_control->grid()->number(row, EntryCol::ItemID)) == itemId) {
+                std::unique_ptr<frmBatchManager> dialog = m_control->batchDialogFor(row);
+                if (dialog)
+                    dialog->prepare();
+                return dialog;
+            }
+        }
+        return {};
+    }
+
+    QString lastMessage() const
+    {
+        return m_prompter.messages().isEmpty() ? QString() : m_prompter.messages().last().text;
+    }
+
+private slots:
+    void initTestCase()
+    {
+            Prompter::install(&m_prompter);
+    }
+
+    void cleanupTestCase() { Prompter::install(nullptr); }
+
+    void init()
+    {
+        m_prompter.clear();
+        QFETCH(QString, backend);
+        if (!ScratchAccountSet::available(backend))
+            QSKIP("PostgreSQL is tested only when LUMO_TEST_PG names a server");
+        m_scratch = std::make_unique<ScratchAccountSet>(backend);
+    }
+
+    void cleanup()
+    {
+        m_control.reset();
+        m_scratch.reset();
+        QCOMPARE(m_prompter.pendingAnswers(), 0);
+    }
+
+    void apportionedAmountsReachTheTable_data()
+    {
+        addBackendColumn();
+        QTest::addColumn<double>("quantity");
+        QTest::addColumn<QStringList>("amounts");
+        // The last line with quantity takes the rounding residue.
+        for (const QString &backend : {ScratchAccountSet::Sqlite, ScratchAccountSet::Postgres})
+            QTest::newRow(qPrintable(QStringLiteral("three of 1, %1").arg(backend)))
+                << backend << 1.0 << QStringList{"33.33", "33.33", "33.34"};
+        // 0.1 + 0.1 + 0.1 is not used up exactly by taking 0.1 three times: no line takes the
+        // residue and the lines fall short of the total.
+        for (const QString &backend : {ScratchAccountSet::Sqlite, ScratchAccountSet::Postgres})
+            QTest::newRow(qPrintable(QStringLiteral("three of 0.1, %1").arg(backend)))
+                << backend << 0.1 << QStringList{"33.33", "33.33", "33.33"};
+    }
+
+    void apportionedAmountsReachTheTable()
+    {
+        QFETCH(double, quantity);
+        QFETCH(QStringList, amounts);
+        const auto dialog = openItem(ShelfA, SteelPlate);
+        QVERIFY(dialog);
+        SpreadGrid &grid = *dialog->grid();
+        // The two demo batches go; three new ones come.
+        for (int i = 0; i < 2; ++i) {
+            grid.select(1, BegQty);
+            QVERIFY(dialog->pressButton(QStringLiteral("Delete")));
+        }
+        for (int line = 1; line <= 3; ++line) {
+            QVERIFY(dialog->pressButton(QStringLiteral("AddNew")));
+            QVERIFY(grid.editCell(line, BatchNo, QStringLiteral("N%1").arg(line)));
+        }
+        QVERIFY(dialog->button(QStringLiteral("ShareBal"))->isEnabled());
+        QVERIFY(dialog->pressButton(QStringLiteral("ShareBal")));
+        const int inputRow = grid.rows() - 1;
+        QVERIFY(grid.editCell(inputRow, BegBal, 100));
+        QVERIFY(grid.editCell(inputRow, YtdBal, 100));
+        for (int line = 1; line <= 3; ++line) {
+            QVERIFY(grid.editCell(line, BegQty, quantity));
+            QVERIFY(grid.editCell(line, YtdQty, quantity));
+        }
+        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+        QVERIFY(dialog->SavedBatMan());
+
+        QStringList expected;
+        for (int line = 1; line <= 3; ++line)
+            expected.append(QStringLiteral("N%1  %2 %3 %3").arg(line).arg(quantity).arg(amounts.at(line - 1)));
+        QCOMPARE(storedLines(*m_scratch, 1, SteelPlate), expected);
+    }
+
+    void unapportionedAmountsAreRefused_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+
+    void unapportionedAmountsAreRefused()
+    {
+        const QStringList before = storedLines(*m_scratch, 1, SteelPlate);
+        QCOMPARE(before.size(), 2);
+        const auto dialog = openItem(ShelfA, SteelPlate);
+        QVERIFY(dialog);
+        QVERIFY(dialog->grid()->editCell(1, BegBal, 50000));
+        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+
+        QCOMPARE(lastMessage(), QStringLiteral("加权平均法、移动平均法的物料") + CRLF
+                                    + QStringLiteral("采用批次管理时，金额需要分摊来确定单价！") + CRLF
+                                    + QStringLiteral("系统检测到金额未分摊，请先分摊金额！"));
+        QCOMPARE(m_prompter.messages().last().icon, Prompter::Icon::Warning);
+        QVERIFY(!dialog->SavedBatMan());
+        QCOMPARE(storedLines(*m_scratch, 1, SteelPlate), before);
+    }
+
+    void repeatedBatchNeedsTheSameDateToBeRefused_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+
+    void repeatedBatchNeedsTheSameDateToBeRefused()
+    {
+        const auto dialog = openItem(ShelfB, EpoxyGlue);
+        QVERIFY(dialog);
+        SpreadGrid &grid = *dialog->grid();
+        QCOMPARE(grid.TextMatrix(2, BatchNo), QStringLiteral("E2402"));
+
+        // The same batch with another production date is two lines of their own.
+        QVERIFY(grid.editCell(2, BatchNo, QStringLiteral("E2401")));
+        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+        QVERIFY(dialog->SavedBatMan());
+        const QStringList saved{QStringLiteral("E2401 %1 200 5600 0").arg(demoDay(1, 5)),
+                                QStringLiteral("E2401 %1 150 4275 0").arg(demoDay(2, 12))};
+        QCOMPARE(storedLines(*m_scratch, 2, EpoxyGlue), saved);
+
+        // The same batch and the same date are refused, and nothing is written.
+        QVERIFY(grid.editCell(2, KFDate, demoDay(1, 5)));
+        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+        QCOMPARE(lastMessage(), QStringLiteral("批次+生产/采购日期不能重复!"));
+        QCOMPARE(storedLines(*m_scratch, 2, EpoxyGlue), saved);
+    }
+
+    void productionDateMayEqualTheStockInDate_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+
+    void productionDateMayEqualTheStockInDate()
+    {
+        const auto dialog = openItem(ShelfB, EpoxyGlue);
+        QVERIFY(dialog);
+        SpreadGrid &grid = *dialog->grid();
+        // The demo lines came in on the first day of the current period, April 1st.
+        QVERIFY(grid.editCell(1, KFDate, demoDay(4, 1)));
+        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+        QVERIFY(dialog->SavedBatMan());
+        const QStringList saved{QStringLiteral("E2401 %1 200 5600 0").arg(demoDay(4, 1)),
+                                QStringLiteral("E2402 %1 150 4275 0").arg(demoDay(2, 12))};
+        QCOMPARE(storedLines(*m_scratch, 2, EpoxyGlue), saved);
+        const qsizetype asked = m_prompter.messages().size();
+
+        QVERIFY(grid.editCell(1, KFDate, demoDay(4, 2)));
+        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+        QCOMPARE(m_prompter.messages().size(), asked + 1);
+        QCOMPARE(lastMessage(), QStringLiteral("该物料实行保质期管理，生产日期不能大于入库日期！"));
+        QCOMPARE(grid.row(), 1);
+        QCOMPARE(grid.col(), int(KFDate));
+        QCOMPARE(storedLines(*m_scratch, 2, EpoxyGlue), saved);
+    }
+
+    void balanceTestFindsNegativeLinesThatDoNotAddUp_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+
+    void balanceTestFindsNegativeLinesThatDoNotAddUp()
+    {
+        setParameter(*m_scratch, QStringLiteral("UnderStock"), 1);
+        const QStringList before = storedLines(*m_scratch, 2, ComponentKit);
+        const auto dialog = openItem(ShelfB, ComponentKit);
+        QVERIFY(dialog);
+        SpreadGrid &grid = *dialog->grid();
+        const QColor plain = grid.cellBackColor(2, YtdQty);
+        // Year opening -3 against period opening -2 + sent 0 - received 0.
+        for (const auto &[col, value] : {std::pair{RecvQty, 0.0}, {SendQty, 0.0}, {BegQty, -2.0}, {YtdQty, -3.0}})
+            QVERIFY(grid.editCell(1, col, value));
+        QVERIFY(dialog->pressButton(QStringLiteral("Balance")));
+        for (int col : {YtdQty, RecvQty, SendQty, BegQty}) {
+            QVERIFY2(grid.cellBackColor(1, col) != plain, qPrintable(QString::number(col)));
+            QCOMPARE(grid.cellBackColor(2, col), plain);
+        }
+        QCOMPARE(grid.row(), 1);
+
+        // Sending -1 makes it add up; the marks go.
+        QVERIFY(grid.editCell(1, SendQty, -1));
+        QVERIFY(dialog->pressButton(QStringLiteral("Balance")));
+        for (int col : {YtdQty, RecvQty, SendQty, BegQty})
+            QCOMPARE(grid.cellBackColor(1, col), plain);
+        // The test itself writes nothing.
+        QCOMPARE(storedLines(*m_scratch, 2, ComponentKit), before);
+    }
+
+    void deletingEveryLineRemovesTheItemAndItsSerials_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+
+    void deletingEveryLineRemovesTheItemAndItsSerials()
+    {
+        // A serial-number list of its own on batch K002; the demo laptop's list 1 stays.
+        constexpr int KitSerials = 7;
+        const QSqlDatabase db = m_scratch->db();
+        SqlRun::exec(db, QStringLiteral("UPDATE ICInvInitial SET FSNListID=? WHERE FItemID=? AND FBatchNo='K002'"),
+                     {KitSerials, ComponentKit});
+        SqlRun::exec(db, QStringLiteral("INSERT INTO ICSerial (FSNListID, FItemID, FSerialNo, FStockID, FSPID) "
+                                        "VALUES (?, ?, 'KIT-0001', 1, 2)"),
+                     {KitSerials, ComponentKit});
+        SqlRun::exec(db, QStringLiteral("INSERT INTO ICSerial_F1 (FSNListID, FSerialNo, FItemID, FStockID, FSPID) "
+                                        "VALUES (?, 'KIT-0001', ?, 1, 2)"),
+                     {KitSerials, ComponentKit});
+        SqlRun::exec(db, QStringLiteral("INSERT INTO ICSerialFlow (FSNListID, FItemID, FSerialNo, FDate) "
+                                        "VALUES (?, ?, 'KIT-0001', '2024-04-01')"),
+                     {KitSerials, ComponentKit});
+        QCOMPARE(serialRecords(*m_scratch, KitSerials), 3);
+        const int laptopSerials = serialRecords(*m_scratch, 1);
+        QVERIFY(laptopSerials > 0);
+
+        const auto dialog = openItem(ShelfB, ComponentKit);
+        QVERIFY(dialog);
+        SpreadGrid &grid = *dialog->grid();
+        for (int i = 0; i < 2; ++i) {
+            grid.select(1, BegQty);
+            QVERIFY(dialog->pressButton(QStringLiteral("Delete")));
+        }
+        QCOMPARE(grid.rows(), 2); // the header and the totals row
+        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+        QVERIFY(dialog->SavedBatMan());
+
+        QCOMPARE(storedLines(*m_scratch, 2, ComponentKit), QStringList());
+        QCOMPARE(serialRecords(*m_scratch, KitSerials), 0);
+        QCOMPARE(serialRecords(*m_scratch, 1), laptopSerials);
+        QCOMPARE(storedLines(*m_scratch, 2, EpoxyGlue).size(), 2); // the place's other items stay
+    }
+
+    void renamedBatchIsWrittenAgain_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+
+    void renamedBatchIsWrittenAgain()
+    {
+        const auto dialog = openItem(ShelfB, ComponentKit);
+        QVERIFY(dialog);
+        QCOMPARE(dialog->grid()->TextMatrix(1, BatchNo), QStringLiteral("K001"));
+        QVERIFY(dialog->grid()->editCell(1, BatchNo, QStringLiteral("K001-A")));
+        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+        QVERIFY(dialog->SavedBatMan());
+        QCOMPARE(storedLines(*m_scratch, 2, ComponentKit),
+                 (QStringList{QStringLiteral("K001-A  50 6000 0"), QStringLiteral("K002  30 3750 0")}));
+        const int lines = SqlRun::scalar(m_scratch->db(), QStringLiteral("SELECT count(*) FROM ICInvInitial "
+                                                                         "WHERE FItemID=? AND FBatchNo='K001'"),
+                                         {ComponentKit})
+                              .toInt();
+        QCOMPARE(lines, 0);
+    }
+
+    void closePrompt_data()
+    {
+        addBackendColumn();
+        QTest::addColumn<int>("answer"); // Prompter::Answer
+        QTest::addColumn<bool>("validChange");
+        QTest::addColumn<bool>("staysOpen");
+        QTest::addColumn<QStringList>("stored");
+        const QStringList demo{QStringLiteral("K001  50 6000 0"), QStringLiteral("K002  30 3750 0")};
+        const QStringList renamed{QStringLiteral("K002  30 3750 0"), QStringLiteral("K009  50 6000 0")};
+        for (const QString &backend : {ScratchAccountSet::Sqlite, ScratchAccountSet::Postgres}) {
+            const auto row = [&backend](const char *name) -> QTestData & {
+                return QTest::newRow(qPrintable(QStringLiteral("%1, %2").arg(QLatin1String(name), backend)));
+            };
+            row("yes, check fails") << backend << int(Prompter::Answer::Yes) << false << true << demo;
+            row("yes, valid") << backend << int(Prompter::Answer::Yes) << true << false << renamed;
+            row("no") << backend << int(Prompter::Answer::No) << true << false << demo;
+        }
+    }
+
+    void closePrompt()
+    {
+        QFETCH(int, answer);
+        QFETCH(bool, validChange);
+        QFETCH(bool, staysOpen);
+        QFETCH(QStringList, stored);
+        const auto dialog = openItem(ShelfB, ComponentKit);
+        QVERIFY(dialog);
+        dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
+        if (validChange)
+            QVERIFY(dialog->grid()->editCell(1, BatchNo, QStringLiteral("K009")));
+        else
+            QVERIFY(dialog->pressButton(QStringLiteral("AddNew"))); // a line without batch number
+        m_prompter.queueAnswer(Prompter::Answer(answer));
+        QVERIFY(dialog->pressButton(QStringLiteral("Exit")));
+
+        const Prompter::Message &asked = m_prompter.messages().first();
+        QCOMPARE(asked.text, QStringLiteral("数据已经改变，是否需要保存？"));
+        QCOMPARE(asked.caption, QStringLiteral("澄枫提示"));
+        QCOMPARE(asked.buttons, Prompter::Buttons::YesNo);
+        QCOMPARE(asked.icon, Prompter::Icon::Question);
+        QCOMPARE(dialog->isVisible(), staysOpen);
+        if (staysOpen)
+            QCOMPARE(lastMessage(), QStringLiteral("该物料实行批次管理，批号不能为空，请输入批号！"));
+        QCOMPARE(storedLines(*m_scratch, 2, ComponentKit), stored);
+    }
+};
+
+int main(int argc, char **argv)
+{
+    const PrivateSettings settings;
+    QApplication app(argc, argv);
+    TestBatchOnAccountSet suite;
+    return QTest::qExec(&suite, argc, argv);
+}
+#include "tst_batchdb.moc"

@@ -1,0 +1,410 @@
+#include "tst_commandsdb.h"
+
+#include "entrydbfixture.h"
+#include "hostframe.h"
+#include "scratchaccountset.h"
+
+#include "db/sqlrun.h"
+#include "entry/entrycommands.h"
+#include "entry/entrygridlayout.h"
+#include "entry/entrysheet.h"
+#include "entry/icinitctl.h"
+#include "entry/navtree.h"
+
+#include "frame/barlist.h"
+#include "frame/settingsstore.h"
+#include "frame/statuspanels.h"
+
+#include "grid/spreadgrid.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QTest>
+#include <QToolBar>
+
+using namespace EntryDb;
+
+namespace {
+
+// What a command visibly does.
+enum class Effect { Saves, AddsRow, DeletesRow, ShowsTotals, Reloads, RestoresWidths, TogglesTree, Toggles,
+                    ClosesFrame, Nothing };
+
+// The commands with a procedure in this build; every other key of the table belongs to a later
+// feature and must be disabled and do nothing.
+const QHash<QString, Effect> &effects()
+{
+    static const QHash<QString, Effect> table{
+        {"mcFSave", Effect::Saves},           {"Save", Effect::Saves},
+        {"mcEAddNew", Effect::AddsRow},       {"AddNew", Effect::AddsRow},
+        {"mcEDelete", Effect::DeletesRow},    {"Delete", Effect::DeletesRow},
+        {"mcESum", Effect::ShowsTotals},      {"Sum", Effect::ShowsTotals},
+        {"mcVRefresh", Effect::Reloads},      {"Refresh", Effect::Reloads},
+        {"mcVOrgWidth", Effect::RestoresWidths},
+        {"mcVTree", Effect::TogglesTree},     {"TreeView", Effect::TogglesTree},
+        {"mcEDefault", Effect::Toggles},      {"mcVSRefresh", Effect::Toggles},
+        {"mcWToolBar", Effect::Toggles},      {"mcWTBLable", Effect::Toggles},
+        {"mcWStatusBar", Effect::Toggles},
+        {"mcExit", Effect::ClosesFrame},      {"Exit", Effect::ClosesFrame},
+    };
+    return table;
+}
+
+enum class Route { Menu, ToolBar, Host };
+
+double storedBegDiff(const ScratchAccountSet &scratch, int itemId)
+{
+    return SqlRun::scalar(scratch.db(),
+                          QStringLiteral("SELECT FBegDiff FROM ICInvInitial WHERE FStockID=1 AND FSPID=2 AND FItemID=?"),
+                          {itemId})
+        .toDouble();
+}
+
+bool run(Route route, const QString &key, ICInitCtl &control, HostFrame &host)
+{
+    switch (route) {
+    case Route::Menu:
+        control.barList()->Click(key);
+        return true;
+    case Route::ToolBar: {
+        auto *toolBar = control.findChild<QToolBar *>(QStringLiteral("tbICInit"));
+        QAction *action = nullptr;
+        for (QAction *a : toolBar ? toolBar->actions() : QList<QAction *>()) {
+            if (a->objectName() == key)
+                action = a;
+        }
+        if (!action)
+            return false;
+        action->trigger();
+        return true;
+    }
+    case Route::Host:
+        emit host.ToolBarClick(key);
+        return true;
+    }
+    return false;
+}
+
+// What the commands could change, taken before and after a command that must do nothing.
+struct Snapshot
+{
+    int rows = 0;
+    int row = 0;
+    int col = 0;
+    bool treeShown = false;
+    bool toolbarShown = false;
+    bool labels = false;
+    bool statusShown = false;
+    QStringList checked;
+    bool hostShown = false;
+    QVector<double> sums;
+    int topLevels = 0;
+    int nameWidth = 0;
+
+    static Snapshot of(ICInitCtl &control, HostFrame &host, const ScratchAccountSet &scratch)
+    {
+        Snapshot s;
+        s.rows = control.grid()->rows();
+        s.row = control.grid()->row();
+        s.col = control.grid()->col();
+        s.treeShown = control.tree()->isVisibleTo(&control);
+        s.toolbarShown = control.barList()->toolbarVisible();
+        s.labels = control.barList()->toolbarLabels();
+        s.statusShown = control.statusPanels()->isVisibleTo(&control);
+        for (const QString &key : control.barList()->Keys()) {
+            if (control.barList()->isChecked(key))
+                s.checked.append(key);
+        }
+        s.hostShown = host.isVisible();
+        s.sums = sumsOfPlace(scratch, ShelfBId);
+        s.topLevels = int(QApplication::topLevelWidgets().size());
+        s.nameWidth = control.grid()->colWidth(EntryCol::Name);
+        return s;
+    }
+
+    bool operator==(const Snapshot &) const = default;
+};
+
+const SettingSpec *const viewSettings[] = {&Setting::ShowToolBar, &Setting::ShowToolBarLabel, &Setting::ShowStateBar,
+                                          &Setting::ShowDefaultStock, &Setting::ShowRefresh};
+
+} // namespace
+
+void TestCommandsOnAccountSet::initTestCase()
+{
+    Prompter::install(&m_prompter);
+}
+
+void TestCommandsOnAccountSet::cleanupTestCase()
+{
+    Prompter::install(nullptr);
+}
+
+void TestCommandsOnAccountSet::init()
+{
+    m_prompter.clear();
+    for (const SettingSpec *spec : viewSettings)
+        SettingsStore::setValue(*spec, spec->defaultValue);
+}
+
+void TestCommandsOnAccountSet::everyKeyReachesItsProcedure_data()
+{
+    QTest::addColumn<int>("route");
+    QTest::addColumn<QString>("key");
+    for (const EntryCommandSpec &spec : entryCommandTable()) {
+        for (const char *menuKey : spec.menuKeys) {
+            QTest::newRow(qPrintable(QStringLiteral("menu %1").arg(QLatin1String(menuKey))))
+                << int(Route::Menu) << QString::fromLatin1(menuKey);
+            QTest::newRow(qPrintable(QStringLiteral("host %1").arg(QLatin1String(menuKey))))
+                << int(Route::Host) << QString::fromLatin1(menuKey);
+        }
+        if (QLatin1String(spec.toolKey).isEmpty())
+            continue;
+        QTest::newRow(qPrintable(QStringLiteral("toolbar %1").arg(QLatin1String(spec.toolKey))))
+            << int(Route::ToolBar) << QString::fromLatin1(spec.toolKey);
+        QTest::newRow(qPrintable(QStringLiteral("host %1").arg(QLatin1String(spec.toolKey))))
+            << int(Route::Host) << QString::fromLatin1(spec.toolKey);
+    }
+}
+
+void TestCommandsOnAccountSet::everyKeyReachesItsProcedure()
+{
+    QFETCH(int, route);
+    QFETCH(QString, key);
+    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+    HostFrame host;
+    auto *control = new ICInitCtl(&host);
+    host.show();
+    QVERIFY(show(*control, scratch, &host));
+    control->tree()->clickNode(ShelfB);
+    SpreadGrid &grid = *control->grid();
+    const int screw = itemRow(*control, Screw);
+    QVERIFY(screw > 0);
+    const int defaultWidth = grid.colWidth(EntryCol::Name);
+    const Effect effect = effects().value(key, Effect::Nothing);
+    switch (effect) {
+    case Effect::Saves:
+        QVERIFY(grid.editCell(screw, EntryCol::BegDiff, 140));
+        break;
+    case Effect::DeletesRow:
+        grid.select(screw, EntryCol::Number);
+        break;
+    case Effect::Reloads:
+        SqlRun::exec(scratch.db(), QStringLiteral("UPDATE ICInvInitial SET FBegDiff=99 WHERE FItemID=?"), {Screw});
+        break;
+    case Effect::RestoresWidths:
+        grid.setColWidth(EntryCol::Name, defaultWidth + 77);
+        break;
+    default:
+        break;
+    }
+    const Snapshot before = Snapshot::of(*control, host, scratch);
+    const bool wasChecked = control->barList()->isChecked(key);
+
+    const bool ran = run(Route(route), key, *control, host);
+    if (effect != Effect::Nothing)
+        QVERIFY2(ran, "the key has a button on the control's toolbar");
+
+    switch (effect) {
+    case Effect::Saves:
+        QCOMPARE(storedBegDiff(scratch, Screw), 140.0);
+        QVERIFY(!control->barList()->isEnabled(key));
+        break;
+    case Effect::AddsRow:
+        QCOMPARE(grid.rows(), before.rows + 1);
+        QVERIFY(control->sheet()->isNewRow(grid.row()));
+        QCOMPARE(grid.col(), int(EntryCol::Number));
+        break;
+    case Effect::DeletesRow:
+        QCOMPARE(grid.rows(), before.rows - 1);
+        QCOMPARE(itemRow(*control, Screw), 0);
+        QCOMPARE(storedBegDiff(scratch, Screw), 150.0); // until it is saved
+        break;
+    case Effect::ShowsTotals:
+        QCOMPARE(grid.row(), control->sheet()->totalsRow());
+        QCOMPARE(grid.TextMatrix(grid.row(), EntryCol::Number), QStringLiteral("总计"));
+        break;
+    case Effect::Reloads:
+        QCOMPARE(grid.number(itemRow(*control, Screw), EntryCol::BegDiff), 99.0);
+        break;
+    case Effect::RestoresWidths:
+        QCOMPARE(grid.colWidth(EntryCol::Name), defaultWidth);
+        break;
+    case Effect::TogglesTree:
+        QCOMPARE(control->tree()->isVisibleTo(control), !before.treeShown);
+        break;
+    case Effect::Toggles: {
+        QCOMPARE(control->barList()->isChecked(key), !wasChecked);
+        const Snapshot after = Snapshot::of(*control, host, scratch);
+        QCOMPARE(after.toolbarShown, key == EntryKeys::ToolBar ? !before.toolbarShown : before.toolbarShown);
+        QCOMPARE(after.labels, key == EntryKeys::ToolBarLabel ? !before.labels : before.labels);
+        QCOMPARE(after.statusShown, key == EntryKeys::StatusBar ? !before.statusShown : before.statusShown);
+        break;
+    }
+    case Effect::ClosesFrame:
+        QVERIFY(host.closedByKey());
+        QVERIFY(!host.isVisible());
+        break;
+    case Effect::Nothing:
+        QVERIFY(!control->barList()->isEnabled(key) || !control->barList()->isVisible(key));
+        QVERIFY(Snapshot::of(*control, host, scratch) == before);
+        QVERIFY(m_prompter.messages().isEmpty());
+        break;
+    }
+}
+
+void TestCommandsOnAccountSet::toggleClickedTwiceKeepsTheSavedSetting_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("setting");
+    QTest::newRow("toolbar") << EntryKeys::ToolBar << QString::fromLatin1(Setting::ShowToolBar.key);
+    QTest::newRow("labels") << EntryKeys::ToolBarLabel << QString::fromLatin1(Setting::ShowToolBarLabel.key);
+    QTest::newRow("status bar") << EntryKeys::StatusBar << QString::fromLatin1(Setting::ShowStateBar.key);
+    QTest::newRow("default stock") << EntryKeys::DefaultStock << QString::fromLatin1(Setting::ShowDefaultStock.key);
+    QTest::newRow("refresh") << EntryKeys::AutoRefresh << QString::fromLatin1(Setting::ShowRefresh.key);
+}
+
+void TestCommandsOnAccountSet::toggleClickedTwiceKeepsTheSavedSetting()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, setting);
+    const SettingSpec *spec = nullptr;
+    for (const SettingSpec *s : viewSettings) {
+        if (QLatin1String(s->key) == setting)
+            spec = s;
+    }
+    QVERIFY(spec);
+    // Stored the other way round from the default, so that a reset to defaults would show.
+    const bool stored = !spec->defaultValue.toBool();
+    SettingsStore::setValue(*spec, stored);
+    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+    HostFrame host;
+    ICInitCtl control;
+    QVERIFY(show(control, scratch, &host));
+    QCOMPARE(control.barList()->isChecked(key), stored);
+    control.tree()->clickNode(ShelfB); // the default-stock toggle is offered at places with rows
+    const int redraws = host.menuBarsReceived();
+    QVERIFY(control.barList()->Click(key));
+    QCOMPARE(control.barList()->isChecked(key), !stored);
+    emit host.ToolBarClick(key);
+    QCOMPARE(control.barList()->isChecked(key), stored);
+    QCOMPARE(host.menuBarsReceived(), redraws + 2);
+    control.NotifyMessage(QStringLiteral("QueryUnload"), {});
+    QCOMPARE(SettingsStore::boolValue(*spec), stored);
+}
+
+void TestCommandsOnAccountSet::viewSettingsSurviveANewShow()
+{
+    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+    {
+        HostFrame host;
+        ICInitCtl control;
+        QVERIFY(show(control, scratch, &host));
+        QVERIFY(control.barList()->Click(EntryKeys::StatusBar));
+        QVERIFY(control.barList()->Click(EntryKeys::ToolBarLabel));
+        QVERIFY(control.barList()->Click(EntryKeys::AutoRefresh));
+        control.NotifyMessage(QStringLiteral("QueryUnload"), {});
+    }
+    HostFrame host;
+    ICInitCtl control;
+    QVERIFY(show(control, scratch, &host));
+    QVERIFY(!control.barList()->isChecked(EntryKeys::StatusBar));
+    QVERIFY(control.statusPanels()->isHidden());
+    QVERIFY(!control.barList()->isChecked(EntryKeys::ToolBarLabel));
+    QVERIFY(!control.barList()->toolbarLabels());
+    QVERIFY(control.barList()->isChecked(EntryKeys::AutoRefresh));
+    QVERIFY(control.barList()->isChecked(EntryKeys::ToolBar));
+}
+
+void TestCommandsOnAccountSet::enablingFollowsModeAndInitialisation_data()
+{
+    QTest::addColumn<bool>("closed");
+    QTest::newRow("initialisation open") << false;
+    QTest::newRow("initialisation closed") << true;
+}
+
+void TestCommandsOnAccountSet::enablingFollowsModeAndInitialisation()
+{
+    QFETCH(bool, closed);
+    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+    setParameter(scratch, QStringLiteral("ICClosed"), closed ? 1 : 0);
+    HostFrame host;
+    ICInitCtl control;
+    QVERIFY(show(control, scratch, &host));
+    control.tree()->clickNode(ShelfB);
+    BarList &bars = *control.barList();
+    for (const char *key : {"mcEAddNew", "AddNew", "mcEDelete", "Delete"})
+        QVERIFY2(bars.isEnabled(QLatin1String(key)) == !closed, key);
+    QVERIFY(bars.isEnabled(QStringLiteral("mcESum")));
+
+    // A typed figure enables Save only while initialisation is open.
+    const int screw = itemRow(control, Screw);
+    QVERIFY(control.grid()->editCell(screw, EntryCol::BegDiff, 140));
+    QCOMPARE(bars.isEnabled(EntryKeys::Save), !closed);
+    QCOMPARE(bars.isEnabled(EntryKeys::FSave), !closed);
+    QCOMPARE(bars.Click(EntryKeys::FSave), !closed);
+    emit host.ToolBarClick(EntryKeys::Save);
+    QCOMPARE(storedBegDiff(scratch, Screw), closed ? 150.0 : 140.0);
+
+    // Reconciliation enters no rows.
+    control.switchMode(true);
+    for (const char *key : {"mcEAddNew", "AddNew", "mcEDelete", "Delete", "mcESum", "Sum", "mcFSave", "Save"})
+        QVERIFY2(!bars.isEnabled(QLatin1String(key)), key);
+    control.switchMode(false);
+    QCOMPARE(bars.isEnabled(QStringLiteral("AddNew")), !closed);
+    QVERIFY(bars.isEnabled(QStringLiteral("Sum")));
+    QVERIFY(!bars.isEnabled(EntryKeys::Save));
+}
+
+void TestCommandsOnAccountSet::reconciliationCommandsNeedAmounts_data()
+{
+    QTest::addColumn<int>("auditChoice");
+    QTest::newRow("quantities only") << 0;
+    QTest::newRow("quantities and amounts") << 1;
+}
+
+void TestCommandsOnAccountSet::reconciliationCommandsNeedAmounts()
+{
+    QFETCH(int, auditChoice);
+    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+    setParameter(scratch, QStringLiteral("AuditChoice"), auditChoice);
+    HostFrame host;
+    ICInitCtl control;
+    QVERIFY(show(control, scratch, &host));
+    control.tree()->clickNode(ShelfB);
+    const BarList &bars = *control.barList();
+    for (const char *key : {"mcVCheck", "Check", "mcVBalance", "Balance", "Transfer"})
+        QVERIFY2(bars.isVisible(QLatin1String(key)) == (auditChoice != 0), key);
+    // The entry commands are there either way.
+    for (const char *key : {"mcEAddNew", "AddNew", "mcESum", "Sum", "mcFSave", "Save"})
+        QVERIFY2(bars.isVisible(QLatin1String(key)), key);
+    // The warehouse root shows no entry commands, whatever the accounting.
+    control.tree()->clickNode(QStringLiteral("K0"));
+    for (const char *key : {"mcVBalance", "Balance", "AddNew"})
+        QVERIFY2(!bars.isVisible(QLatin1String(key)), key);
+}
+
+void TestCommandsOnAccountSet::keysRunTheCommandOfTheirAccelerator()
+{
+    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+    HostFrame host;
+    ICInitCtl control;
+    QVERIFY(show(control, scratch, &host));
+    control.tree()->clickNode(ShelfB);
+    SpreadGrid &grid = *control.grid();
+    const int rows = grid.rows();
+
+    QTest::keyClick(&control, Qt::Key_A); // no command has it
+    QCOMPARE(grid.rows(), rows);
+    QTest::keyClick(&control, Qt::Key_N, Qt::ControlModifier);
+    QCOMPARE(grid.rows(), rows + 1);
+
+    SqlRun::exec(scratch.db(), QStringLiteral("UPDATE ICInvInitial SET FBegDiff=99 WHERE FItemID=?"), {Screw});
+    QTest::keyClick(&control, Qt::Key_F5); // reloads; the empty new row goes without a question
+    QCOMPARE(grid.rows(), rows);
+    QCOMPARE(grid.number(itemRow(control, Screw), EntryCol::BegDiff), 99.0);
+
+    QVERIFY(grid.editCell(itemRow(control, Screw), EntryCol::BegDiff, 140));
+    QTest::keyClick(&control, Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(storedBegDiff(scratch, Screw), 140.0);
+}
