@@ -1,6 +1,7 @@
 #include "sysparams.h"
 
 #include "errorbox.h"
+#include "librarystate.h"
 #include "logincontext.h"
 #include "messages.h"
 
@@ -89,6 +90,8 @@ void LoadSysParams(const QString &dataProgId)
     SysParams::replace(std::move(params));
     SysParams::current()->setItem(SysParam::UID, GetUserID());
     SysParams::current()->setItem(SysParam::UName, GetUserName());
+    // The running number starts where the account set left it; a save writes back only a move.
+    LibraryState::instance().iniBillInterId = SysParams::toInt(SysParam::INIBillInterID);
 }
 
 qint16 FetchAmountScale()

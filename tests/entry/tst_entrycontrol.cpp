@@ -1,0 +1,731 @@
+// The entry control end to end: the real control on a demo account set made by the middle tier,
+// driven through its public members and child controls, with a scripted prompter answering its
+// questions. Every case checks what reached the database beside what the widgets show.
+
+#include "privatesettings.h"
+#include "scratchaccountset.h"
+#include "servicecalls.h"
+
+#include "entry/entrygridlayout.h"
+#include "entry/entrysheet.h"
+#include "entry/icinitctl.h"
+#include "entry/navtree.h"
+
+#include "frame/barlist.h"
+#include "frame/logincontext.h"
+#include "frame/prompter.h"
+#include "frame/settingsstore.h"
+#include "frame/statuspanels.h"
+#include "frame/sysparams.h"
+
+#include "frame/automation/componentregistry.h"
+#include "frame/automation/pelmreg.h"
+
+#include "services/lumomicinitialdata.h"
+
+#include "db/sqlrun.h"
+
+#include "grid/spreadgrid.h"
+
+#include <QApplication>
+#include <QDate>
+#include <QDir>
+#include <QFile>
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+// The demo company's ids (see DemoCompany).
+constexpr int DemoPeriod = 4;
+constexpr int RawMaterials = 1;
+constexpr int SemiFinished = 2;
+constexpr int FinishedTwo = 5;
+constexpr int ShelfA = 1;
+constexpr int ShelfC = 3;
+constexpr int RoundSteel = 2;
+constexpr int Nut = 8;
+constexpr int MotorHousing = 10;
+constexpr int Laptop = 16;
+constexpr int Kilogram = 4;
+constexpr int LaptopSerialList = 1;
+
+const QString Caption = QStringLiteral("澄枫提示");
+const QString AskToSave = QStringLiteral("数据已经改变，是否需要保存？");
+const QString RoundSteelCode = QStringLiteral("1.01.002");
+
+// The data service as registered, counting the statement texts it is asked to run.
+class CountingInitialData : public LumoMICInitialData
+{
+    Q_OBJECT
+public:
+    static inline QStringList scripts;
+
+    Q_INVOKABLE void UpdateINIData(const QString &PropsString, const QString &script)
+    {
+        scripts.append(script);
+        LumoMICInitialData::UpdateINIData(PropsString, script);
+    }
+};
+
+using Edit = std::pair<int, double>;
+using Edits = QList<Edit>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(Edits)
+
+class TestEntryControl : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_install;
+    ScriptedPrompter m_prompter;
+    std::unique_ptr<ScratchAccountSet> m_set;
+    std::unique_ptr<ICInitCtl> m_control;
+
+    // A demo account set with the two balance rules, and the control shown on it.
+    void open(const QString &backend, int underStock = 0, int auditChoice = 1)
+    {
+        m_set = std::make_unique<ScratchAccountSet>(backend);
+        exec(QStringLiteral("UPDATE t_SystemProfile SET FValue='%1' WHERE FKey='UnderStock'").arg(underStock));
+        exec(QStringLiteral("UPDATE t_SystemProfile SET FValue='%1' WHERE FKey='AuditChoice'").arg(auditChoice));
+        ServiceCalls::publishLogin(m_set->propsString());
+        LoginContext::instance().reset();
+        m_control = std::make_unique<ICInitCtl>();
+        QVERIFY(m_control->Show(nullptr, true));
+        m_prompter.clear();
+        CountingInitialData::scripts.clear();
+    }
+
+    QSqlQuery exec(const QString &sql, const QVariantList &values = {}) const
+    {
+        return SqlRun::exec(m_set->db(), sql, values);
+    }
+
+    QVariant scalar(const QString &sql, const QVariantList &values = {}) const
+    {
+        QSqlQuery query = exec(sql, values);
+        return query.next() ? query.value(0) : QVariant();
+    }
+
+    int count(const QString &table, const QString &where, const QVariantList &values = {}) const
+    {
+        return scalar(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(table, where), values).toInt();
+    }
+
+    // Every balance row as text, in a fixed order.
+    QStringList balances() const
+    {
+        QStringList rows;
+        QSqlQuery query = exec(QStringLiteral("SELECT * FROM ICInvInitial ORDER BY FStockID, FSPID, FItemID, "
+                                              "FAuxPropID, FBatchNo, FBillInterID"));
+        while (query.next()) {
+            QStringList fields;
+            for (int i = 0; i < query.record().count(); ++i)
+                fields.append(query.value(i).toString());
+            rows.append(fields.join(QLatin1Char('|')));
+        }
+        return rows;
+    }
+
+    SpreadGrid &grid() const { return *m_control->grid(); }
+    EntrySheet &sheet() const { return *m_control->sheet(); }
+
+    QString nodeKey(int stockId, int spId = 0) const
+    {
+        return spId == 0 ? QStringLiteral("K%1").arg(stockId) : QStringLiteral("K%1P%2").arg(stockId).arg(spId);
+    }
+
+    void clickNode(int stockId, int spId = 0)
+    {
+        QVERIFY(m_control->tree()->clickNode(nodeKey(stockId, spId)));
+    }
+
+    // The item rows' codes, top to bottom.
+    QStringList codes() const
+    {
+        QStringList list;
+        for (int row = 1; row <= sheet().lastDataRow(); ++row) {
+            if (sheet().isItemRow(row))
+                list.append(grid().TextMatrix(row, EntryCol::Number));
+        }
+        return list;
+    }
+
+    int rowOf(const QString &code, int from = 1) const
+    {
+        for (int row = from; row <= sheet().lastDataRow(); ++row) {
+            if (sheet().isItemRow(row) && grid().TextMatrix(row, EntryCol::Number) == code)
+                return row;
+        }
+        return -1;
+    }
+
+    QStringList gridTexts() const
+    {
+        QStringList texts;
+        for (int row = 0; row < grid().rows(); ++row) {
+            QStringList line;
+            for (int col = 1; col < EntryCol::Count; ++col)
+                line.append(grid().TextMatrix(row, col));
+            texts.append(line.join(QLatin1Char('\t')));
+        }
+        return texts;
+    }
+
+    QStringList messageTexts() const
+    {
+        QStringList texts;
+        for (const Prompter::Message &message : m_prompter.messages())
+            texts.append(message.text);
+        return texts;
+    }
+
+    // A new row with an item typed into its code cell.
+    int addItemRow(const QString &code)
+    {
+        const int row = m_control->AddNewRow();
+        if (!code.isEmpty() && !grid().editCell(row, EntryCol::Number, code))
+            return -1;
+        return row;
+    }
+
+    static QString joined(std::initializer_list<const char *> lines)
+    {
+        QStringList texts;
+        for (const char *line : lines)
+            texts.append(QString::fromUtf8(line));
+        return texts.join(QStringLiteral("\r\n"));
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        Prompter::install(&m_prompter);
+        QDir(m_install.path()).mkpath(QStringLiteral("Common"));
+        QFile scheme(QDir(m_install.path()).filePath(QStringLiteral("Common/LumoBaseScheme.ini")));
+        QVERIFY(scheme.open(QIODevice::WriteOnly));
+        scheme.write("[Version]\nAppType=2\nHangYeType=0\n");
+        scheme.close();
+        qputenv(PelmReg::InstallPathEnv, m_install.path().toLocal8Bit());
+        ComponentRegistry::instance().registerClass(DataProgId, [] { return new CountingInitialData; });
+    }
+
+    void cleanup()
+    {
+        m_control.reset();
+        m_set.reset();
+        ServiceCalls::publishLogin({});
+    }
+
+    void cleanupTestCase() { Prompter::install(nullptr); }
+
+    void loadsAWarehouseAndAStockPlace_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+    void loadsAWarehouseAndAStockPlace()
+    {
+        QFETCH(QString, backend);
+        REQUIRE_BACKEND(backend);
+        open(backend);
+
+        clickNode(RawMaterials, 2);
+        QCOMPARE(codes(), QStringList({"1.01.002", "1.02.002", "1.03.002", "1.04.001", "1.04.002", "1.05.001",
+                                       "3.02.002", "3.02.002"}));
+        QCOMPARE(m_control->pageLabel(), QStringLiteral("1/1"));
+        // Batch-managed items carry the unfold mark; the rest carry none.
+        QStringList marks;
+        for (int row = 1; row <= sheet().lastDataRow(); ++row)
+            marks.append(grid().TextMatrix(row, EntryCol::Mark));
+        QCOMPARE(marks, QStringList({"", "", "+", "", "", "+", "", ""}));
+        const int steel = rowOf(RoundSteelCode);
+        QCOMPARE(grid().TextMatrix(steel, EntryCol::Name), QStringLiteral("圆钢"));
+        QCOMPARE(grid().number(steel, EntryCol::BegQty), 3000.0);
+        QCOMPARE(grid().number(steel, EntryCol::BegBal), 14400.0);
+        QCOMPARE(grid().cellDecimals(steel, EntryCol::BegQty), 2);
+        QCOMPARE(grid().cellDecimals(steel, EntryCol::BegBal), 2);
+        QCOMPARE(grid().TextMatrix(steel, EntryCol::FieldCompose), QStringLiteral("1|2|4|2|0"));
+        QCOMPARE(grid().TextMatrix(steel, EntryCol::Flag), QString());
+        QCOMPARE(grid().number(steel, EntryCol::UnitID), double(Kilogram));
+        for (int col : {EntryCol::ItemID, EntryCol::UnitID, EntryCol::Flag, EntryCol::AuxPropID, EntryCol::AuxClassID,
+                        EntryCol::SecUnitID, EntryCol::FieldCompose})
+            QVERIFY2(grid().colHidden(col), qPrintable(QString::number(col)));
+        for (int col : {EntryCol::Number, EntryCol::Name, EntryCol::YtdBegQty, EntryCol::BegQty, EntryCol::BegBal})
+            QVERIFY2(!grid().colHidden(col), qPrintable(QString::number(col)));
+        // The totals row adds up the place's opening balances as the database holds them.
+        const int totals = sheet().lastDataRow() + 1;
+        QVERIFY(sheet().isTotalsRow(totals));
+        QCOMPARE(grid().TextMatrix(totals, EntryCol::Number), QStringLiteral("总计"));
+        QCOMPARE(grid().number(totals, EntryCol::BegBal),
+                 scalar(QStringLiteral("SELECT sum(FBegBal) FROM ICInvInitial WHERE FStockID=1 AND FSPID=2")).toDouble());
+
+        // A warehouse without stock places shows its own rows; an empty one shows none.
+        clickNode(SemiFinished);
+        QCOMPARE(codes(), QStringList({"2.01.001", "2.01.002"}));
+        clickNode(7);
+        QCOMPARE(codes(), QStringList());
+        QCOMPARE(m_control->pageLabel(), QStringLiteral("0/0"));
+        QVERIFY(m_prompter.messages().isEmpty());
+    }
+
+    void pagingAsksToSaveFirst_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+    void pagingAsksToSaveFirst()
+    {
+        QFETCH(QString, backend);
+        REQUIRE_BACKEND(backend);
+        open(backend);
+        m_control->setMlngPerPageSize(3);
+        clickNode(RawMaterials, 2);
+        QCOMPARE(m_control->pageLabel(), QStringLiteral("1/3"));
+        QCOMPARE(codes(), QStringList({"1.01.002", "1.02.002", "1.03.002"}));
+
+        // Yes saves the page before the next one is shown.
+        QVERIFY(grid().editCell(1, EntryCol::BegQty, 3100.0));
+        const QString firstKey = grid().TextMatrix(1, EntryCol::FieldCompose);
+        m_prompter.queueAnswer(Prompter::Answer::Yes);
+        m_control->PageCommand(QStringLiteral("NEXTPAGE"));
+        QCOMPARE(m_prompter.messages().size(), 1);
+        QCOMPARE(m_prompter.messages().first().text, AskToSave);
+        QCOMPARE(m_prompter.messages().first().caption, Caption);
+        QCOMPARE(m_prompter.messages().first().buttons, Prompter::Buttons::YesNo);
+        QCOMPARE(m_prompter.messages().first().icon, Prompter::Icon::Question);
+        QCOMPARE(m_control->pageLabel(), QStringLiteral("2/3"));
+        QCOMPARE(codes(), QStringList({"1.04.001", "1.04.002", "1.05.001"}));
+        QCOMPARE(scalar(QStringLiteral("SELECT FAuxBegQty FROM ICInvInitial WHERE FFieldCompose=?"), {firstKey})
+                     .toDouble(),
+                 3100.0);
+
+        // No drops the edit: the database and the page shown again keep the old figure.
+        const QStringList before = balances();
+        const double old = grid().number(1, EntryCol::BegQty);
+        QVERIFY(grid().editCell(1, EntryCol::BegQty, 999.0));
+        m_prompter.queueAnswer(Prompter::Answer::No);
+        m_control->PageCommand(QStringLiteral("PREPAGE"));
+        QCOMPARE(m_prompter.messages().size(), 2);
+        QCOMPARE(m_prompter.messages().last().text, AskToSave);
+        QCOMPARE(m_control->pageLabel(), QStringLiteral("1/3"));
+        QCOMPARE(balances(), before);
+        m_control->PageCommand(QStringLiteral("NEXTPAGE"));
+        QCOMPARE(m_prompter.messages().size(), 2); // nothing left to save: no question
+        QCOMPARE(grid().number(1, EntryCol::BegQty), old);
+        m_control->PageCommand(QStringLiteral("LASTPAGE"));
+        QCOMPARE(m_control->pageLabel(), QStringLiteral("3/3"));
+        QCOMPARE(codes(), QStringList({"3.02.002", "3.02.002"}));
+    }
+
+    void balanceRules_data()
+    {
+        QTest::addColumn<QString>("backend");
+        QTest::addColumn<int>("stockId");
+        QTest::addColumn<int>("underStock");
+        QTest::addColumn<int>("auditChoice");
+        QTest::addColumn<Edits>("edits");
+        QTest::addColumn<bool>("lastEditRefused");
+        QTest::addColumn<QString>("message");
+
+        const QString negative = joined({"录入的数据[数量<0]！", "但账套不允许负结存,因此数量不能<0！",
+                                         "数据非法！请重新录入！"});
+        const QString negativePrice = joined({"录入的数据[数量>0，金额<0]！", "单价将出现负数，数据非法！请重新录入！"});
+        const QString negativePrice2 = joined({"录入的数据[数量<0，金额>0]！", "单价将出现负数，数据非法！请重新录入！"});
+        const QString zeroRow = joined({"录入的数据[数量=0，金额=0]！", "没有实际意义，数据非法！请重新录入！"});
+        const QString zeroRowAgency = joined({"录入的数据[数量=0]！", "没有实际意义，数据非法！请重新录入！"});
+        const QString noAmount = joined({"录入的数据[金额=0]！", "但账套实行数量金额核算,因此金额不能等于0！",
+                                         "数据非法！请重新录入！"});
+        constexpr int Consigned = 6;
+        for (const QString &backend : {ScratchAccountSet::Sqlite, ScratchAccountSet::Postgres}) {
+            const auto row = [&](const char *name) {
+                return &(QTest::newRow(qPrintable(backend + QLatin1Char(':') + QLatin1String(name))) << backend);
+            };
+            *row("negative quantity, no negative stock") << SemiFinished << 0 << 1
+                << Edits{{EntryCol::BegQty, -5}} << true << negative;
+            *row("negative quantity and value, negative stock") << SemiFinished << 1 << 1
+                << Edits{{EntryCol::BegQty, -5}, {EntryCol::BegBal, -100}} << false << QString();
+            *row("negative value of a positive quantity") << SemiFinished << 0 << 1
+                << Edits{{EntryCol::BegQty, 5}, {EntryCol::BegBal, -10}} << true << negativePrice;
+            *row("positive value of a negative quantity") << SemiFinished << 1 << 1
+                << Edits{{EntryCol::BegQty, -5}, {EntryCol::BegBal, 10}} << true << negativePrice2;
+            *row("all-zero row") << SemiFinished << 0 << 1
+                << Edits{{EntryCol::BegQty, 5}, {EntryCol::BegQty, 0}} << false << zeroRow;
+            *row("all-zero row, held for others") << Consigned << 0 << 1
+                << Edits{{EntryCol::BegQty, 5}, {EntryCol::BegQty, 0}} << false << zeroRowAgency;
+            *row("quantity without amount, quantity and amount kept") << SemiFinished << 0 << 1
+                << Edits{{EntryCol::BegQty, 5}} << false << noAmount;
+            *row("quantity without amount, held for others") << Consigned << 0 << 1
+                << Edits{{EntryCol::BegQty, 5}} << false << QString();
+            *row("quantity without amount, quantities kept") << SemiFinished << 0 << 0
+                << Edits{{EntryCol::BegQty, 5}} << false << QString();
+            *row("year start and receipts") << SemiFinished << 0 << 1
+                << Edits{{EntryCol::YtdBegQty, 2}, {EntryCol::YtdBegBal, 9.6}, {EntryCol::ReceiveQty, 3},
+                         {EntryCol::Debit, 14.4}, {EntryCol::SendQty, 4}, {EntryCol::Credit, -1}}
+                << true << negativePrice;
+        }
+    }
+    // Each figure typed is checked against its group at once; the whole row when it is saved.
+    void balanceRules()
+    {
+        QFETCH(QString, backend);
+        QFETCH(int, stockId);
+        QFETCH(int, underStock);
+        QFETCH(int, auditChoice);
+        QFETCH(Edits, edits);
+        QFETCH(bool, lastEditRefused);
+        QFETCH(QString, message);
+        REQUIRE_BACKEND(backend);
+        open(backend, underStock, auditChoice);
+        clickNode(stockId);
+        const QStringList before = balances();
+        const int row = addItemRow(RoundSteelCode);
+        QVERIFY(row > 0);
+        for (qsizetype i = 0; i + 1 < edits.size(); ++i)
+            QVERIFY(grid().editCell(row, edits.at(i).first, edits.at(i).second));
+        double typedQuantity = 0;
+        for (const auto &[col, value] : edits) {
+            if (col == EntryCol::BegQty)
+                typedQuantity = value;
+        }
+        const auto [col, value] = edits.last();
+        const double old = grid().number(row, col);
+        QCOMPARE(grid().editCell(row, col, value), !lastEditRefused);
+        if (lastEditRefused) {
+            QCOMPARE(messageTexts(), QStringList{message});
+            QCOMPARE(grid().number(row, col), old);
+            QCOMPARE(balances(), before);
+            QVERIFY(CountingInitialData::scripts.isEmpty());
+            return;
+        }
+        QVERIFY(m_prompter.messages().isEmpty());
+        QCOMPARE(grid().TextMatrix(row, EntryCol::Flag), QStringLiteral("1"));
+        QCOMPARE(m_control->SaveData(), message.isEmpty());
+        if (message.isEmpty()) {
+            QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("FStockID=? AND FItemID=?"),
+                           {stockId, RoundSteel}),
+                     1);
+            QCOMPARE(scalar(QStringLiteral("SELECT FAuxBegQty FROM ICInvInitial WHERE FStockID=? AND FItemID=?"),
+                            {stockId, RoundSteel})
+                         .toDouble(),
+                     typedQuantity);
+            return;
+        }
+        // Refused once, on the group that broke the rule, and nothing written.
+        QCOMPARE(messageTexts(), QStringList{message});
+        QCOMPARE(grid().row(), row);
+        QCOMPARE(grid().col(), int(EntryCol::BegQty));
+        QCOMPARE(grid().TextMatrix(row, EntryCol::Flag), QStringLiteral("1"));
+        QCOMPARE(balances(), before);
+        QVERIFY(CountingInitialData::scripts.isEmpty());
+    }
+
+    void rowCheckPutsTheCursorOnTheMissingCell_data()
+    {
+        QTest::addColumn<QString>("backend");
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<bool>("dropUnit");
+        QTest::addColumn<int>("cursorCol");
+        QTest::addColumn<QString>("message");
+        for (const QString &backend : {ScratchAccountSet::Sqlite, ScratchAccountSet::Postgres}) {
+            const auto row = [&](const char *name) {
+                return &(QTest::newRow(qPrintable(backend + QLatin1Char(':') + QLatin1String(name))) << backend);
+            };
+            *row("no item") << QString() << false << int(EntryCol::Number)
+                            << QStringLiteral("系统检测不到物料，请重新选择！");
+            *row("no unit") << RoundSteelCode << true << int(EntryCol::SecCoefficient)
+                            << QStringLiteral("系统检测不到计量单位，请重新选择！");
+            *row("no auxiliary property") << QStringLiteral("3.02.002") << false << int(EntryCol::AuxProp)
+                                          << QStringLiteral("物料3.02.002使用等级管理，请选择等级！");
+        }
+    }
+    void rowCheckPutsTheCursorOnTheMissingCell()
+    {
+        QFETCH(QString, backend);
+        QFETCH(QString, code);
+        QFETCH(bool, dropUnit);
+        QFETCH(int, cursorCol);
+        QFETCH(QString, message);
+        REQUIRE_BACKEND(backend);
+        open(backend);
+        clickNode(SemiFinished);
+        const QStringList before = balances();
+        const int row = addItemRow(code);
+        QVERIFY(row > 0);
+        if (dropUnit)
+            grid().setValue(row, EntryCol::UnitID, 0);
+        QVERIFY(grid().editCell(row, EntryCol::BegQty, 4.0));
+        QVERIFY(grid().editCell(row, EntryCol::BegBal, 20.0));
+        m_control->barList()->Click(EntryKeys::Save);
+        QCOMPARE(messageTexts(), QStringList{message});
+        QCOMPARE(grid().row(), row);
+        QCOMPARE(grid().col(), cursorCol);
+        QCOMPARE(balances(), before);
+        QVERIFY(CountingInitialData::scripts.isEmpty());
+        // The row stays as typed, still flagged, and Save stays available.
+        QCOMPARE(grid().number(row, EntryCol::BegBal), 20.0);
+        QCOMPARE(grid().TextMatrix(row, EntryCol::Flag), QStringLiteral("1"));
+        QVERIFY(m_control->barList()->isEnabled(EntryKeys::Save));
+    }
+
+    void newRowIsInsertedWithItsOwnKey_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+    void newRowIsInsertedWithItsOwnKey()
+    {
+        QFETCH(QString, backend);
+        REQUIRE_BACKEND(backend);
+        open(backend);
+        clickNode(RawMaterials, ShelfA);
+        QVERIFY(m_control->barList()->Click(QStringLiteral("AddNew")));
+        const int row = grid().row();
+        QVERIFY(sheet().isNewRow(row));
+        QCOMPARE(grid().col(), int(EntryCol::Number));
+        QVERIFY(grid().editCell(row, EntryCol::Number, RoundSteelCode));
+        QCOMPARE(grid().TextMatrix(row, EntryCol::Name), QStringLiteral("圆钢"));
+        const Edits figures{{EntryCol::YtdBegQty, 100},  {EntryCol::YtdBegBal, 480}, {EntryCol::ReceiveQty, 50},
+                            {EntryCol::Debit, 240},      {EntryCol::SendQty, 30},    {EntryCol::Credit, 144},
+                            {EntryCol::BegQty, 120},     {EntryCol::BegBal, 576.5}};
+        for (const auto &[col, value] : figures)
+            QVERIFY(grid().editCell(row, col, value));
+        QVERIFY(m_control->barList()->isEnabled(EntryKeys::Save));
+        const QString recordNumber = QStringLiteral("SELECT FValue FROM t_SystemProfile WHERE FKey='INIBillInterID'");
+        const QVariant numbered = scalar(recordNumber);
+        QVERIFY(numbered.toInt() > 0);
+        QVERIFY(m_control->barList()->Click(EntryKeys::Save));
+        QVERIFY(m_prompter.messages().isEmpty());
+        // No batch line was numbered: the running number stays where the account set had it.
+        QCOMPARE(scalar(recordNumber), numbered);
+
+        QSqlQuery query = exec(QStringLiteral(
+            "SELECT FBrNo, FBatchNo, FFieldCompose, FPeriod, FUnitID, FAuxPropID, FYtdAuxBegQty, FYtdBegBal, "
+            "FYtdAuxReceive, FYtdDebit, FYtdAuxSend, FYtdCredit, FAuxBegQty, FBegBal, FBegDiff "
+            "FROM ICInvInitial WHERE FStockID=1 AND FSPID=1 AND FItemID=2"));
+        QVERIFY(query.next());
+        QCOMPARE(query.value(0).toString(), QStringLiteral("0"));
+        QCOMPARE(query.value(1).toString(), QString());
+        QCOMPARE(query.value(2).toString(), QStringLiteral("1|1|4|2|0"));
+        QCOMPARE(query.value(3).toInt(), DemoPeriod);
+        QCOMPARE(query.value(4).toInt(), Kilogram);
+        QCOMPARE(query.value(5).toInt(), 0);
+        for (int i = 0; i < figures.size(); ++i)
+            QCOMPARE(query.value(6 + i).toDouble(), figures.at(i).second);
+        QCOMPARE(query.value(14).toDouble(), 0.0);
+        QVERIFY(!query.next());
+        // The grid row now carries the key written and no flag; it is an ordinary loaded row.
+        QCOMPARE(grid().TextMatrix(row, EntryCol::FieldCompose), QStringLiteral("1|1|4|2|0"));
+        QCOMPARE(grid().TextMatrix(row, EntryCol::Flag), QString());
+        QVERIFY(!sheet().isNewRow(row));
+        QVERIFY(!m_control->barList()->isEnabled(EntryKeys::Save));
+        QCOMPARE(CountingInitialData::scripts.size(), 1);
+    }
+
+    void loadedRowRepointedIsUpdatedByItsOldKey_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+    void loadedRowRepointedIsUpdatedByItsOldKey()
+    {
+        QFETCH(QString, backend);
+        REQUIRE_BACKEND(backend);
+        open(backend);
+        clickNode(SemiFinished);
+        const int row = rowOf(QStringLiteral("2.01.001"));
+        QCOMPARE(grid().TextMatrix(row, EntryCol::FieldCompose), QStringLiteral("2|0|4|10|0"));
+        const double amount = grid().number(row, EntryCol::BegBal);
+        // The row is pointed at the nut (same unit) by a script, then its quantity is typed.
+        grid().setValue(row, EntryCol::ItemID, Nut);
+        grid().setTextMatrix(row, EntryCol::Number, QStringLiteral("1.04.002"));
+        QVERIFY(grid().editCell(row, EntryCol::BegQty, 401.0));
+        QVERIFY(m_control->SaveData());
+
+        QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("FFieldCompose='2|0|4|10|0'")), 0);
+        QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("FStockID=2 AND FItemID=?"), {MotorHousing}), 0);
+        QSqlQuery query = exec(QStringLiteral(
+            "SELECT FItemID, FAuxBegQty, FBegBal FROM ICInvInitial WHERE FFieldCompose='2|0|4|8|0'"));
+        QVERIFY(query.next());
+        QCOMPARE(query.value(0).toInt(), Nut);
+        QCOMPARE(query.value(1).toDouble(), 401.0);
+        QCOMPARE(query.value(2).toDouble(), amount);
+        QVERIFY(!query.next());
+        QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("FStockID=2")), 2);
+        QCOMPARE(grid().TextMatrix(row, EntryCol::FieldCompose), QStringLiteral("2|0|4|8|0"));
+    }
+
+    void batchManagedUpdateLeavesItsFiguresAlone_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+    void batchManagedUpdateLeavesItsFiguresAlone()
+    {
+        QFETCH(QString, backend);
+        REQUIRE_BACKEND(backend);
+        open(backend);
+        clickNode(RawMaterials, ShelfA);
+        const int row = rowOf(QStringLiteral("1.01.001"));
+        QCOMPARE(grid().TextMatrix(row, EntryCol::Mark), QStringLiteral("+"));
+        const QStringList before = balances();
+        grid().setValue(row, EntryCol::BegQty, 1.0);
+        grid().setValue(row, EntryCol::BegBal, 2.0);
+        QVERIFY(grid().editCell(row, EntryCol::StockInDate, QDate(2020, 1, 2)));
+        QCOMPARE(grid().TextMatrix(row, EntryCol::Flag), QStringLiteral("1"));
+        QVERIFY(m_control->SaveData());
+        QCOMPARE(CountingInitialData::scripts.size(), 1);
+        const QString script = CountingInitialData::scripts.first();
+        QVERIFY(script.contains(QStringLiteral("where FFieldCompose='1|1|4|1|0'")));
+        QVERIFY(!script.contains(QStringLiteral("FAuxBegQty=")));
+        // Both batch lines keep every figure, and nothing else changed either.
+        QCOMPARE(balances(), before);
+    }
+
+    void deletedItemLosesItsSerialsAndBalances_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+    void deletedItemLosesItsSerialsAndBalances()
+    {
+        QFETCH(QString, backend);
+        REQUIRE_BACKEND(backend);
+        open(backend);
+        clickNode(FinishedTwo, ShelfC);
+        const QString serials = QStringLiteral("FSNListID=%1").arg(LaptopSerialList);
+        for (const char *table : {"ICSerial", "ICSerialFlow", "ICSerial_F1"})
+            QCOMPARE(count(QLatin1String(table), serials), 5);
+        const int others = count(QStringLiteral("ICInvInitial"), QStringLiteral("NOT (FStockID=5 AND FSPID=3)"));
+        const int row = rowOf(QStringLiteral("3.03.001"));
+        QVERIFY(grid().select(row, EntryCol::Name));
+        QVERIFY(m_control->barList()->Click(QStringLiteral("Delete")));
+        QCOMPARE(rowOf(QStringLiteral("3.03.001")), -1);
+        QVERIFY(m_control->SaveData());
+        for (const char *table : {"ICSerial", "ICSerialFlow", "ICSerial_F1"})
+            QCOMPARE(count(QLatin1String(table), serials), 0);
+        QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("FItemID=?"), {Laptop}), 0);
+        QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("FStockID=5 AND FSPID=3")), 3);
+        QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("NOT (FStockID=5 AND FSPID=3)")), others);
+        QCOMPARE(codes(), QStringList({"3.01.001", "3.02.001", "3.02.001"}));
+    }
+
+    void savingWithoutChangesSendsNothing_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+    void savingWithoutChangesSendsNothing()
+    {
+        QFETCH(QString, backend);
+        REQUIRE_BACKEND(backend);
+        open(backend);
+        clickNode(RawMaterials, 2);
+        const QStringList before = balances();
+        QVERIFY(m_control->SaveData());
+        QVERIFY(CountingInitialData::scripts.isEmpty());
+        QCOMPARE(balances(), before);
+        // A change is sent in one text, so the count above is a real observation.
+        QVERIFY(grid().editCell(1, EntryCol::BegQty, 3001.0));
+        QVERIFY(m_control->SaveData());
+        QCOMPARE(CountingInitialData::scripts.size(), 1);
+        QVERIFY(m_control->SaveData());
+        QCOMPARE(CountingInitialData::scripts.size(), 1);
+        QVERIFY(m_prompter.messages().isEmpty());
+    }
+
+    void unfoldThenFoldLeavesTheOriginalRows_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+    void unfoldThenFoldLeavesTheOriginalRows()
+    {
+        QFETCH(QString, backend);
+        REQUIRE_BACKEND(backend);
+        open(backend);
+        clickNode(RawMaterials, 2);
+        const int steel = rowOf(RoundSteelCode);
+        QVERIFY(grid().editCell(steel, EntryCol::BegQty, 2999.0));
+        // What the grid should hold after the save: the same cells without the row's flag.
+        QStringList saved = gridTexts();
+        QStringList steelCells = saved.at(steel).split(QLatin1Char('\t'));
+        QCOMPARE(steelCells.at(EntryCol::Flag - 1), QStringLiteral("1"));
+        steelCells[EntryCol::Flag - 1].clear();
+        saved[steel] = steelCells.join(QLatin1Char('\t'));
+        // The save adds the totals up again: one less than the loaded total.
+        const int totals = grid().rows() - 1;
+        const double total = grid().number(totals, EntryCol::BegQty) - 1;
+        saved.removeLast();
+
+        const int glue = rowOf(QStringLiteral("1.03.002"));
+        // Unfolding saves the pending edit first, without asking.
+        emit grid().cellClicked(glue, EntryCol::Mark);
+        QVERIFY(m_prompter.messages().isEmpty());
+        QCOMPARE(CountingInitialData::scripts.size(), 1);
+        QCOMPARE(scalar(QStringLiteral("SELECT FAuxBegQty FROM ICInvInitial WHERE FFieldCompose='1|2|4|2|0'"))
+                     .toDouble(),
+                 2999.0);
+        QCOMPARE(grid().TextMatrix(glue, EntryCol::Mark), QStringLiteral("-"));
+        QCOMPARE(grid().rows(), int(saved.size()) + 3);
+        QVERIFY(sheet().isBatchLine(glue + 1));
+        QVERIFY(sheet().isBatchLine(glue + 2));
+        QCOMPARE(grid().TextMatrix(glue + 1, EntryCol::Batch), QStringLiteral("E2401"));
+        QCOMPARE(grid().TextMatrix(glue + 2, EntryCol::Batch), QStringLiteral("E2402"));
+        // Folding takes exactly those lines away again.
+        emit grid().cellClicked(glue, EntryCol::Mark);
+        QCOMPARE(grid().TextMatrix(glue, EntryCol::Mark), QStringLiteral("+"));
+        QStringList folded = gridTexts();
+        QCOMPARE(folded.size(), saved.size() + 1);
+        folded.removeLast();
+        QCOMPARE(folded, saved);
+        QVERIFY(sheet().isTotalsRow(totals));
+        QCOMPARE(grid().number(totals, EntryCol::BegQty), total);
+        QCOMPARE(CountingInitialData::scripts.size(), 1);
+    }
+
+    void failedWriteKeepsTheGridAsTyped_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+    void failedWriteKeepsTheGridAsTyped()
+    {
+        QFETCH(QString, backend);
+        REQUIRE_BACKEND(backend);
+        open(backend);
+        clickNode(FinishedTwo, ShelfC);
+        const int motor = rowOf(QStringLiteral("3.01.001"));
+        QVERIFY(grid().editCell(motor, EntryCol::BegQty, 81.0));
+        QVERIFY(grid().select(rowOf(QStringLiteral("3.03.001")), EntryCol::Name));
+        QVERIFY(m_control->DeleteCurrentRow());
+        exec(QStringLiteral("DROP TABLE ICSerial_F1"));
+        const QStringList before = balances();
+        QVERIFY(!m_control->SaveData());
+        QCOMPARE(m_prompter.messages().size(), 1);
+        QCOMPARE(CountingInitialData::scripts.size(), 1);
+        QCOMPARE(balances(), before);
+        QCOMPARE(count(QStringLiteral("ICSerial"), QStringLiteral("FSNListID=1")), 5);
+        QCOMPARE(grid().number(motor, EntryCol::BegQty), 81.0);
+        QCOMPARE(grid().TextMatrix(motor, EntryCol::Flag), QStringLiteral("1"));
+        QCOMPARE(rowOf(QStringLiteral("3.03.001")), -1);
+        QCOMPARE(m_control->statusPanels()->panelText(1), QStringLiteral("就绪"));
+    }
+};
+
+int main(int argc, char **argv)
+{
+    // The view settings this suite's control saves stay with this process.
+    const PrivateSettings settings;
+    QApplication app(argc, argv);
+    TestEntryControl suite;
+    return QTest::qExec(&suite, argc, argv);
+}
+#include "tst_entrycontrol.moc"
