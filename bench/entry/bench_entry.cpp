@@ -35,6 +35,8 @@
 #include "grid/cellmodel.h"
 #include "grid/spreadgrid.h"
 
+#include "measure.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -65,24 +67,7 @@ double microsSince(Clock::time_point start)
     return std::chrono::duration<double, std::micro>(Clock::now() - start).count();
 }
 
-double median(std::vector<double> samples)
-{
-    std::sort(samples.begin(), samples.end());
-    return samples.empty() ? -1 : samples[samples.size() / 2];
-}
 
-// Peak resident set of this process in MB.
-double peakRssMb()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).trimmed().split(' ').first().toDouble() / 1024.0;
-    }
-    return -1;
-}
 
 QString propsString(const QString &acctDb)
 {
@@ -120,7 +105,7 @@ int rawFill(const QString &acctDb, int rows)
         for (int f = 0; f < fields; ++f)
             values.push_back(items->value(r, f));
     }
-    std::printf("%f %f\n", msSince(start), peakRssMb());
+    std::printf("%f %f\n", msSince(start), Measure::peakRssMb());
     return 0;
 }
 
@@ -148,7 +133,7 @@ int gridFill(const QString &acctDb, int rows)
     const double ms = msSince(start);
     if (cells.rows() != rows + 1)
         return 1;
-    std::printf("%f %f\n", ms, peakRssMb());
+    std::printf("%f %f\n", ms, Measure::peakRssMb());
     return 0;
 }
 
@@ -197,7 +182,7 @@ int edit(const QString &acctDb, int rows)
     QApplication::processEvents();
     if (flagged != EditSamples || !prompter.messages().isEmpty())
         return 1;
-    std::printf("%f %f %f\n", median(controlSamples), peakRssMb(), median(rawSamples));
+    std::printf("%f %f %f\n", Measure::median(controlSamples), Measure::peakRssMb(), Measure::median(rawSamples));
     return 0;
 }
 

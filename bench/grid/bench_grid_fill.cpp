@@ -13,6 +13,8 @@
 #include "grid/spreadconsole.h"
 #include "grid/spreadgrid.h"
 
+#include "measure.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QTableView>
@@ -39,18 +41,6 @@ double msSince(Clock::time_point start)
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-// Peak resident set of this process in MB.
-double peakRssMb()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).trimmed().split(' ').first().toDouble() / 1024.0;
-    }
-    return -1;
-}
 
 QString textValue(int row, int col)
 {
@@ -117,11 +107,6 @@ double gridFill(SpreadGrid &grid, int rows)
     return msSince(start);
 }
 
-double median(std::vector<double> samples)
-{
-    std::nth_element(samples.begin(), samples.begin() + std::ptrdiff_t(samples.size() / 2), samples.end());
-    return samples[samples.size() / 2];
-}
 
 double microsSince(Clock::time_point start)
 {
@@ -133,7 +118,7 @@ int runCase(const char *name, int rows)
 {
     if (std::strcmp(name, "raw-fill") == 0) {
         const double ms = rawFill(rows);
-        std::printf("%f %f\n", ms, peakRssMb());
+        std::printf("%f %f\n", ms, Measure::peakRssMb());
         return 0;
     }
 
@@ -141,7 +126,7 @@ int runCase(const char *name, int rows)
     layOut(grid);
     const double fillMs = gridFill(grid, rows);
     if (std::strcmp(name, "grid-fill") == 0) {
-        std::printf("%f %f\n", fillMs, peakRssMb());
+        std::printf("%f %f\n", fillMs, Measure::peakRssMb());
         return 0;
     }
 
@@ -156,7 +141,7 @@ int runCase(const char *name, int rows)
             }
         }
         QApplication::processEvents();
-        std::printf("%f %f\n", msSince(start), peakRssMb());
+        std::printf("%f %f\n", msSince(start), Measure::peakRssMb());
         return 0;
     }
 
@@ -191,7 +176,7 @@ int runCase(const char *name, int rows)
         colourSamples.push_back(microsSince(start));
     }
     QApplication::processEvents();
-    std::printf("%f %f %f %f\n", median(gridSamples), peakRssMb(), median(rawSamples), median(colourSamples));
+    std::printf("%f %f %f %f\n", Measure::median(gridSamples), Measure::peakRssMb(), Measure::median(rawSamples), Measure::median(colourSamples));
     return 0;
 }
 

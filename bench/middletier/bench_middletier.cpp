@@ -28,6 +28,8 @@
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
 
+#include "measure.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QRegularExpression>
@@ -81,11 +83,6 @@ double msSince(Clock::time_point start)
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-double median(std::vector<double> samples)
-{
-    std::sort(samples.begin(), samples.end());
-    return samples.at(samples.size() / 2);
-}
 
 template<class Action>
 double timed(const Action &action)
@@ -215,8 +212,8 @@ void benchScript(const QString &backend)
                                .toLongLong();
     if (written != rows.size())
         std::printf("  !! the raw insert wrote %lld rows, not %lld\n", written, qlonglong(rows.size()));
-    const double ratio = median(service) / median(raw);
-    report("UpdateINIData, 10,000-row insert script", median(service), median(raw),
+    const double ratio = Measure::median(service) / Measure::median(raw);
+    report("UpdateINIData, 10,000-row insert script", Measure::median(service), Measure::median(raw),
            backend == BenchAccountSet::Sqlite ? verdict(ratio <= ScriptTargetRatio, QStringLiteral("ratio <= 3"))
                                               : QString());
 }
@@ -296,8 +293,8 @@ void benchPage(const QString &backend, const QString &cacheDir)
         }
         if (rows != PageSize)
             std::printf("  !! page %d held %d rows\n", pageIndex, rows);
-        const double figure = median(service);
-        const double ratio = figure / median(raw);
+        const double figure = Measure::median(service);
+        const double ratio = figure / Measure::median(raw);
         const bool sqlite = backend == BenchAccountSet::Sqlite;
         const QString target = pageIndex == 1 && sqlite
                                    ? verdict(figure <= PageTargetMs && ratio <= PageTargetRatio,
@@ -305,7 +302,7 @@ void benchPage(const QString &backend, const QString &cacheDir)
                                    : QString();
         const QByteArray what =
             QStringLiteral("FetchYtdInitialData, page %1/%2 of 500 + totals").arg(pageIndex).arg(lastPage).toUtf8();
-        report(what.constData(), figure, median(raw), target);
+        report(what.constData(), figure, Measure::median(raw), target);
     }
 }
 
@@ -359,7 +356,7 @@ void benchStocks(const QString &backend)
         raw.push_back(r);
     }
     const QByteArray what = QStringLiteral("FetchStocks, %1 tree nodes").arg(nodes).toUtf8();
-    report(what.constData(), median(service), median(raw));
+    report(what.constData(), Measure::median(service), Measure::median(raw));
 }
 
 const QString CacheOption = QStringLiteral("--cache");
