@@ -28,6 +28,7 @@ private slots:
     void typedBatchRepeatIsRefused();
     void batchRepeatsWithOtherDateAreSaved();
     void apportioningSplitsTheTypedTotals();
+    void apportionedQuantityOfANewLineIsAccepted();
     void unapportionedAmountsAreNotSaved();
     void quantityEditsFillDependentCells();
     void refusedGroupKeepsTheFigure();
