@@ -18,12 +18,14 @@ build: deps configure
 	cmake --build $(BUILD) -j$(JOBS)
 
 # With a display the suite opens on the demo account set for a person; without one the demo
-# script drives it on the offscreen platform and writes screenshots under out/.
+# script drives it on the offscreen platform, on a fresh demo account set out/demo.db (the script
+# saves edits), and writes screenshots under out/.
 run: build
 	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then \
 	  $(BIN)/lumo-suite --demo; \
 	else \
-	  mkdir -p out && $(BIN)/lumo-suite --demo --script demo/demo.js && echo "screenshots in out/"; \
+	  mkdir -p out && rm -f out/demo.db && \
+	  $(BIN)/lumo-suite --demo --account-set out/demo.db --script demo/demo.js && echo "screenshots in out/"; \
 	fi
 
 test: build

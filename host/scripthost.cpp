@@ -31,6 +31,7 @@ const char *const prelude = R"JS(
 (function (host, global) {
     function bindAll(target, value) { return typeof value === 'function' ? value.bind(target) : value; }
     global.print = function (...args) { host.print(args.map(String).join(' ')); };
+    global.include = function (file) { host.include(file); };
     global.__wrapControls = function (collection) {
         return new Proxy(collection, {
             get(t, p) {
@@ -42,10 +43,14 @@ const char *const prelude = R"JS(
             }
         });
     };
+    // A widget without a Controls collection (a dialog) reaches its children by object name.
+    global.__wrapChildren = function (widget) {
+        return new Proxy({}, { get(_, p) { return typeof p === 'string' ? host.child(widget, p) : undefined; } });
+    };
     global.__wrapControl = function (control) {
         return new Proxy(control, {
             get(t, p) {
-                if (p === 'Controls') return __wrapControls(t.Controls);
+                if (p === 'Controls') return t.Controls ? __wrapControls(t.Controls) : __wrapChildren(t);
                 if (p === '__target') return t;
                 return bindAll(t, t[p]);
             },
@@ -89,10 +94,11 @@ QObject *objectOf(const QJSValue &value)
 
 } // namespace
 
-ScriptHost::ScriptHost(QJSEngine &engine, SuiteWindow &suite, QObject *parent)
+ScriptHost::ScriptHost(QJSEngine &engine, SuiteWindow &suite, const QString &scriptFolder, QObject *parent)
     : QObject(parent)
     , m_engine(engine)
     , m_suite(suite)
+    , m_scriptFolder(scriptFolder)
     , m_installed(&m_prompter)
 {
     qApp->installEventFilter(this);
@@ -127,6 +133,12 @@ bool ScriptHost::eventFilter(QObject *watched, QEvent *event)
             m_pendingError = result.toString();
             if (shown)
                 shown->reject();
+            return;
+        }
+        // A handler that leaves its dialog open would keep the script waiting for a person.
+        if (shown && shown->isVisible()) {
+            m_pendingError = QStringLiteral("the dialog handler left the dialog open: %1").arg(shown->objectName());
+            shown->reject();
         }
     });
     return false;
@@ -193,6 +205,22 @@ bool ScriptHost::command(const QJSValue &target, const QString &key)
     return bars && bars->Click(key);
 }
 
+bool ScriptHost::press(const QString &key)
+{
+    return m_suite.pressHostKey(key);
+}
+
+QJSValue ScriptHost::child(const QJSValue &parent, const QString &name)
+{
+    QObject *object = objectOf(parent);
+    QObject *found = object ? object->findChild<QObject *>(name) : nullptr;
+    if (!found)
+        return QJSValue(QJSValue::NullValue);
+    QJSEngine::setObjectOwnership(found, QJSEngine::CppOwnership);
+    const char *wrapper = qobject_cast<QWidget *>(found) ? "__wrapControl" : "__wrapService";
+    return m_engine.globalObject().property(QString::fromLatin1(wrapper)).call({m_engine.newQObject(found)});
+}
+
 void ScriptHost::answer(const QString &text)
 {
     try {
@@ -222,12 +250,20 @@ void ScriptHost::clearMessages()
     m_prompter.clear();
 }
 
-bool ScriptHost::screenshot(const QString &path)
+bool ScriptHost::screenshot(const QString &path, const QJSValue &target)
 {
     processEvents();
+    QWidget *widget = &m_suite;
+    if (!target.isUndefined() && !target.isNull()) {
+        widget = qobject_cast<QWidget *>(objectOf(target));
+        if (!widget) {
+            raise(QStringLiteral("截图的对象不是窗口部件：%1").arg(path));
+            return false;
+        }
+    }
     const QFileInfo info(path);
     QDir().mkpath(info.absolutePath());
-    return m_suite.grab().save(path);
+    return widget->grab().save(path);
 }
 
 void ScriptHost::processEvents()
@@ -256,6 +292,19 @@ QString ScriptHost::propsString() const
     }
 }
 
+void ScriptHost::include(const QString &file)
+{
+    const QString path = QDir(m_scriptFolder).filePath(file);
+    QFile in(path);
+    if (!in.open(QIODevice::ReadOnly)) {
+        raise(QStringLiteral("脚本文件读不到：%1").arg(path));
+        return;
+    }
+    const QJSValue result = m_engine.evaluate(QString::fromUtf8(in.readAll()), path);
+    if (result.isError())
+        raise(QStringLiteral("%1:%2: %3").arg(path).arg(result.property(QStringLiteral("lineNumber")).toInt()).arg(result.toString()));
+}
+
 void ScriptHost::print(const QString &line)
 {
     std::fprintf(stdout, "%s\n", line.toUtf8().constData());
@@ -273,7 +322,7 @@ int runScript(const QString &file, SuiteWindow &suite)
 
     QJSEngine engine;
     engine.installExtensions(QJSEngine::ConsoleExtension);
-    ScriptHost host(engine, suite);
+    ScriptHost host(engine, suite, QFileInfo(file).absolutePath());
     QJSEngine::setObjectOwnership(&host, QJSEngine::CppOwnership);
     const QJSValue hostValue = engine.newQObject(&host);
     engine.globalObject().setProperty(QStringLiteral("host"), hostValue);

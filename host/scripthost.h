@@ -16,7 +16,7 @@ class ScriptHost : public QObject
     Q_OBJECT
 
 public:
-    ScriptHost(QJSEngine &engine, SuiteWindow &suite, QObject *parent = nullptr);
+    ScriptHost(QJSEngine &engine, SuiteWindow &suite, const QString &scriptFolder, QObject *parent = nullptr);
 
     Q_INVOKABLE QJSValue createObject(const QString &progId);
     Q_INVOKABLE QJSValue openControl(const QString &progId);
@@ -25,16 +25,24 @@ public:
     Q_INVOKABLE QJSValue invoke(const QJSValue &object, const QJSValue &memberIdOrName, const QJSValue &args);
     // Presses a menu or toolbar key of a control, as a person's click does.
     Q_INVOKABLE bool command(const QJSValue &control, const QString &key);
+    // Presses a button of the suite's toolbar or an entry of the active control's menus in the
+    // suite's menu bar by its key; false when there is none or it is disabled.
+    Q_INVOKABLE bool press(const QString &key);
+    // A child widget of `parent` by its object name, at any depth; null when there is none.
+    Q_INVOKABLE QJSValue child(const QJSValue &parent, const QString &name);
     Q_INVOKABLE void answer(const QString &text);
     Q_INVOKABLE QJSValue messages() const;
     Q_INVOKABLE void clearMessages();
-    Q_INVOKABLE bool screenshot(const QString &path);
+    // The suite's main window, or `target` (a control, a dialog, a child widget) when given.
+    Q_INVOKABLE bool screenshot(const QString &path, const QJSValue &target = QJSValue());
     Q_INVOKABLE void processEvents();
     Q_INVOKABLE void exit(int code);
     Q_INVOKABLE QString propsString() const;
     // The next modal dialog that opens is handed to `handler` once its event loop runs; a dialog
     // that opens without a handler is closed (a script never waits for a person).
     Q_INVOKABLE void onNextDialog(const QJSValue &handler);
+    // Runs another script file (relative to the running script's folder) in the same global scope.
+    Q_INVOKABLE void include(const QString &file);
     // print(...): the arguments joined by blanks on standard output.
     Q_INVOKABLE void print(const QString &line);
 
@@ -52,6 +60,7 @@ private:
 
     QJSEngine &m_engine;
     SuiteWindow &m_suite;
+    QString m_scriptFolder;
     ScriptedPrompter m_prompter;
     ScopedPrompter m_installed;
     QJSValue m_dialogHandler;

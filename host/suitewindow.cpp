@@ -121,6 +121,20 @@ ControlFrame *SuiteWindow::frameOf(const QWidget *control) const
     return nullptr;
 }
 
+bool SuiteWindow::pressHostKey(const QString &key)
+{
+    QList<QAction *> drawn = m_controlToolBar->isVisible() ? m_controlToolBar->actions() : QList<QAction *>();
+    for (const QAction *menu : std::as_const(m_controlMenus))
+        drawn += menu->menu()->actions();
+    for (QAction *action : std::as_const(drawn)) {
+        if (action->objectName() == key && action->isEnabled()) {
+            action->trigger();
+            return true;
+        }
+    }
+    return false;
+}
+
 ControlFrame *SuiteWindow::activeFrame() const
 {
     return qobject_cast<ControlFrame *>(m_mdi->activeSubWindow());
@@ -128,12 +142,16 @@ ControlFrame *SuiteWindow::activeFrame() const
 
 void SuiteWindow::redrawControlBars()
 {
+    // A command pressed on these bars may redraw them: what it was pressed on goes later.
     for (QAction *menu : std::as_const(m_controlMenus)) {
         menuBar()->removeAction(menu);
-        delete menu->menu();
+        menu->menu()->deleteLater();
     }
     m_controlMenus.clear();
+    const QList<QAction *> buttons = m_controlToolBar->actions();
     m_controlToolBar->clear();
+    for (QAction *button : buttons)
+        button->deleteLater();
 
     ControlFrame *frame = activeFrame();
     auto *bars = frame ? qobject_cast<BarList *>(frame->hostWindow()->barList()) : nullptr;
@@ -147,6 +165,7 @@ void SuiteWindow::redrawControlBars()
             if (item.kind != BarList::ItemKind::MenuItem || item.menu != menuName || !item.visible)
                 continue;
             QAction *action = menu->addAction(item.caption);
+            action->setObjectName(item.key);
             action->setShortcut(item.shortcut);
             action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
             action->setEnabled(item.enabled);
@@ -168,6 +187,7 @@ void SuiteWindow::redrawControlBars()
             continue;
         }
         QAction *action = m_controlToolBar->addAction(QIcon::fromTheme(item.iconName), item.caption);
+        action->setObjectName(item.key);
         action->setEnabled(item.enabled);
         const QString key = item.key;
         connect(action, &QAction::triggered, host, [host, key] { emit host->ToolBarClick(key); });

@@ -23,6 +23,9 @@ public:
     QWidget *openControl(const QString &progId);
     ControlFrame *frameOf(const QWidget *control) const;
     QMdiArea *mdiArea() const { return m_mdi; }
+    // Triggers the toolbar button or control menu entry drawn for `key`, as a click does; false
+    // when the active control has no such visible, enabled command.
+    bool pressHostKey(const QString &key);
 
 private:
     void buildSuiteMenu();

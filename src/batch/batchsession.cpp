@@ -250,6 +250,9 @@ void BatchSession::onAfterEdit(int row, int col)
         convertUnits(row, col);
         applyPlanPrice(row, col);
     }
+    // An apportioned line's amount follows its quantity before the pair is judged.
+    if (col == BatCol::YtdBegQty || col == BatCol::BegQty)
+        apportion();
     if (BatCol::isFigure(col)) {
         const BalanceVerdict verdict = BatchValidation::checkGroup(m_sheet.line(row), groupOf(col), m_item, rules());
         if (!verdict.valid) {
@@ -260,8 +263,6 @@ void BatchSession::onAfterEdit(int row, int col)
     }
     m_sheet.markChanged(row);
     m_changed = true;
-    if (col == BatCol::YtdBegQty || col == BatCol::BegQty)
-        apportion();
     m_sheet.refreshTotals();
 }
 

@@ -309,6 +309,28 @@ void TestBatchDialog::apportioningSplitsTheTypedTotals()
     QCOMPARE(grid.TextMatrix(4, BatchNo), QStringLiteral("合计"));
 }
 
+void TestBatchDialog::apportionedQuantityOfANewLineIsAccepted()
+{
+    setParams({{QStringLiteral("ShareBal"), 1}});
+    BatchWorld::instance().detailRows = {record(QStringLiteral("B1"), 1, 10)};
+    const auto dialog = openDialog(true, false, 76);
+    SpreadGrid &grid = *dialog->grid();
+    QVERIFY(dialog->pressButton(QStringLiteral("ShareBal")));
+    const int input = grid.row();
+    QVERIFY(grid.editCell(input, BegBal, 100));
+    QVERIFY(dialog->pressButton(QStringLiteral("AddNew")));
+    const int added = grid.row();
+    QCOMPARE(added, 2);
+    QVERIFY(grid.editCell(added, BatchNo, QStringLiteral("B2")));
+
+    // The quantity is typed before any amount of the line: its share of the total comes with it,
+    // so the pair is judged with the amount and nobody is warned of a zero amount.
+    QVERIFY(grid.editCell(added, BegQty, 3));
+    QCOMPARE(m_prompter.messages().size(), 0);
+    QCOMPARE(grid.TextMatrix(1, BegBal), QStringLiteral("25.00"));
+    QCOMPARE(grid.TextMatrix(added, BegBal), QStringLiteral("75.00"));
+}
+
 void TestBatchDialog::quantityEditsFillDependentCells()
 {
     BatchWorld::instance().unitCoefficient = 1;

@@ -27,6 +27,7 @@ private slots:
     void emptyItemNeedsAddNew();
     void typedBatchRepeatIsRefused();
     void apportioningSplitsTheTypedTotals();
+    void apportionedQuantityOfANewLineIsAccepted();
     void quantityEditsFillDependentCells();
     void refusedGroupKeepsTheFigure();
     void renamedBatchIsDeletedAndInserted();

@@ -1,0 +1,40 @@
+// Helpers that suite scripts include (`include("suite.js")`): checks that end the run with what
+// was expected, and ways to find a node or a row by what a person reads on the screen.
+// Declared as functions so that they land in the global scope of the including script.
+
+function check(condition, what) {
+    if (!condition)
+        throw new Error("check failed: " + what);
+}
+
+function expectEqual(actual, expected, what) {
+    if (actual !== expected)
+        throw new Error("check failed: " + what + ": expected \"" + expected + "\", got \"" + actual + "\"");
+}
+
+// The key of the first tree node whose text contains `text`.
+function nodeByText(tree, text) {
+    const key = tree.nodeKeys().find(k => tree.nodeText(k).indexOf(text) >= 0);
+    check(key !== undefined, "a node reads " + text);
+    return key;
+}
+
+// The first data row whose cell in `col` reads `text` exactly; -1 when there is none.
+function rowWithText(grid, col, text) {
+    for (let row = 1; row < grid.Rows; ++row) {
+        if (grid.TextMatrix(row, col) === text)
+            return row;
+    }
+    return -1;
+}
+
+// Fails with the texts of the message boxes shown so far, when there were any.
+function expectNoMessages(what) {
+    const shown = host.messages();
+    check(shown.length === 0, what + ": no message box, got " + shown.map(m => m.text.replace(/\r\n/g, " / ")).join(" | "));
+}
+
+// Types `text` into a cell as a person does and fails when the grid refused it.
+function type(grid, row, col, text) {
+    check(grid.editCell(row, col, text), "cell " + row + "," + col + " takes " + text);
+}
