@@ -32,14 +32,16 @@ const QColor Selection(10, 36, 106);
 int defaultWidth(int col)
 {
     switch (col) {
+    // Narrow enough that the year-start amount is on screen beside the tree at 1280 pixels.
     case EntryCol::Mark: return 22;
-    case EntryCol::Number: return 110;
-    case EntryCol::Name: return 150;
-    case EntryCol::Model: return 110;
-    case EntryCol::Unit: return 56;
-    case EntryCol::Track: return 90;
-    case EntryCol::AuxProp: return 90;
-    case EntryCol::Batch: return 100;
+    case EntryCol::Number: return 96;
+    case EntryCol::Name: return 120;
+    case EntryCol::Model: return 90;
+    case EntryCol::Unit: return 48;
+    case EntryCol::SecCoefficient: return 84;
+    case EntryCol::Track: return 84;
+    case EntryCol::AuxProp: return 72;
+    case EntryCol::Batch: return 84;
     case EntryCol::StockInDate: case EntryCol::KFDate: return 96;
     default: return 110;
     }

@@ -124,7 +124,9 @@ void writeItemRow(CellModel &cells, int row, const Recordset &items, int record,
     cells.setText(row, Model, info.model);
     cells.setText(row, Unit, v("FUnitName").toString());
     cells.setValue(row, UnitID, info.unitId);
-    cells.setValue(row, SecCoefficient, info.secCoefficient);
+    // An item without a secondary unit has no rate to show; an empty cell reads as 0.
+    if (info.secUnitId != 0)
+        cells.setValue(row, SecCoefficient, info.secCoefficient);
     cells.setText(row, SecUnit, v("FSecUnit").toString());
     cells.setValue(row, SecUnitID, info.secUnitId);
     cells.setText(row, Track, Valuation::name(info.track));
