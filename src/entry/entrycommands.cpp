@@ -52,12 +52,12 @@ const QVector<EntryCommandSpec> &entryCommandTable()
 
 bool entryCommandForKey(const QString &key, EntryCommand *command)
 {
-    for (const EntryCommandSpec &spec : entryCommandTable()) {
-        bool match = key == QLatin1String(spec.toolKey);
-        for (const char *menuKey : spec.menuKeys)
+    for (const EntryCommandSpec &declared : entryCommandTable()) {
+        bool match = key == QLatin1String(declared.toolKey);
+        for (const char *menuKey : declared.menuKeys)
             match = match || key == QLatin1String(menuKey);
         if (match && !key.isEmpty()) {
-            *command = spec.command;
+            *command = declared.command;
             return true;
         }
     }
@@ -66,15 +66,15 @@ bool entryCommandForKey(const QString &key, EntryCommand *command)
 
 void fillEntryBarList(BarList &bars)
 {
-    for (const EntryCommandSpec &spec : entryCommandTable()) {
-        for (const char *menuKey : spec.menuKeys) {
+    for (const EntryCommandSpec &declared : entryCommandTable()) {
+        for (const char *menuKey : declared.menuKeys) {
             BarList::Item item;
             item.key = QString::fromLatin1(menuKey);
             item.kind = BarList::ItemKind::MenuItem;
-            item.caption = ResString(QString::fromUtf8(spec.caption));
-            item.menu = ResString(QString::fromUtf8(spec.menu));
-            item.shortcut = QKeySequence(QString::fromLatin1(spec.shortcut));
-            item.checkable = spec.toggle;
+            item.caption = ResString(QString::fromUtf8(declared.caption));
+            item.menu = ResString(QString::fromUtf8(declared.menu));
+            item.shortcut = QKeySequence(QString::fromLatin1(declared.shortcut));
+            item.checkable = declared.toggle;
             bars.addItem(item);
         }
     }
@@ -93,15 +93,15 @@ void fillEntryBarList(BarList &bars)
         bars.addItem(item);
     };
     // Toolbar order: file, then entry, then view commands, with the two separators between.
-    for (const EntryCommandSpec &spec : entryCommandTable()) {
-        if (QLatin1String(spec.toolKey).isEmpty())
+    for (const EntryCommandSpec &declared : entryCommandTable()) {
+        if (QLatin1String(declared.toolKey).isEmpty())
             continue;
-        if (spec.command == EntryCommand::AddNew)
+        if (declared.command == EntryCommand::AddNew)
             addSeparator(EntryKeys::Separator2);
-        if (spec.command == EntryCommand::Check)
+        if (declared.command == EntryCommand::Check)
             addSeparator(EntryKeys::Separator3);
-        addButton(QString::fromLatin1(spec.toolKey), ResString(QString::fromUtf8(spec.caption)),
-                  QString::fromLatin1(spec.iconName));
+        addButton(QString::fromLatin1(declared.toolKey), ResString(QString::fromUtf8(declared.caption)),
+                  QString::fromLatin1(declared.iconName));
     }
 }
 

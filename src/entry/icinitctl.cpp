@@ -210,12 +210,12 @@ void ICInitCtl::enableCommands()
     BarList &bars = *barList();
     const bool entryMode = m_mode == Mode::Entry;
     const bool initialisationOpen = LibraryState::instance().periodOpen;
-    for (const EntryCommandSpec &spec : entryCommandTable()) {
-        const bool available = isAvailable(spec.command, entryMode, initialisationOpen);
-        for (const char *menuKey : spec.menuKeys)
+    for (const EntryCommandSpec &declared : entryCommandTable()) {
+        const bool available = isAvailable(declared.command, entryMode, initialisationOpen);
+        for (const char *menuKey : declared.menuKeys)
             bars.setEnabled(QString::fromLatin1(menuKey), available);
-        if (!QLatin1String(spec.toolKey).isEmpty())
-            bars.setEnabled(QString::fromLatin1(spec.toolKey), available);
+        if (!QLatin1String(declared.toolKey).isEmpty())
+            bars.setEnabled(QString::fromLatin1(declared.toolKey), available);
     }
     // Quantities alone leave nothing to reconcile with the ledger.
     for (const QString &key : reconciliationKeys())

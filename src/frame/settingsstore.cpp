@@ -11,38 +11,38 @@ QSettings store()
 
 } // namespace
 
-QVariant SettingsStore::value(const SettingSpec &spec)
+QVariant SettingsStore::value(const SettingSpec &setting)
 {
-    return store().value(QString::fromLatin1(spec.key), spec.defaultValue);
+    return store().value(QString::fromLatin1(setting.key), setting.defaultValue);
 }
 
-bool SettingsStore::boolValue(const SettingSpec &spec)
+bool SettingsStore::boolValue(const SettingSpec &setting)
 {
-    const QVariant v = value(spec);
+    const QVariant v = value(setting);
     return v.typeId() == QMetaType::QString ? (v.toString() == QLatin1String("true") || v.toInt() != 0) : v.toBool();
 }
 
-int SettingsStore::intValue(const SettingSpec &spec)
+int SettingsStore::intValue(const SettingSpec &setting)
 {
-    return value(spec).toInt();
+    return value(setting).toInt();
 }
 
-QColor SettingsStore::colorValue(const SettingSpec &spec)
+QColor SettingsStore::colorValue(const SettingSpec &setting)
 {
     bool ok = false;
-    const qint64 rgb = value(spec).toLongLong(&ok);
-    return colorFromRgbNumber(ok ? rgb : spec.defaultValue.toLongLong());
+    const qint64 rgb = value(setting).toLongLong(&ok);
+    return colorFromRgbNumber(ok ? rgb : setting.defaultValue.toLongLong());
 }
 
-void SettingsStore::setValue(const SettingSpec &spec, const QVariant &value)
+void SettingsStore::setValue(const SettingSpec &setting, const QVariant &value)
 {
     QSettings settings = store();
-    settings.setValue(QString::fromLatin1(spec.key), value);
+    settings.setValue(QString::fromLatin1(setting.key), value);
 }
 
-void SettingsStore::setColor(const SettingSpec &spec, const QColor &color)
+void SettingsStore::setColor(const SettingSpec &setting, const QColor &color)
 {
-    setValue(spec, rgbNumber(color));
+    setValue(setting, rgbNumber(color));
 }
 
 QColor SettingsStore::colorFromRgbNumber(qint64 rgb)

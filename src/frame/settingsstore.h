@@ -37,12 +37,12 @@ inline const SettingSpec BalAdjColor{"BalAdjColor", 206 + 253 * 256 + 255 * 6553
 class LUMOICINITIAL_EXPORT SettingsStore
 {
 public:
-    static QVariant value(const SettingSpec &spec);
-    static bool boolValue(const SettingSpec &spec);
-    static int intValue(const SettingSpec &spec);
-    static QColor colorValue(const SettingSpec &spec);
-    static void setValue(const SettingSpec &spec, const QVariant &value);
-    static void setColor(const SettingSpec &spec, const QColor &color);
+    static QVariant value(const SettingSpec &setting);
+    static bool boolValue(const SettingSpec &setting);
+    static int intValue(const SettingSpec &setting);
+    static QColor colorValue(const SettingSpec &setting);
+    static void setValue(const SettingSpec &setting, const QVariant &value);
+    static void setColor(const SettingSpec &setting, const QColor &color);
 
     static QColor colorFromRgbNumber(qint64 rgb);
     static qint64 rgbNumber(const QColor &color);

@@ -143,27 +143,27 @@ void TestCommandsOnAccountSet::cleanupTestCase()
 void TestCommandsOnAccountSet::init()
 {
     m_prompter.clear();
-    for (const SettingSpec *spec : viewSettings)
-        SettingsStore::setValue(*spec, spec->defaultValue);
+    for (const SettingSpec *viewSetting : viewSettings)
+        SettingsStore::setValue(*viewSetting, viewSetting->defaultValue);
 }
 
 void TestCommandsOnAccountSet::everyKeyReachesItsProcedure_data()
 {
     QTest::addColumn<int>("route");
     QTest::addColumn<QString>("key");
-    for (const EntryCommandSpec &spec : entryCommandTable()) {
-        for (const char *menuKey : spec.menuKeys) {
+    for (const EntryCommandSpec &declared : entryCommandTable()) {
+        for (const char *menuKey : declared.menuKeys) {
             QTest::newRow(qPrintable(QStringLiteral("menu %1").arg(QLatin1String(menuKey))))
                 << int(Route::Menu) << QString::fromLatin1(menuKey);
             QTest::newRow(qPrintable(QStringLiteral("host %1").arg(QLatin1String(menuKey))))
                 << int(Route::Host) << QString::fromLatin1(menuKey);
         }
-        if (QLatin1String(spec.toolKey).isEmpty())
+        if (QLatin1String(declared.toolKey).isEmpty())
             continue;
-        QTest::newRow(qPrintable(QStringLiteral("toolbar %1").arg(QLatin1String(spec.toolKey))))
-            << int(Route::ToolBar) << QString::fromLatin1(spec.toolKey);
-        QTest::newRow(qPrintable(QStringLiteral("host %1").arg(QLatin1String(spec.toolKey))))
-            << int(Route::Host) << QString::fromLatin1(spec.toolKey);
+        QTest::newRow(qPrintable(QStringLiteral("toolbar %1").arg(QLatin1String(declared.toolKey))))
+            << int(Route::ToolBar) << QString::fromLatin1(declared.toolKey);
+        QTest::newRow(qPrintable(QStringLiteral("host %1").arg(QLatin1String(declared.toolKey))))
+            << int(Route::Host) << QString::fromLatin1(declared.toolKey);
     }
 }
 
@@ -268,15 +268,15 @@ void TestCommandsOnAccountSet::toggleClickedTwiceKeepsTheSavedSetting()
 {
     QFETCH(QString, key);
     QFETCH(QString, setting);
-    const SettingSpec *spec = nullptr;
+    const SettingSpec *viewSetting = nullptr;
     for (const SettingSpec *s : viewSettings) {
         if (QLatin1String(s->key) == setting)
-            spec = s;
+            viewSetting = s;
     }
-    QVERIFY(spec);
+    QVERIFY(viewSetting);
     // Stored the other way round from the default, so that a reset to defaults would show.
-    const bool stored = !spec->defaultValue.toBool();
-    SettingsStore::setValue(*spec, stored);
+    const bool stored = !viewSetting->defaultValue.toBool();
+    SettingsStore::setValue(*viewSetting, stored);
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
     HostFrame host;
     ICInitCtl control;
@@ -290,7 +290,7 @@ void TestCommandsOnAccountSet::toggleClickedTwiceKeepsTheSavedSetting()
     QCOMPARE(control.barList()->isChecked(key), stored);
     QCOMPARE(host.menuBarsReceived(), redraws + 2);
     control.NotifyMessage(QStringLiteral("QueryUnload"), {});
-    QCOMPARE(SettingsStore::boolValue(*spec), stored);
+    QCOMPARE(SettingsStore::boolValue(*viewSetting), stored);
 }
 
 void TestCommandsOnAccountSet::viewSettingsSurviveANewShow()

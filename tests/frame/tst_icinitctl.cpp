@@ -87,8 +87,8 @@ private slots:
         LoginContext::instance().reset();
         m_prompter.clear();
         useDemoStocks();
-        for (const SettingSpec *spec : {&Setting::ShowToolBar, &Setting::ShowStateBar, &Setting::ShowDefaultStock})
-            SettingsStore::setValue(*spec, spec->defaultValue);
+        for (const SettingSpec *setting : {&Setting::ShowToolBar, &Setting::ShowStateBar, &Setting::ShowDefaultStock})
+            SettingsStore::setValue(*setting, setting->defaultValue);
     }
 
     void treeKeysFollowTheWarehouseTable()
