@@ -81,17 +81,8 @@ QSqlDatabase connect(const AcctDbLocation &location)
     const QString name = connectionName(location);
     {
         QSqlDatabase db = QSqlDatabase::addDatabase(dialect.driverName(), name);
-        if (location.isPostgres()) {
-            db.setHostName(location.host());
-            db.setPort(location.port());
-            db.setDatabaseName(location.databaseName());
-            db.setUserName(location.userName());
-            db.setPassword(location.password());
-            db.setConnectOptions(PostgresConnectOptions);
-        } else {
-            db.setDatabaseName(location.filePath());
-            db.setConnectOptions(SqliteConnectOptions);
-        }
+        location.configure(db);
+        db.setConnectOptions(location.isPostgres() ? PostgresConnectOptions : SqliteConnectOptions);
         if (!db.open()) {
             const QString message = db.lastError().text();
             db = QSqlDatabase();

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSqlDatabase>
 #include <QUrl>
 #include <QUrlQuery>
 
@@ -78,4 +79,17 @@ QString AcctDbLocation::displayName() const
     if (!m_schema.isEmpty())
         name += QStringLiteral("?schema=") + m_schema;
     return name;
+}
+
+void AcctDbLocation::configure(QSqlDatabase &db) const
+{
+    if (isPostgres()) {
+        db.setHostName(m_host);
+        db.setPort(m_port);
+        db.setDatabaseName(m_databaseName);
+        db.setUserName(m_userName);
+        db.setPassword(m_password);
+    } else {
+        db.setDatabaseName(m_filePath);
+    }
 }

@@ -129,11 +129,7 @@ void TestSchema::migratesFromVersionOne()
         const AcctDbLocation location = AcctDbLocation::parse(scratch.acctDb());
         QSqlDatabase old =
             QSqlDatabase::addDatabase(DbDialect::of(location.backend()).driverName(), QStringLiteral("v1"));
-        old.setDatabaseName(location.isPostgres() ? location.databaseName() : location.filePath());
-        old.setHostName(location.host());
-        old.setPort(location.port());
-        old.setUserName(location.userName());
-        old.setPassword(location.password());
+        location.configure(old);
         QVERIFY(old.open());
         const DbDialect &dialect = DbDialect::of(old);
         SqlRun::execAll(old, dialect.sessionSetup(location));

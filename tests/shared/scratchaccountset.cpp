@@ -77,15 +77,7 @@ void ScratchAccountSet::createAtVersion(int version)
     const QString name = QStringLiteral("scratch-old-version");
     {
         QSqlDatabase db = QSqlDatabase::addDatabase(dialect.driverName(), name);
-        if (location.isPostgres()) {
-            db.setHostName(location.host());
-            db.setPort(location.port());
-            db.setDatabaseName(location.databaseName());
-            db.setUserName(location.userName());
-            db.setPassword(location.password());
-        } else {
-            db.setDatabaseName(location.filePath());
-        }
+        location.configure(db);
         QVERIFY2(db.open(), "the scratch database opens");
         SqlRun::execAll(db, dialect.createContainer(location));
         SqlRun::execAll(db, dialect.sessionSetup(location));
