@@ -24,6 +24,9 @@
 #include "queries/typelist.h"
 #include "services/lumomicinitialdata.h"
 
+#include "entry/numbertext.h"
+#include "entry/savescript.h"
+
 #include "frame/automation/dictionary.h"
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
@@ -32,7 +35,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QRegularExpression>
 #include <QSqlQuery>
 #include <QSqlRecord>
 
@@ -65,13 +67,6 @@ constexpr double ScriptTargetRatio = 3;
 const QString TreeTypes = QStringLiteral("(500,502,20291,20293)");
 const QString FirstGeneratedStock = QStringLiteral("90.001");
 const QString LineBreak = QStringLiteral("\r\n");
-// The entry grid's statement for a new item row, as it writes it.
-const QString InsertHead = QStringLiteral(
-    "Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo, "
-    "FYtdAuxBegQty,FYtdBegBal,FYtdBegDiff, FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff, "
-    "FYtdAuxSend,FYtdCredit,FYtdSendDiff, FAuxBegQty,FBegBal,FBegDiff, "
-    "FAuxUnitBegQty,FYtdAuxUnitBegQty,FYtdAuxUnitSend, "
-    "FYtdAuxUnitReceive,FStockInDate,FSecUnitID,FAuxPropID,FSecCoefficient,FFieldCompose) Values(");
 const QString RawInsert = QStringLiteral(
     "INSERT INTO ICInvInitial (FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo,FYtdAuxBegQty,FYtdBegBal,"
     "FYtdBegDiff,FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff,FYtdAuxSend,FYtdCredit,FYtdSendDiff,FAuxBegQty,FBegBal,"
@@ -135,26 +130,23 @@ QList<ScriptRow> scriptRows(const QList<int> &items)
     return rows;
 }
 
-QString number(double value)
-{
-    return QString::number(value, 'f', 10).remove(QRegularExpression(QStringLiteral("\\.?0+$")));
-}
-
 QString insertScript(const QList<ScriptRow> &rows)
 {
+    const auto figure = NumberText::sqlNumber;
     QString script;
     for (const ScriptRow &r : rows) {
         const QStringList values{QStringLiteral("'0'"), QString::number(Period), QString::number(ScriptStock),
                                  QStringLiteral("0"), QString::number(r.itemId), QStringLiteral("1"),
-                                 QStringLiteral("''"), number(r.start()), number(r.start() * r.price),
-                                 QStringLiteral("0"), number(r.received), number(r.received * r.price),
-                                 QStringLiteral("0"), number(r.issued), number(r.issued * r.price),
-                                 QStringLiteral("0"), number(r.opening), number(r.opening * r.price),
+                                 QStringLiteral("''"), figure(r.start()), figure(r.start() * r.price),
+                                 QStringLiteral("0"), figure(r.received), figure(r.received * r.price),
+                                 QStringLiteral("0"), figure(r.issued), figure(r.issued * r.price),
+                                 QStringLiteral("0"), figure(r.opening), figure(r.opening * r.price),
                                  QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("0"),
                                  QStringLiteral("0"), QStringLiteral("'2024-04-01'"), QStringLiteral("0"),
                                  QStringLiteral("0"), QStringLiteral("0"),
                                  QLatin1Char('\'') + r.compose() + QLatin1Char('\'')};
-        script += InsertHead + values.join(QLatin1Char(',')) + QLatin1Char(')') + LineBreak;
+        // The entry grid's statement for a new item row, as it writes it.
+        script += SaveScript::itemInsertHead() + values.join(QLatin1Char(',')) + QLatin1Char(')') + LineBreak;
     }
     return script;
 }

@@ -49,7 +49,7 @@ QString insertStatement(const ICInitStruct &r)
     values += insertFigures(r);
     values += {SaveScript::quoted(r.StockInDate), whole(r.SecUnitID), whole(r.AuxPropID), figure(r.SecCoefficient),
                SaveScript::quoted(r.composedKey())};
-    return InsertHead + values.join(u',') + u')';
+    return SaveScript::itemInsertHead() + values.join(u',') + u')';
 }
 
 QString updateStatement(const ICInitStruct &r)
@@ -120,6 +120,11 @@ QString build(const QList<const ICInitStruct *> &changed, const QStringList &del
         script += (isNew ? insertStatement(*record) : updateStatement(*record)) + Msg::LineBreak;
     }
     return script;
+}
+
+const QString &itemInsertHead()
+{
+    return InsertHead;
 }
 
 QString systemProfileUpdate(qint64 iniBillInterId)

@@ -23,6 +23,10 @@ namespace SaveScript {
 LUMOICINITIAL_EXPORT QString build(const QList<const ICInitStruct *> &changed, const QStringList &deleted,
                                    const EntryPlace &place, qint32 period);
 
+// The insert of a new item row up to its "Values(": the values follow in the order of its column
+// list, then ")".
+LUMOICINITIAL_EXPORT const QString &itemInsertHead();
+
 // Writes the record counter INIBillInterID back to the system profile (one statement, CR LF).
 LUMOICINITIAL_EXPORT QString systemProfileUpdate(qint64 iniBillInterId);
 
