@@ -28,7 +28,6 @@
 #include "frame/automation/dictionary.h"
 #include "frame/automation/dispatch.h"
 #include "frame/automation/objectownership.h"
-#include "frame/automation/pelmreg.h"
 #include "frame/automation/recordset.h"
 
 #include "grid/bulkupdate.h"
@@ -40,7 +39,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <chrono>
@@ -139,14 +137,6 @@ int gridFill(const QString &acctDb, int rows)
 
 int edit(const QString &acctDb, int rows)
 {
-    QTemporaryDir install;
-    QDir(install.path()).mkpath(QStringLiteral("Common"));
-    QFile scheme(QDir(install.path()).filePath(QStringLiteral("Common/LumoBaseScheme.ini")));
-    if (!scheme.open(QIODevice::WriteOnly))
-        return 1;
-    scheme.write("[Version]\nAppType=2\nHangYeType=0\n");
-    scheme.close();
-    qputenv(PelmReg::InstallPathEnv, install.path().toLocal8Bit());
     ScriptedPrompter prompter;
     ScopedPrompter scoped(&prompter);
     publishLogin(propsString(acctDb));

@@ -19,7 +19,6 @@
 #include "frame/sysparams.h"
 
 #include "frame/automation/componentregistry.h"
-#include "frame/automation/pelmreg.h"
 
 #include "services/lumomicinitialdata.h"
 
@@ -29,12 +28,9 @@
 
 #include <QApplication>
 #include <QDate>
-#include <QDir>
-#include <QFile>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -83,7 +79,6 @@ class TestEntryControl : public QObject
     Q_OBJECT
 
 private:
-    QTemporaryDir m_install;
     ScriptedPrompter m_prompter;
     std::unique_ptr<ScratchAccountSet> m_set;
     std::unique_ptr<ICInitCtl> m_control;
@@ -208,12 +203,6 @@ private slots:
     {
         QStandardPaths::setTestModeEnabled(true);
         Prompter::install(&m_prompter);
-        QDir(m_install.path()).mkpath(QStringLiteral("Common"));
-        QFile scheme(QDir(m_install.path()).filePath(QStringLiteral("Common/LumoBaseScheme.ini")));
-        QVERIFY(scheme.open(QIODevice::WriteOnly));
-        scheme.write("[Version]\nAppType=2\nHangYeType=0\n");
-        scheme.close();
-        qputenv(PelmReg::InstallPathEnv, m_install.path().toLocal8Bit());
         ComponentRegistry::instance().registerClass(DataProgId, [] { return new CountingInitialData; });
     }
 
