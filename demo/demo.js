@@ -5,9 +5,6 @@
 //   05 the batch dialog of a batch item     06 the stock place with its "总计" row
 include("suite.js");
 
-const Col = { Number: 3, Name: 4, Batch: 11, YtdBegQty: 12, YtdBegBal: 14, BegQty: 24, BegBal: 26 };
-const BatCol = { BatchNo: 1, YtdBegQty: 2, YtdBegBal: 4, BegQty: 14, BegBal: 16 };
-
 const control = host.openControl("LumoICInitialCtl.ICInitCtl");
 const tree = control.Controls.tvICInit;
 const grid = control.Controls.vsICInit;
@@ -57,7 +54,7 @@ host.onNextDialog(function (dialog) {
     dialog.pressButton("Exit");
 });
 check(grid.clickCellButton(steel, Col.Batch), "the batch cell opens the dialog");
-const totals = rowWithText(grid, Col.Number, "总计");
+const totals = rowWithText(grid, Col.Number, GrandTotal);
 print("A区货架 总计：期初金额 " + grid.TextMatrix(totals, Col.BegBal));
 host.screenshot("out/06-totals.png");
 

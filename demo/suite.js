@@ -1,6 +1,12 @@
 // Helpers that suite scripts include (`include("suite.js")`): checks that end the run with what
 // was expected, and ways to find a node or a row by what a person reads on the screen.
-// Declared as functions so that they land in the global scope of the including script.
+// Declared as functions and vars so that they land in the global scope of the including script.
+
+// The entry grid's and the batch dialog's columns the scripts read and type into, and the text of
+// the grand-total row.
+var Col = { Number: 3, Name: 4, Unit: 6, Batch: 11, YtdBegQty: 12, YtdBegBal: 14, BegQty: 24, BegBal: 26 };
+var BatCol = { BatchNo: 1, YtdBegQty: 2, YtdBegBal: 4, BegQty: 14, BegBal: 16 };
+var GrandTotal = "总计";
 
 function check(condition, what) {
     if (!condition)

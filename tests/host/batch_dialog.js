@@ -3,8 +3,6 @@
 // lines are saved, and the item row of the entry grid shows their sums above the "总计" row.
 include("../../demo/suite.js");
 
-const Col = { Number: 3, Name: 4, Batch: 11, YtdBegQty: 12, YtdBegBal: 14, BegQty: 24, BegBal: 26 };
-const BatCol = { BatchNo: 1, YtdBegQty: 2, YtdBegBal: 4, BegQty: 14, BegBal: 16 };
 const batches = [["B2501", "3000"], ["B2502", "2000"], ["B2503", "1000"]];
 // 26,000.00 over 6,000 units: 13,000.00 and 8,666.67 rounded, the residue on the last batch.
 const apportioned = ["13,000.00", "8,666.67", "4,333.33"];
@@ -75,7 +73,7 @@ expectEqual(grid.TextMatrix(reloaded, Col.YtdBegQty), "6,000.00", "year-start qu
 expectEqual(grid.TextMatrix(reloaded, Col.YtdBegBal), "26,000.00", "year-start amount of the item row");
 expectEqual(grid.TextMatrix(reloaded, Col.BegQty), "6,000.00", "opening quantity of the item row");
 expectEqual(grid.TextMatrix(reloaded, Col.BegBal), "26,000.00", "opening amount of the item row");
-const totals = rowWithText(grid, Col.Number, "总计");
+const totals = rowWithText(grid, Col.Number, GrandTotal);
 check(totals > reloaded, "the totals row follows the item rows");
 let expected = 0;
 for (let row = 1; row < totals; ++row)

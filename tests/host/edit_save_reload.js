@@ -3,9 +3,6 @@
 // after a reload the figures are read back from the grid with their totals row.
 include("../../demo/suite.js");
 
-const Col = { Number: 3, Name: 4, Unit: 6, YtdBegQty: 12, YtdBegBal: 14, BegQty: 24, BegBal: 26 };
-const Totals = "总计";
-
 const control = host.openControl("LumoICInitialCtl.ICInitCtl");
 const tree = control.Controls.tvICInit;
 const grid = control.Controls.vsICInit;
@@ -15,7 +12,7 @@ tree.clickNode(nodeByText(tree, "半成品仓"));
 const housing = rowWithText(grid, Col.Number, "2.01.001");
 check(housing > 0, "the motor housing row is loaded");
 expectEqual(grid.TextMatrix(housing, Col.BegBal), "72,000.00", "opening amount with thousands separator");
-const totalsBefore = rowWithText(grid, Col.Number, Totals);
+const totalsBefore = rowWithText(grid, Col.Number, GrandTotal);
 check(totalsBefore > housing, "the totals row follows the item rows");
 const sumBefore = grid.number(totalsBefore, Col.BegBal);
 check(!bars.isEnabled("Save"), "nothing to save after loading");
@@ -58,7 +55,7 @@ const changed = rowWithText(grid, Col.Number, "2.01.001");
 expectEqual(grid.TextMatrix(changed, Col.BegQty), "420.00", "changed opening quantity");
 expectEqual(grid.TextMatrix(changed, Col.BegBal), "75,600.00", "changed opening amount");
 
-const totals = rowWithText(grid, Col.Number, Totals);
+const totals = rowWithText(grid, Col.Number, GrandTotal);
 check(totals > newRow && totals > changed, "the totals row is last");
 expectEqual(grid.number(totals, Col.BegBal), sumBefore + 1200 + (75600 - 72000), "the totals row adds the edits");
 check(/^\d{1,3}(,\d{3})*\.\d{2}$/.test(grid.TextMatrix(totals, Col.BegBal)), "the total reads with separators and two decimals");
