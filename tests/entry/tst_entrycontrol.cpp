@@ -2,6 +2,7 @@
 // driven through its public members and child controls, with a scripted prompter answering its
 // questions. Every case checks what reached the database beside what the widgets show.
 
+#include "demo/democompany.h"
 #include "privatesettings.h"
 #include "scratchaccountset.h"
 #include "servicecalls.h"
@@ -36,7 +37,7 @@
 namespace {
 
 // The demo company's ids (see DemoCompany).
-constexpr int DemoPeriod = 4;
+constexpr int DemoPeriod = DemoCompany::CurrentPeriod;
 constexpr int RawMaterials = 1;
 constexpr int SemiFinished = 2;
 constexpr int FinishedTwo = 5;

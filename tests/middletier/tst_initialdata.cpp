@@ -5,6 +5,7 @@
 
 #include "db/placetotals.h"
 #include "db/sqlrun.h"
+#include "demo/democompany.h"
 #include "queries/dataerrors.h"
 #include "queries/itemrowfields.h"
 #include "services/progids.h"
@@ -26,7 +27,7 @@ namespace {
 // the property 红色/S, 铜线, 铝型材, 润滑油, 螺钉, 螺母. Rows of another period and of a stock
 // place of the same warehouse are there to be left out.
 constexpr int Stock = 70;
-constexpr int Period = 4;
+constexpr int Period = DemoCompany::CurrentPeriod;
 constexpr int OtherPlace = 9;
 constexpr int SteelPlate = 1;
 constexpr int RoundSteel = 2;

@@ -4,6 +4,7 @@
 #include "servicecalls.h"
 
 #include "db/sqlrun.h"
+#include "demo/democompany.h"
 #include "queries/dataerrors.h"
 #include "services/progids.h"
 
@@ -17,7 +18,7 @@ using namespace ServiceCalls;
 
 namespace {
 
-constexpr int Period = 4;
+constexpr int Period = DemoCompany::CurrentPeriod;
 constexpr int RawMaterialAcct = 1;
 constexpr int GoodsAcct = 3;
 constexpr int SuppliesAcct = 5;
