@@ -119,8 +119,16 @@ const QVector<QString> &nodeDependentKeys()
 
 const QVector<QString> &reconciliationKeys()
 {
-    static const QVector<QString> keys{QStringLiteral("mcVCheck"), QStringLiteral("Check"),
-                                       QStringLiteral("mcVBalance"), QStringLiteral("Balance"),
-                                       EntryKeys::Transfer};
+    static const QVector<QString> keys = [] {
+        QVector<QString> found;
+        for (const EntryCommandSpec &declared : entryCommandTable()) {
+            if (declared.command != C::Check && declared.command != C::Balance && declared.command != C::Transfer)
+                continue;
+            for (const char *menuKey : declared.menuKeys)
+                found.append(QString::fromLatin1(menuKey));
+            found.append(QString::fromLatin1(declared.toolKey));
+        }
+        return found;
+    }();
     return keys;
 }

@@ -37,7 +37,6 @@ inline const QString ToolBarLabel = QStringLiteral("mcWTBLable");
 inline const QString StatusBar = QStringLiteral("mcWStatusBar");
 inline const QString DefaultStock = QStringLiteral("mcEDefault");
 inline const QString AutoRefresh = QStringLiteral("mcVSRefresh");
-inline const QString Transfer = QStringLiteral("Transfer");
 inline const QString Separator2 = QStringLiteral("SP2");
 inline const QString Separator3 = QStringLiteral("SP3");
 } // namespace EntryKeys

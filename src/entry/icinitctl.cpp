@@ -359,10 +359,10 @@ void ICInitCtl::tvICInit_NodeClick(const QString &key)
         m_currentNode = index;
         loadRows(1);
         // The selector beside the tree names the warehouse on screen (none at the root).
-        if (m_mode == Mode::Entry)
+        if (m_mode == Mode::Entry) {
             m_stockBox->setCurrentIndex(m_stockBox->findData(index));
-        if (m_mode == Mode::Entry)
             setNodeCommandsVisible(m_stocks.at(index).isStockMgr == 0);
+        }
         barList()->setEnabled(EntryKeys::Save, false);
         barList()->setEnabled(EntryKeys::FSave, false);
         RefreshToolbar();
