@@ -120,9 +120,7 @@ script::BoundSql InitialDataSql::totals() const
     }
     // An item-level condition holds for all rows of a group or for none, so the sums over the
     // selected rows are the sums over the selected groups.
-    const QString joins = m_applied.where.isEmpty()
-                              ? QString()
-                              : QStringLiteral(" JOIN t_ICItem i ON i.FItemID=v.FItemID ") + ItemLevelJoins;
+    const QString joins = QStringLiteral(" JOIN t_ICItem i ON i.FItemID=v.FItemID ") + ItemLevelJoins;
     const QString rows = QStringLiteral("FROM ICInvInitial v%1 WHERE %2%3")
                              .arg(joins, PlaceCondition, andCondition(m_applied.where));
     sql.sql = QStringLiteral("SELECT (SELECT count(*) FROM (SELECT DISTINCT v.FItemID, v.FAuxPropID %1) d), %2 %1")
