@@ -9,8 +9,10 @@ BIN = $(BUILD)/bin
 deps:
 	@scripts/install-deps
 
+# ccache keeps compiled objects across clean builds and work trees.
 $(BUILD)/build.ninja: | deps
-	cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE)
+	cmake -S . -B $(BUILD) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE) \
+	  $(if $(shell command -v ccache),-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
 
 configure: $(BUILD)/build.ninja
 

@@ -1,4 +1,5 @@
 #include "accountsession.h"
+#include "frame/automation/progids.h"
 
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dispatch.h"
@@ -58,7 +59,7 @@ bool ensureDemoAccountSet(const QString &path, QString *error)
 bool logIn(const QString &accountSet, const QString &userName, AccountSession *session, QString *error)
 {
     try {
-        const std::unique_ptr<QObject> glData = CreateObject(QStringLiteral("LumoEBCGLView.GLData"));
+        const std::unique_ptr<QObject> glData = CreateObject(ProgId::GLData);
         const int userId = Dispatch::call(glData.get(), LoginMember, {accountSet, userName}).toInt();
         *session = AccountSession{accountSet, userName, userId};
         return true;
@@ -70,7 +71,7 @@ bool logIn(const QString &accountSet, const QString &userName, AccountSession *s
 
 void publish(const AccountSession &session)
 {
-    const std::unique_ptr<QObject> share = CreateObject(QStringLiteral("LumoPropsMgr.ShareProps"));
+    const std::unique_ptr<QObject> share = CreateObject(ProgId::ShareProps);
     Dispatch::call(share.get(), QStringLiteral("SetProperty"),
                    {qint32(QCoreApplication::applicationPid()), QStringLiteral("PropsString"), session.propsString()});
 }

@@ -1,4 +1,5 @@
 #include "accountsession.h"
+#include "frame/automation/progids.h"
 #include "logindialog.h"
 #include "scripthost.h"
 #include "suitewindow.h"
@@ -13,7 +14,6 @@
 namespace {
 
 const QString DefaultUser = QStringLiteral("演示员");
-const QString EntryControl = QStringLiteral("LumoICInitialCtl.ICInitCtl");
 
 void fail(const QString &message)
 {
@@ -88,6 +88,6 @@ int main(int argc, char **argv)
         return runScript(parser.value(script), suite);
     }
     suite.show();
-    suite.openControl(parser.value(open).isEmpty() ? EntryControl : parser.value(open));
+    suite.openControl(parser.value(open).isEmpty() ? QString(ProgId::ICInitCtl) : parser.value(open));
     return app.exec();
 }

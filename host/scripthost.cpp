@@ -1,4 +1,5 @@
 #include "scripthost.h"
+#include "frame/automation/progids.h"
 
 #include "controlframe.h"
 #include "suitewindow.h"
@@ -283,7 +284,7 @@ void ScriptHost::exit(int code)
 QString ScriptHost::propsString() const
 {
     try {
-        const std::unique_ptr<QObject> share = CreateObject(QStringLiteral("LumoPropsMgr.ShareProps"));
+        const std::unique_ptr<QObject> share = CreateObject(ProgId::ShareProps);
         return Dispatch::call(share.get(), QStringLiteral("GetProperty"),
                               {qint32(QCoreApplication::applicationPid()), QStringLiteral("PropsString")})
             .toString();

@@ -1,4 +1,5 @@
 #include "suitewindow.h"
+#include "frame/automation/progids.h"
 
 #include "controlframe.h"
 #include "hostwindow.h"
@@ -24,12 +25,12 @@ namespace {
 struct SuiteControl
 {
     const char *caption;
-    const char *progId;
+    QLatin1StringView progId;
 };
 
 const SuiteControl suiteControls[] = {
-    {"存货初始数据录入", "LumoICInitialCtl.ICInitCtl"},
-    {"期初成本调整", "LumoICInitialCtl.ICInitAdjCtl"},
+    {"存货初始数据录入", ProgId::ICInitCtl},
+    {"期初成本调整", ProgId::ICInitAdjCtl},
 };
 
 } // namespace
@@ -64,7 +65,7 @@ void SuiteWindow::buildSuiteMenu()
 {
     QMenu *system = menuBar()->addMenu(QStringLiteral("系统(&S)"));
     for (const SuiteControl &control : suiteControls) {
-        const QString progId = QString::fromLatin1(control.progId);
+        const QString progId = control.progId;
         system->addAction(QString::fromUtf8(control.caption), this, [this, progId] { openControl(progId); });
     }
     system->addSeparator();
@@ -86,7 +87,7 @@ QWidget *SuiteWindow::openControl(const QString &progId)
     }
     QString caption = progId;
     for (const SuiteControl &c : suiteControls) {
-        if (progId.compare(QLatin1String(c.progId), Qt::CaseInsensitive) == 0)
+        if (progId.compare(c.progId, Qt::CaseInsensitive) == 0)
             caption = QString::fromUtf8(c.caption);
     }
     auto *frame = new ControlFrame(control, caption);

@@ -5,7 +5,7 @@
 #include "services/lumomicinitialdataadj.h"
 #include "services/lumonetcontrolmutex.h"
 #include "services/lumopropsmgrshareprops.h"
-#include "services/progids.h"
+#include "frame/automation/progids.h"
 #include "services/qllogmsglog.h"
 
 #include "frame/automation/componentregistry.h"

@@ -29,6 +29,7 @@
 #include "frame/automation/dispatch.h"
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
+#include "frame/automation/progids.h"
 
 #include "grid/bulkupdate.h"
 #include "grid/cellmodel.h"
@@ -82,7 +83,7 @@ void publishLogin(const QString &props)
 // One page of the volume warehouse's item rows, as the control asks the data service for it.
 std::unique_ptr<Recordset> fetchItemRows(const QString &acctDb, int rows)
 {
-    const std::unique_ptr<QObject> data = CreateObject(DataProgId);
+    const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
     const std::unique_ptr<Dictionary> page = takeObject<Dictionary>(Dispatch::call(
         data.get(), QStringLiteral("FetchYtdInitialData"),
         {propsString(acctDb), VolumeStock, 0, DemoCompany::CurrentPeriod, rows, 1, QString(), QString(), QString(),

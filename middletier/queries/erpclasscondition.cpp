@@ -1,4 +1,5 @@
 #include "erpclasscondition.h"
+#include "frame/automation/progids.h"
 
 #include "dataerrors.h"
 
@@ -14,7 +15,7 @@ const QRegularExpression ListItem(QStringLiteral(R"(^\s*\d{1,9}\s*$)"));
 [[noreturn]] void refuse(const QString &text)
 {
     throw LumoError(DataError::BadErpClassCondition, DataError::BadErpClassConditionText.arg(text),
-                    QStringLiteral("LumoEBCGLView.GLData"));
+                    ProgId::GLData);
 }
 
 } // namespace

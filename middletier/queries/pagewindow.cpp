@@ -1,4 +1,5 @@
 #include "pagewindow.h"
+#include "frame/automation/progids.h"
 
 #include "dataerrors.h"
 
@@ -8,7 +9,7 @@ PageWindow::PageWindow(int pageSize, int pageIndex)
 {
     if (pageSize < 1 || pageIndex < 1)
         throw LumoError(DataError::BadPage, DataError::BadPageText.arg(pageSize).arg(pageIndex),
-                        QStringLiteral("LumoMICInitial.Data"));
+                        ProgId::MICInitialData);
 }
 
 int PageWindow::totalPages(qint64 recordCount) const

@@ -9,6 +9,7 @@
 
 #include "frame/automation/lumoerror.h"
 #include "frame/automation/recordset.h"
+#include "frame/automation/progids.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -63,9 +64,9 @@ bool ICInitAdjCtl::Show(QObject *ParentWnd, bool blnIstest)
                 return false;
             bindHost(ParentWnd);
         }
-        LoadSysParams(DataAdjProgId);
+        LoadSysParams(ProgId::MICInitialDataAdj);
         LibraryState::instance().periodOpen = !SysParams::toBool(SysParam::ICClosed);
-        m_units = FetchMeasureUnits(DataAdjProgId);
+        m_units = FetchMeasureUnits(ProgId::MICInitialDataAdj);
         loadViewSettings();
     } catch (const LumoError &error) {
         reportProcedureError(QStringLiteral("Show"), error);

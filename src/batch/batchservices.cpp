@@ -9,12 +9,12 @@
 #include "frame/automation/lumoerror.h"
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
+#include "frame/automation/progids.h"
 
 #include <QStringList>
 
 namespace {
 
-const QString AppConnectionProgId = QStringLiteral("LumoConnection.AppConnection");
 const QString ExecuteMember = QStringLiteral("Execute");
 const QString FetchDetailMember = QStringLiteral("FetchYtdBatManDetail");
 const QString UpdateMember = QStringLiteral("UpdateINIData");
@@ -42,7 +42,7 @@ QString coefficientSql(qint32 itemId, qint32 unitId, qint32 secUnitId)
 
 UnitCoefficients fetchCoefficients(qint32 itemId, qint32 unitId, qint32 secUnitId)
 {
-    const std::unique_ptr<QObject> connection = CreateObject(AppConnectionProgId);
+    const std::unique_ptr<QObject> connection = CreateObject(ProgId::AppConnection);
     const auto rs = takeObject<Recordset>(
         Dispatch::call(connection.get(), ExecuteMember, {coefficientSql(itemId, unitId, secUnitId)}));
     if (!rs || rs->atEnd())
@@ -57,7 +57,7 @@ int fetchAmountScale()
 
 std::unique_ptr<Recordset> fetchDetail(const DetailQuery &query)
 {
-    const std::unique_ptr<QObject> data = CreateObject(DataProgId);
+    const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
     auto rs = takeObject<Recordset>(Dispatch::call(
         data.get(), FetchDetailMember,
         {GetPropsString(), query.period, query.stockId, query.spId, query.itemId, query.auxPropId, query.unitId,
@@ -69,7 +69,7 @@ std::unique_ptr<Recordset> fetchDetail(const DetailQuery &query)
 
 void updateINIData(const QString &script)
 {
-    const std::unique_ptr<QObject> data = CreateObject(DataProgId);
+    const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
     Dispatch::call(data.get(), UpdateMember, {GetPropsString(), script});
 }
 

@@ -11,65 +11,76 @@ const char *const ViewMenu = "查看(&V)";
 const char *const WindowMenu = "窗口(&W)";
 
 using C = EntryCommand;
+constexpr unsigned Built = CommandFlag::Built;
+constexpr unsigned Entry = CommandFlag::EntryMode;
+constexpr unsigned Changes = CommandFlag::ChangesFigures;
+constexpr unsigned Rows = CommandFlag::NeedsRows;
+constexpr unsigned Node = CommandFlag::NodeDependent;
+constexpr unsigned Reconcile = CommandFlag::Reconciliation;
+constexpr unsigned Adjust = CommandFlag::AdjustmentOnly;
 
 } // namespace
 
+bool EntryCommandSpec::available(bool entryMode, bool initialisationOpen, bool rowsLoaded) const
+{
+    return has(CommandFlag::Built) && (entryMode || !has(CommandFlag::EntryMode))
+        && (initialisationOpen || !has(CommandFlag::ChangesFigures)) && (rowsLoaded || !has(CommandFlag::NeedsRows));
+}
+
 const QVector<EntryCommandSpec> &entryCommandTable()
 {
+    using namespace EntryKeys;
     static const QVector<EntryCommandSpec> table{
-        {C::Save, {"mcFSave"}, "Save", "保存", FileMenu, "Ctrl+S", false, "document-save"},
-        {C::Print, {"mcFPrint"}, "Print", "打印", FileMenu, "Ctrl+P", false, "document-print"},
-        {C::PrintPreview, {"mcFPrintPreview"}, "PrintPreView", "打印预览", FileMenu, "", false, "document-print-preview"},
-        {C::PrintSetup, {"mcFPrintSetup"}, "", "打印设置", FileMenu, "", false, ""},
-        {C::Import, {"mcFImport"}, "", "引入初始数据", FileMenu, "", false, ""},
-        {C::Export, {"mcFExport", "mcFExportByData"}, "", "引出初始数据", FileMenu, "", false, ""},
-        {C::OutAdjBill, {"mcFOutAdjBilll"}, "OutBill", "生成调整单", FileMenu, "", false, ""},
-        {C::StartBal, {"mcFStartBal"}, "Start", "启用金额核算", FileMenu, "", false, ""},
-        {C::Exit, {"mcExit"}, "Exit", "退出", FileMenu, "", false, "application-exit"},
-        {C::AddNew, {"mcEAddNew"}, "AddNew", "新增", EditMenu, "Ctrl+N", false, "list-add"},
-        {C::Delete, {"mcEDelete"}, "Delete", "删除", EditMenu, "Ctrl+Del", false, "list-remove"},
-        {C::Sum, {"mcESum"}, "Sum", "汇总", EditMenu, "", false, "x-office-spreadsheet"},
-        {C::DefaultStock, {"mcEDefault"}, "", "启动时打开默认仓库", EditMenu, "", true, ""},
-        {C::Find, {"mcEFind"}, "Find", "查找", EditMenu, "Ctrl+F", false, "edit-find"},
-        {C::Filter, {"mcEFilter"}, "Filter", "过滤", EditMenu, "", false, "view-filter"},
-        {C::Sort, {"mcESort"}, "Sort", "排序", EditMenu, "", false, "view-sort-ascending"},
-        {C::Calculator, {"mcECal"}, "", "计算器", EditMenu, "", false, "accessories-calculator"},
-        {C::Check, {"mcVCheck"}, "Check", "对账", ViewMenu, "", false, "view-list-details"},
-        {C::Balance, {"mcVBalance"}, "Balance", "试算平衡", ViewMenu, "", false, "view-statistics"},
-        {C::Transfer, {}, "Transfer", "传递", ViewMenu, "", false, "go-next"},
-        {C::Color, {"mcVColor"}, "Color", "颜色设置", ViewMenu, "", false, "preferences-desktop-color"},
-        {C::Search, {"mcVSearch", "mcVLookUp"}, "Search", "物料录入", ViewMenu, "F7", false, "system-search"},
-        {C::Refresh, {"mcVRefresh"}, "Refresh", "刷新", ViewMenu, "F5", false, "view-refresh"},
-        {C::OrgWidth, {"mcVOrgWidth"}, "", "恢复默认列宽", ViewMenu, "", false, ""},
-        {C::Tree, {"mcVTree"}, "TreeView", "仓库树", ViewMenu, "", false, "view-list-tree"},
-        {C::AutoRefresh, {"mcVSRefresh"}, "", "自动刷新", ViewMenu, "", true, ""},
-        {C::ToolBar, {"mcWToolBar"}, "", "工具栏", WindowMenu, "", true, ""},
-        {C::ToolBarLabel, {"mcWTBLable"}, "", "工具栏标签", WindowMenu, "", true, ""},
-        {C::StatusBar, {"mcWStatusBar"}, "", "状态栏", WindowMenu, "", true, ""},
+        {C::Save, {FSave}, Save, "保存", FileMenu, "Ctrl+S", false, "document-save", Built | Entry | Changes | Node},
+        {C::Print, {FPrint}, Print, "打印", FileMenu, "Ctrl+P", false, "document-print", 0},
+        {C::PrintPreview, {FPrintPreview}, PrintPreview, "打印预览", FileMenu, "", false, "document-print-preview", 0},
+        {C::PrintSetup, {FPrintSetup}, {}, "打印设置", FileMenu, "", false, "", 0},
+        {C::Import, {FImport}, {}, "引入初始数据", FileMenu, "", false, "", Node},
+        {C::Export, {FExport, FExportByData}, {}, "引出初始数据", FileMenu, "", false, "", 0},
+        {C::OutAdjBill, {FOutAdjBill}, OutBill, "生成调整单", FileMenu, "", false, "", Adjust},
+        {C::StartBal, {FStartBal}, Start, "启用金额核算", FileMenu, "", false, "", Adjust},
+        {C::Exit, {Exit}, ExitButton, "退出", FileMenu, "", false, "application-exit", Built},
+        {C::AddNew, {EAddNew}, AddNew, "新增", EditMenu, "Ctrl+N", false, "list-add", Built | Entry | Changes | Node},
+        {C::Delete, {EDelete}, Delete, "删除", EditMenu, "Ctrl+Del", false, "list-remove", Built | Entry | Changes | Node},
+        {C::Sum, {ESum}, Sum, "汇总", EditMenu, "", false, "x-office-spreadsheet", Built | Entry | Node},
+        {C::DefaultStock, {DefaultStock}, {}, "启动时打开默认仓库", EditMenu, "", true, "", Built | Node},
+        {C::Find, {EFind}, Find, "查找", EditMenu, "Ctrl+F", false, "edit-find", Entry | Rows},
+        {C::Filter, {EFilter}, Filter, "过滤", EditMenu, "", false, "view-filter", 0},
+        {C::Sort, {ESort}, Sort, "排序", EditMenu, "", false, "view-sort-ascending", 0},
+        {C::Calculator, {ECal}, {}, "计算器", EditMenu, "", false, "accessories-calculator", Node},
+        {C::Check, {VCheck}, Check, "对账", ViewMenu, "", false, "view-list-details", Reconcile},
+        {C::Balance, {VBalance}, Balance, "试算平衡", ViewMenu, "", false, "view-statistics", Reconcile | Node},
+        {C::Transfer, {}, Transfer, "传递", ViewMenu, "", false, "go-next", Reconcile},
+        {C::Color, {VColor}, Color, "颜色设置", ViewMenu, "", false, "preferences-desktop-color", 0},
+        {C::Search, {VSearch, VLookUp}, Search, "物料录入", ViewMenu, "F7", false, "system-search", Node},
+        {C::Refresh, {VRefresh}, Refresh, "刷新", ViewMenu, "F5", false, "view-refresh", Built},
+        {C::OrgWidth, {OrgWidth}, {}, "恢复默认列宽", ViewMenu, "", false, "", Built},
+        {C::Tree, {VTree}, TreeView, "仓库树", ViewMenu, "", false, "view-list-tree", Built},
+        {C::AutoRefresh, {AutoRefresh}, {}, "自动刷新", ViewMenu, "", true, "", Built},
+        {C::ToolBar, {ToolBar}, {}, "工具栏", WindowMenu, "", true, "", Built},
+        {C::ToolBarLabel, {ToolBarLabel}, {}, "工具栏标签", WindowMenu, "", true, "", Built},
+        {C::StatusBar, {StatusBar}, {}, "状态栏", WindowMenu, "", true, "", Built},
     };
     return table;
 }
 
-bool entryCommandForKey(const QString &key, EntryCommand *command)
+const EntryCommandSpec *entryCommandForKey(const QString &key)
 {
+    if (key.isEmpty())
+        return nullptr;
     for (const EntryCommandSpec &declared : entryCommandTable()) {
-        bool match = key == QLatin1String(declared.toolKey);
-        for (const char *menuKey : declared.menuKeys)
-            match = match || key == QLatin1String(menuKey);
-        if (match && !key.isEmpty()) {
-            *command = declared.command;
-            return true;
-        }
+        if (key == declared.toolKey || declared.menuKeys.contains(key))
+            return &declared;
     }
-    return false;
+    return nullptr;
 }
 
 void fillEntryBarList(BarList &bars)
 {
     for (const EntryCommandSpec &declared : entryCommandTable()) {
-        for (const char *menuKey : declared.menuKeys) {
+        for (const QString &menuKey : declared.menuKeys) {
             BarList::Item item;
-            item.key = QString::fromLatin1(menuKey);
+            item.key = menuKey;
             item.kind = BarList::ItemKind::MenuItem;
             item.caption = ResString(QString::fromUtf8(declared.caption));
             item.menu = ResString(QString::fromUtf8(declared.menu));
@@ -94,41 +105,26 @@ void fillEntryBarList(BarList &bars)
     };
     // Toolbar order: file, then entry, then view commands, with the two separators between.
     for (const EntryCommandSpec &declared : entryCommandTable()) {
-        if (QLatin1String(declared.toolKey).isEmpty())
+        if (declared.toolKey.isEmpty())
             continue;
         if (declared.command == EntryCommand::AddNew)
             addSeparator(EntryKeys::Separator2);
         if (declared.command == EntryCommand::Check)
             addSeparator(EntryKeys::Separator3);
-        addButton(QString::fromLatin1(declared.toolKey), ResString(QString::fromUtf8(declared.caption)),
+        addButton(declared.toolKey, ResString(QString::fromUtf8(declared.caption)),
                   QString::fromLatin1(declared.iconName));
     }
 }
 
-const QVector<QString> &nodeDependentKeys()
+QVector<QString> commandKeys(unsigned flag)
 {
-    static const QVector<QString> keys{
-        QStringLiteral("mcVBalance"), QStringLiteral("mcEAddNew"), QStringLiteral("mcEDelete"),
-        QStringLiteral("mcFSave"), QStringLiteral("mcFImport"), QStringLiteral("mcVSearch"),
-        QStringLiteral("mcVLookUp"), QStringLiteral("mcESum"), QStringLiteral("mcEDefault"),
-        QStringLiteral("mcECal"), QStringLiteral("Balance"), QStringLiteral("AddNew"), QStringLiteral("Delete"),
-        QStringLiteral("Save"), QStringLiteral("Search"), QStringLiteral("Sum"), EntryKeys::Separator2,
-        EntryKeys::Separator3};
-    return keys;
-}
-
-const QVector<QString> &reconciliationKeys()
-{
-    static const QVector<QString> keys = [] {
-        QVector<QString> found;
-        for (const EntryCommandSpec &declared : entryCommandTable()) {
-            if (declared.command != C::Check && declared.command != C::Balance && declared.command != C::Transfer)
-                continue;
-            for (const char *menuKey : declared.menuKeys)
-                found.append(QString::fromLatin1(menuKey));
-            found.append(QString::fromLatin1(declared.toolKey));
-        }
-        return found;
-    }();
+    QVector<QString> keys;
+    for (const EntryCommandSpec &declared : entryCommandTable()) {
+        if (!declared.has(flag))
+            continue;
+        keys += declared.menuKeys;
+        if (!declared.toolKey.isEmpty())
+            keys.append(declared.toolKey);
+    }
     return keys;
 }

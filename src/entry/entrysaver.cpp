@@ -16,6 +16,7 @@
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dictionary.h"
 #include "frame/automation/dispatch.h"
+#include "frame/automation/progids.h"
 
 #include "grid/bulkupdate.h"
 #include "grid/cellmodel.h"
@@ -88,7 +89,7 @@ EntrySaver::Outcome EntrySaver::save()
                                              SysParams::toInt(SysParam::CurrentPeriod));
     m_changes.clear();
     {
-        const std::unique_ptr<QObject> data = CreateObject(DataProgId);
+        const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
         Dispatch::call(data.get(), QStringLiteral("UpdateINIData"), {GetPropsString(), script});
     }
     markSaved();
@@ -96,7 +97,7 @@ EntrySaver::Outcome EntrySaver::save()
     // The record counter numbered by the batch dialogs goes back to the system profile.
     const qint64 held = LibraryState::instance().iniBillInterId;
     if (held != SysParams::toInt(SysParam::INIBillInterID)) {
-        const std::unique_ptr<QObject> data = CreateObject(DataProgId);
+        const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
         Dispatch::call(data.get(), QStringLiteral("UpdateINIData"),
                        {GetPropsString(), SaveScript::systemProfileUpdate(held)});
         SysParams::current()->setItem(SysParam::INIBillInterID, held);

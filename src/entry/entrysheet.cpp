@@ -12,6 +12,7 @@
 #include "frame/automation/lumoerror.h"
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
+#include "frame/automation/progids.h"
 
 #include "grid/bulkupdate.h"
 #include "grid/cellmodel.h"
@@ -56,7 +57,7 @@ int EntrySheet::qtyDecimal() const
 
 std::unique_ptr<QObject> EntrySheet::dataService() const
 {
-    return CreateObject(DataProgId);
+    return CreateObject(ProgId::MICInitialData);
 }
 
 void EntrySheet::clear()

@@ -25,6 +25,7 @@
 #include "frame/automation/lumoerror.h"
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
+#include "frame/automation/progids.h"
 
 #include "grid/cellmodel.h"
 #include "grid/spreadconsole.h"
@@ -42,24 +43,6 @@ namespace {
 constexpr int AppTypeStock = 2;
 const QString NodeClickLog = QStringLiteral("LumoICInitialCtl.ICInitCtl.tvICInit_NodeClick 显示初始化录入界面");
 
-// Whether a command can run: it needs a procedure in this build, the entry commands need entry
-// mode, and the commands that change figures need initialisation to be open.
-bool isAvailable(EntryCommand command, bool entryMode, bool initialisationOpen)
-{
-    switch (command) {
-    case EntryCommand::Exit: case EntryCommand::Refresh: case EntryCommand::Tree: case EntryCommand::OrgWidth:
-    case EntryCommand::AutoRefresh: case EntryCommand::ToolBar: case EntryCommand::ToolBarLabel:
-    case EntryCommand::StatusBar: case EntryCommand::DefaultStock:
-        return true;
-    case EntryCommand::Sum:
-        return entryMode;
-    case EntryCommand::Save: case EntryCommand::AddNew: case EntryCommand::Delete:
-        return entryMode && initialisationOpen;
-    default:
-        return false;
-    }
-}
-
 } // namespace
 
 ICInitCtl::ICInitCtl(QWidget *parent)
@@ -69,8 +52,7 @@ ICInitCtl::ICInitCtl(QWidget *parent)
     buildLayout();
     fillEntryBarList(*barList());
     // The adjustment control's commands are in the description but never shown here.
-    for (const QString &key : {QStringLiteral("mcFOutAdjBilll"), QStringLiteral("mcFStartBal"), QStringLiteral("OutBill"),
-                               QStringLiteral("Start")})
+    for (const QString &key : commandKeys(CommandFlag::AdjustmentOnly))
         barList()->setVisible(key, false);
     // Nothing is loaded yet: Save and Find stay disabled.
     enableCommands();
@@ -172,11 +154,11 @@ bool ICInitCtl::Show(QObject *ParentWnd, bool blnIstest)
                 return false;
             bindHost(ParentWnd);
         }
-        LoadSysParams(DataProgId);
+        LoadSysParams(ProgId::MICInitialData);
         LibraryState::instance().periodOpen = !SysParams::toBool(SysParam::ICClosed);
         m_amountScale = FetchAmountScale();
         m_sheet->setAmountScale(m_amountScale);
-        m_units = FetchMeasureUnits(DataProgId);
+        m_units = FetchMeasureUnits(ProgId::MICInitialData);
         loadViewSettings();
         enableCommands();
         LoadingStocks();
@@ -210,15 +192,16 @@ void ICInitCtl::enableCommands()
     BarList &bars = *barList();
     const bool entryMode = m_mode == Mode::Entry;
     const bool initialisationOpen = LibraryState::instance().periodOpen;
+    const bool rowsLoaded = m_sheet && m_sheet->lastDataRow() > 0;
     for (const EntryCommandSpec &declared : entryCommandTable()) {
-        const bool available = isAvailable(declared.command, entryMode, initialisationOpen);
-        for (const char *menuKey : declared.menuKeys)
-            bars.setEnabled(QString::fromLatin1(menuKey), available);
-        if (!QLatin1String(declared.toolKey).isEmpty())
-            bars.setEnabled(QString::fromLatin1(declared.toolKey), available);
+        const bool available = declared.available(entryMode, initialisationOpen, rowsLoaded);
+        for (const QString &menuKey : declared.menuKeys)
+            bars.setEnabled(menuKey, available);
+        if (!declared.toolKey.isEmpty())
+            bars.setEnabled(declared.toolKey, available);
     }
     // Quantities alone leave nothing to reconcile with the ledger.
-    for (const QString &key : reconciliationKeys())
+    for (const QString &key : commandKeys(CommandFlag::Reconciliation))
         bars.setVisible(key, reconciliationExists());
     // Save follows the unsaved rows and Find the loaded ones.
     setSaveEnabled(m_saver && m_saver->changes().isDirty());
@@ -227,8 +210,8 @@ void ICInitCtl::enableCommands()
 
 void ICInitCtl::setFindEnabled()
 {
-    const bool enabled = isAvailable(EntryCommand::Find, m_mode == Mode::Entry, LibraryState::instance().periodOpen)
-        && m_sheet && m_sheet->lastDataRow() > 0;
+    const bool enabled = entryCommandForKey(EntryKeys::Find)->available(
+        m_mode == Mode::Entry, LibraryState::instance().periodOpen, m_sheet && m_sheet->lastDataRow() > 0);
     barList()->setEnabled(EntryKeys::Find, enabled);
     barList()->setEnabled(EntryKeys::EFind, enabled);
 }
@@ -240,7 +223,7 @@ void ICInitCtl::LoadingStocks()
         timer.start();
         std::unique_ptr<Recordset> stocks;
         {
-            const std::unique_ptr<QObject> data = CreateObject(DataProgId);
+            const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
             stocks = takeObject<Recordset>(
                 Dispatch::call(data.get(), QStringLiteral("FetchStocks"), {GetPropsString(), WarehouseTree::StockTypes}));
         }
@@ -271,7 +254,7 @@ void ICInitCtl::LoadingAccounts()
 {
     try {
         {
-            const std::unique_ptr<QObject> data = CreateObject(DataProgId);
+            const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
             m_accountRecords = takeObject<Recordset>(Dispatch::call(
                 data.get(), QStringLiteral("FetchYtdAccounts"),
                 {GetPropsString(), SysParams::toInt(SysParam::CurrentPeriod)}));
@@ -647,8 +630,9 @@ QString ICInitCtl::currentNodeKey() const
 
 void ICInitCtl::setNodeCommandsVisible(bool visible)
 {
-    for (const QString &key : nodeDependentKeys())
-        barList()->setVisible(key, visible && (reconciliationExists() || !reconciliationKeys().contains(key)));
+    const QVector<QString> reconciliation = commandKeys(CommandFlag::Reconciliation);
+    for (const QString &key : commandKeys(CommandFlag::NodeDependent) + QVector<QString>{EntryKeys::Separator2, EntryKeys::Separator3})
+        barList()->setVisible(key, visible && (reconciliationExists() || !reconciliation.contains(key)));
 }
 
 bool ICInitCtl::reconciliationExists() const
@@ -658,10 +642,10 @@ bool ICInitCtl::reconciliationExists() const
 
 void ICInitCtl::runCommand(const QString &key)
 {
-    EntryCommand command;
-    if (!entryCommandForKey(key, &command))
+    const EntryCommandSpec *declared = entryCommandForKey(key);
+    if (!declared)
         return;
-    switch (command) {
+    switch (declared->command) {
     case EntryCommand::Exit:
         closeHostFrame();
         break;

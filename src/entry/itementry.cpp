@@ -14,6 +14,7 @@
 #include "frame/automation/lumoerror.h"
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
+#include "frame/automation/progids.h"
 
 #include "grid/cellmodel.h"
 #include "grid/spreadconsole.h"
@@ -26,7 +27,7 @@ using namespace EntryCol;
 
 std::unique_ptr<Recordset> callData(const QString &member, const QVariantList &args)
 {
-    const std::unique_ptr<QObject> data = CreateObject(DataProgId);
+    const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
     auto rs = takeObject<Recordset>(Dispatch::call(data.get(), member, args));
     if (!rs)
         throw LumoError(LumoError::AppBase + 60, QStringLiteral("数据服务没有返回结果：%1").arg(member), member);

@@ -7,6 +7,7 @@
 #include "frame/automation/dispatch.h"
 #include "frame/automation/lumoerror.h"
 #include "frame/automation/propertystring.h"
+#include "frame/automation/progids.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -15,9 +16,6 @@
 
 namespace {
 
-const QString ShareProgId = QStringLiteral("LumoPropsMgr.ShareProps");
-const QString FormResProgId = QStringLiteral("LumoFrmRes.FrmResLoader");
-const QString RegProgId = QStringLiteral("Pelm.Reg");
 const QString ProductKey = QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\NORVANE\\LumoPRODUCT");
 const QString LanguageKey = QStringLiteral("LANGUAGE");
 const QString OnlyLanguage = QStringLiteral("chs");
@@ -59,7 +57,7 @@ void LoginContext::reset()
 
 QVariant GetShareProperty(const QString &key)
 {
-    const std::unique_ptr<QObject> service = CreateObject(ShareProgId);
+    const std::unique_ptr<QObject> service = CreateObject(ProgId::ShareProps);
     const qint32 processId = qint32(QCoreApplication::applicationPid());
     return Dispatch::call(service.get(), QStringLiteral("GetProperty"), {processId, key});
 }
@@ -148,7 +146,7 @@ void LoadFormStrings(QObject *form, std::unique_ptr<QObject> &options, const QSt
     const QString language = ensureLanguage();
     if (language.compare(OnlyLanguage, Qt::CaseInsensitive) == 0)
         return;
-    const std::unique_ptr<QObject> loader = CreateObject(FormResProgId);
+    const std::unique_ptr<QObject> loader = CreateObject(ProgId::FrmResLoader);
     if (!options) {
         options = CreateObject(QStringLiteral("Pelm.Dictionary"));
         Dispatch::call(options.get(), QStringLiteral("setItem"), {QStringLiteral("NeedMLColumnHeaders"), true});
@@ -162,7 +160,7 @@ void SetFormFont(QObject *controls)
     LoginContext &context = LoginContext::instance();
     const QString language = ensureLanguage();
     if (!context.m_formResLoader)
-        context.m_formResLoader = CreateObject(FormResProgId);
+        context.m_formResLoader = CreateObject(ProgId::FrmResLoader);
     Dispatch::call(context.m_formResLoader.get(), QStringLiteral("SetFrmFont"),
                    {QVariant::fromValue(controls), language});
 }
@@ -172,7 +170,7 @@ std::unique_ptr<QObject> GetFontProps()
     const QString language = ensureLanguage();
     std::unique_ptr<QObject> loader;
     try {
-        loader = CreateObject(FormResProgId);
+        loader = CreateObject(ProgId::FrmResLoader);
     } catch (const LumoError &) {
         return {};
     }
@@ -184,7 +182,7 @@ std::unique_ptr<QObject> GetFontProps()
 
 QString GetInstallPath()
 {
-    const std::unique_ptr<QObject> reg = CreateObject(RegProgId);
+    const std::unique_ptr<QObject> reg = CreateObject(ProgId::Reg);
     return Dispatch::call(reg.get(), QStringLiteral("GetKeyValue"), {ProductKey, QStringLiteral("Path"), QStringLiteral("1")})
         .toString();
 }

@@ -6,6 +6,7 @@
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dispatch.h"
 #include "frame/automation/lumoerror.h"
+#include "frame/automation/progids.h"
 
 #include <QSysInfo>
 
@@ -13,7 +14,6 @@
 
 namespace {
 
-const QString MutexProgId = QStringLiteral("LumoNetControl.Mutex");
 constexpr qint16 TaskKind = 3;
 constexpr int ComputerNameBuffer = 40;
 constexpr int TaskConflictError = LumoError::AppBase + 100;
@@ -38,7 +38,7 @@ qint32 ExecFunc(qint32 taskId, const QString &funcCode, qint16 flagA, qint16 fla
     if (login) {
         result = Dispatch::call(login, QStringLiteral("TaskExec"), args);
     } else {
-        const std::unique_ptr<QObject> mutex = CreateObject(MutexProgId);
+        const std::unique_ptr<QObject> mutex = CreateObject(ProgId::NetControlMutex);
         args.prepend(GetPropsString());
         result = Dispatch::call(mutex.get(), QStringLiteral("TaskExec"), args);
     }
@@ -55,7 +55,7 @@ bool CommitTask(qint32 handle)
     try {
         if (QObject *login = GetLoginObject())
             return Dispatch::call(login, QStringLiteral("CommitTask"), {handle}).toBool();
-        const std::unique_ptr<QObject> mutex = CreateObject(MutexProgId);
+        const std::unique_ptr<QObject> mutex = CreateObject(ProgId::NetControlMutex);
         return Dispatch::call(mutex.get(), QStringLiteral("CommitTask"), {GetPropsString(), handle}).toBool();
     } catch (const LumoError &) {
         return false;

@@ -4,12 +4,12 @@
 #include "frame/automation/dispatch.h"
 #include "frame/automation/errobject.h"
 #include "frame/automation/lumoerror.h"
+#include "frame/automation/progids.h"
 
 #include <memory>
 
 namespace {
 
-const QString LogProgId = QStringLiteral("QLLogMsg.Log");
 
 struct LogState
 {
@@ -30,7 +30,7 @@ void ensureLogObject()
         return;
     log.tried = true;
     try {
-        log.object = CreateObject(LogProgId);
+        log.object = CreateObject(ProgId::LogMsgLog);
     } catch (const LumoError &) {
         // No log service: logging stays off.
     }

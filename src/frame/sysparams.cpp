@@ -11,11 +11,10 @@
 #include "frame/automation/lumoerror.h"
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
+#include "frame/automation/progids.h"
 
 namespace {
 
-const QString AppConnectionProgId = QStringLiteral("LumoConnection.AppConnection");
-const QString GLDataProgId = QStringLiteral("LumoEBCGLView.GLData");
 const QString AmountScaleSql = QStringLiteral("SELECT FScale FROM t_Currency WHERE FCurrencyID=1");
 
 std::unique_ptr<Dictionary> &kept()
@@ -96,7 +95,7 @@ void LoadSysParams(const QString &dataProgId)
 
 qint16 FetchAmountScale()
 {
-    const std::unique_ptr<QObject> connection = CreateObject(AppConnectionProgId);
+    const std::unique_ptr<QObject> connection = CreateObject(ProgId::AppConnection);
     const auto rs = takeObject<Recordset>(Dispatch::call(connection.get(), QStringLiteral("Execute"), {AmountScaleSql}));
     if (!rs || rs->atEnd())
         return 0;
@@ -113,7 +112,7 @@ QObject *glData()
 {
     static std::unique_ptr<QObject> object;
     if (!object)
-        object = CreateObject(GLDataProgId);
+        object = CreateObject(ProgId::GLData);
     return object.get();
 }
 

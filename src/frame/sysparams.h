@@ -1,6 +1,7 @@
 #pragma once
 
 #include "lumoicinitial_global.h"
+#include "frame/automation/progids.h"
 
 #include <QString>
 #include <QVariant>
@@ -29,8 +30,6 @@ inline const QString UID = QStringLiteral("UID");
 inline const QString UName = QStringLiteral("UName");
 } // namespace SysParam
 
-inline const QString DataProgId = QStringLiteral("LumoMICInitial.Data");
-inline const QString DataAdjProgId = QStringLiteral("LumoMICInitial.DataAdj");
 
 class LUMOICINITIAL_EXPORT SysParams
 {

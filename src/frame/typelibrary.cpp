@@ -1,5 +1,7 @@
 #include "typelibrary.h"
 
+#include "frame/automation/progids.h"
+
 namespace {
 
 using K = MemberKind;
@@ -42,7 +44,7 @@ QList<TypeLibraryMember> structFields()
 const QList<TypeLibraryClass> &icInitialTypeLibrary()
 {
     static const QList<TypeLibraryClass> classes{
-        {"ICInitPrint", "LumoICInitialCtl.ICInitPrint", "{2EB62D88-1A8F-11DA-97C7-000D609F905C}",
+        {"ICInitPrint", ProgId::ICInitPrint.data(), "{2EB62D88-1A8F-11DA-97C7-000D609F905C}",
          "{2EB62D87-1A8F-11DA-97C7-000D609F905C}", "",
          {
              {0x68030003, "ICPrintMasterTitle", K::PropertyPut, "QString", ""},
@@ -53,9 +55,9 @@ const QList<TypeLibraryClass> &icInitialTypeLibrary()
              {0x60030007, "FetchPRowData", K::Method, "QString", "nRow"},
          },
          {}},
-        {"ICInitFace", "LumoICInitialCtl.ICInitFace", "{2EB62D8A-1A8F-11DA-97C7-000D609F905C}",
+        {"ICInitFace", ProgId::ICInitFace.data(), "{2EB62D8A-1A8F-11DA-97C7-000D609F905C}",
          "{2EB62D89-1A8F-11DA-97C7-000D609F905C}", "", {}, {}},
-        {"ICInitStatus", "LumoICInitialCtl.ICInitStatus", "{2EB62D9E-1A8F-11DA-97C7-000D609F905C}",
+        {"ICInitStatus", ProgId::ICInitStatus.data(), "{2EB62D9E-1A8F-11DA-97C7-000D609F905C}",
          "{2EB62D9D-1A8F-11DA-97C7-000D609F905C}", "",
          {
              {0x40030002, "mPBMaxRadix", K::PropertyGetLet, "int", ""},
@@ -65,9 +67,9 @@ const QList<TypeLibraryClass> &icInitialTypeLibrary()
              {0x60030003, "SetPBarProcessing", K::Method, "void", "nPbValue"},
          },
          {}},
-        {"ICInitStruct", "LumoICInitialCtl.ICInitStruct", "{2EB62DA0-1A8F-11DA-97C7-000D609F905C}",
+        {"ICInitStruct", ProgId::ICInitStruct.data(), "{2EB62DA0-1A8F-11DA-97C7-000D609F905C}",
          "{DDB9F592-F2F6-4386-B217-46441A7F7EE8}", "", structFields(), {}},
-        {"ICInitCtl", "LumoICInitialCtl.ICInitCtl", "{2EB62DA9-1A8F-11DA-97C7-000D609F905C}",
+        {"ICInitCtl", ProgId::ICInitCtl.data(), "{2EB62DA9-1A8F-11DA-97C7-000D609F905C}",
          "{07E5BE72-8DE2-4980-828B-BF1C46328AC5}", "{DB5B9AF6-DC64-4AF6-A953-43BDE562E0D2}",
          pageProperties() + QList<TypeLibraryMember>{
              {0x60030008, "Show", K::Method, "bool", "ParentWnd,blnIstest"},
@@ -77,7 +79,7 @@ const QList<TypeLibraryClass> &icInitialTypeLibrary()
              {0x6803000C, "Controls", K::PropertyGet, "QObject*", ""},
          },
          controlEvents()},
-        {"ICInitAdjCtl", "LumoICInitialCtl.ICInitAdjCtl", "{2EB62DAC-1A8F-11DA-97C7-000D609F905C}",
+        {"ICInitAdjCtl", ProgId::ICInitAdjCtl.data(), "{2EB62DAC-1A8F-11DA-97C7-000D609F905C}",
          "{2F926DD0-995D-4259-A181-50F80826C504}", "{E3F82DED-2271-4D90-B48F-C6C93F5C8142}",
          pageProperties() + QList<TypeLibraryMember>{
              {0x6003000B, "SetOperator", K::Method, "void", "oID,oName"},

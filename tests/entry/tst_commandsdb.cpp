@@ -152,18 +152,14 @@ void TestCommandsOnAccountSet::everyKeyReachesItsProcedure_data()
     QTest::addColumn<int>("route");
     QTest::addColumn<QString>("key");
     for (const EntryCommandSpec &declared : entryCommandTable()) {
-        for (const char *menuKey : declared.menuKeys) {
-            QTest::newRow(qPrintable(QStringLiteral("menu %1").arg(QLatin1String(menuKey))))
-                << int(Route::Menu) << QString::fromLatin1(menuKey);
-            QTest::newRow(qPrintable(QStringLiteral("host %1").arg(QLatin1String(menuKey))))
-                << int(Route::Host) << QString::fromLatin1(menuKey);
+        for (const QString &menuKey : declared.menuKeys) {
+            QTest::newRow(qPrintable(QStringLiteral("menu %1").arg(menuKey))) << int(Route::Menu) << menuKey;
+            QTest::newRow(qPrintable(QStringLiteral("host %1").arg(menuKey))) << int(Route::Host) << menuKey;
         }
-        if (QLatin1String(declared.toolKey).isEmpty())
+        if (declared.toolKey.isEmpty())
             continue;
-        QTest::newRow(qPrintable(QStringLiteral("toolbar %1").arg(QLatin1String(declared.toolKey))))
-            << int(Route::ToolBar) << QString::fromLatin1(declared.toolKey);
-        QTest::newRow(qPrintable(QStringLiteral("host %1").arg(QLatin1String(declared.toolKey))))
-            << int(Route::Host) << QString::fromLatin1(declared.toolKey);
+        QTest::newRow(qPrintable(QStringLiteral("toolbar %1").arg(declared.toolKey))) << int(Route::ToolBar) << declared.toolKey;
+        QTest::newRow(qPrintable(QStringLiteral("host %1").arg(declared.toolKey))) << int(Route::Host) << declared.toolKey;
     }
 }
 

@@ -204,7 +204,7 @@ private slots:
     {
         QStandardPaths::setTestModeEnabled(true);
         Prompter::install(&m_prompter);
-        ComponentRegistry::instance().registerClass(DataProgId, [] { return new CountingInitialData; });
+        ComponentRegistry::instance().registerClass(ProgId::MICInitialData, [] { return new CountingInitialData; });
     }
 
     void cleanup()

@@ -136,7 +136,7 @@ private slots:
         FakeWorld::instance().propsString = QStringLiteral("UserName=张三;UserID=9;");
         ParseProps(GetPropsString());
         FakeWorld::instance().sysParams.insert(QStringLiteral("UnderStock"), QString());
-        LoadSysParams(DataProgId);
+        LoadSysParams(ProgId::MICInitialData);
         QCOMPARE(SysParams::toInt(SysParam::UID), 9);
         QCOMPARE(SysParams::toText(SysParam::UName), QStringLiteral("张三"));
         QCOMPARE(SysParams::toInt(SysParam::QtyDecimal), 2);
@@ -149,13 +149,13 @@ private slots:
     {
         FakeWorld::instance().propsString = QStringLiteral("UserName=甲;UserID=1;");
         ParseProps(GetPropsString());
-        LoadSysParams(DataProgId);
+        LoadSysParams(ProgId::MICInitialData);
         QCOMPARE(SysParams::toInt(SysParam::CurrentPeriod), 1);
 
         FakeWorld::instance().sysParams.insert(QStringLiteral("CurrentPeriod"), 5);
         FakeWorld::instance().propsString = QStringLiteral("UserName=乙;UserID=2;");
         ParseProps(GetPropsString());
-        LoadSysParams(DataProgId);
+        LoadSysParams(ProgId::MICInitialData);
         QCOMPARE(SysParams::toInt(SysParam::CurrentPeriod), 5);
         QCOMPARE(SysParams::toText(SysParam::UName), QStringLiteral("乙"));
         QCOMPARE(SysParams::toInt(SysParam::UID), 2);

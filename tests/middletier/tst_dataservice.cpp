@@ -7,7 +7,7 @@
 #include "mterrors.h"
 #include "queries/stockquery.h"
 #include "queries/typelist.h"
-#include "services/progids.h"
+#include "frame/automation/progids.h"
 
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dictionary.h"

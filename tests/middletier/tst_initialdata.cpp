@@ -8,7 +8,7 @@
 #include "demo/democompany.h"
 #include "queries/dataerrors.h"
 #include "queries/itemrowfields.h"
-#include "services/progids.h"
+#include "frame/automation/progids.h"
 
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dictionary.h"

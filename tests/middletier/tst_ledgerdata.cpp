@@ -6,7 +6,7 @@
 #include "db/sqlrun.h"
 #include "demo/democompany.h"
 #include "queries/dataerrors.h"
-#include "services/progids.h"
+#include "frame/automation/progids.h"
 
 #include "frame/automation/dictionary.h"
 #include "frame/automation/objectownership.h"

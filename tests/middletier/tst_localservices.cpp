@@ -1,6 +1,6 @@
 #include "tst_localservices.h"
 
-#include "services/progids.h"
+#include "frame/automation/progids.h"
 #include "services/tracelog.h"
 
 #include "frame/automation/componentregistry.h"

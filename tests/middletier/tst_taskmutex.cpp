@@ -3,7 +3,7 @@
 #include "scratchaccountset.h"
 
 #include "db/sqlrun.h"
-#include "services/progids.h"
+#include "frame/automation/progids.h"
 
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dispatch.h"

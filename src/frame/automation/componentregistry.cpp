@@ -4,21 +4,15 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QLibrary>
-
-#include <dlfcn.h>
+#include <QSettings>
 
 namespace {
 
-// The folder this library was loaded from: the component libraries sit beside it.
-QString binariesFolder()
-{
-    Dl_info info{};
-    if (dladdr(reinterpret_cast<void *>(&binariesFolder), &info) != 0 && info.dli_fname)
-        return QFileInfo(QString::fromLocal8Bit(info.dli_fname)).absolutePath();
-    return QCoreApplication::applicationDirPath();
-}
+// The suite's registration of its component libraries: written beside the binaries when they are
+// built or installed, so the registry itself names no library.
+const QString ManifestFile = QStringLiteral("LumoComponents.ini");
+const QString LibrariesKey = QStringLiteral("Components/Libraries");
 
 } // namespace
 
@@ -28,10 +22,14 @@ ComponentRegistry &ComponentRegistry::instance()
     return registry;
 }
 
-const QStringList &ComponentRegistry::componentLibraries()
+QStringList ComponentRegistry::componentLibraries()
 {
-    static const QStringList names{QStringLiteral("LumoMiddleTier"), QStringLiteral("LumoICInitialCtl")};
-    return names;
+    const QDir folder(QCoreApplication::applicationDirPath());
+    const QSettings manifest(folder.filePath(ManifestFile), QSettings::IniFormat);
+    QStringList files;
+    for (const QString &name : manifest.value(LibrariesKey).toStringList())
+        files.append(folder.filePath(name.trimmed()));
+    return files;
 }
 
 void ComponentRegistry::registerClass(const QString &progId, ComponentFactory factory)
@@ -54,9 +52,8 @@ QStringList ComponentRegistry::progIds() const
 void ComponentRegistry::loadComponentLibraries()
 {
     m_librariesLoaded = true;
-    const QString folder = binariesFolder();
-    for (const QString &name : componentLibraries()) {
-        QLibrary library(QDir(folder).filePath(QStringLiteral("lib%1.so").arg(name)));
+    for (const QString &file : componentLibraries()) {
+        QLibrary library(file);
         // Loading runs the library's registration; the library stays loaded for the process.
         library.setLoadHints(QLibrary::ExportExternalSymbolsHint);
         library.load();

@@ -12,8 +12,9 @@
 using ComponentFactory = std::function<QObject *()>;
 
 // Creation of objects by ProgID. Component libraries register their classes from a static
-// initializer when they are loaded; a ProgID nobody registered yet makes the registry load the
-// suite's component libraries from the binaries folder once, as a COM registry would.
+// initializer when they are loaded; a ProgID nobody registered yet makes the registry load, once,
+// the component libraries that "LumoComponents.ini" beside the application lists, as a COM
+// registry would.
 class LUMOAUTOMATION_EXPORT ComponentRegistry
 {
 public:
@@ -26,8 +27,8 @@ public:
     // A new parentless object; throws LumoError naming an unknown ProgID.
     std::unique_ptr<QObject> create(const QString &progId);
 
-    // The libraries searched for ProgIDs that are not registered yet.
-    static const QStringList &componentLibraries();
+    // The library files searched for ProgIDs that are not registered yet.
+    static QStringList componentLibraries();
 
 private:
     ComponentRegistry() = default;

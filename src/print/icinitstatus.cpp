@@ -1,6 +1,6 @@
 #include "icinitstatus.h"
 
-#include "statuspanels.h"
+#include "frame/statuspanels.h"
 
 #include <QProgressBar>
 #include <QStatusBar>
