@@ -15,11 +15,11 @@
 #include "db/sqlrun.h"
 #include "services/sharedpropertystore.h"
 
-#include "entry/entrygridlayout.h"
-#include "entry/entrysheet.h"
+#include "sheet/entrygridlayout.h"
+#include "sheet/entrysheet.h"
 #include "entry/icinitctl.h"
-#include "entry/itemrows.h"
-#include "entry/navtree.h"
+#include "sheet/itemrows.h"
+#include "sheet/navtree.h"
 
 #include "frame/prompter.h"
 #include "frame/sysparams.h"

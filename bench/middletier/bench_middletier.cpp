@@ -24,8 +24,8 @@
 #include "queries/typelist.h"
 #include "services/lumomicinitialdata.h"
 
-#include "entry/numbertext.h"
-#include "entry/savescript.h"
+#include "sheet/sqltext.h"
+#include "sheet/savescript.h"
 
 #include "frame/automation/dictionary.h"
 #include "frame/automation/objectownership.h"
@@ -132,7 +132,7 @@ QList<ScriptRow> scriptRows(const QList<int> &items)
 
 QString insertScript(const QList<ScriptRow> &rows)
 {
-    const auto figure = NumberText::sqlNumber;
+    const auto figure = SqlText::number;
     QString script;
     for (const ScriptRow &r : rows) {
         const QStringList values{QStringLiteral("'0'"), QString::number(Period), QString::number(ScriptStock),

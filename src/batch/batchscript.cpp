@@ -6,13 +6,12 @@
 #include "frame/messages.h"
 
 #include "grid/gridtypes.h"
-#include "grid/numberformat.h"
+#include "sheet/sqltext.h"
 
 #include <QStringList>
 
 namespace {
 
-constexpr int StoredDecimals = 10;
 constexpr int ContinuationIndent = 26;
 
 const QString DeleteByPlace = QStringLiteral(" Delete from ICInvInitial ");
@@ -61,7 +60,7 @@ QString deleteStatements(const BatchScriptKey &key)
                    + AndKeyword + KeyIndent + ItemIs + QString::number(key.itemId) + AndLower + KeyIndent
                    + AuxPropIs + QString::number(key.auxPropId);
     if (!key.fieldCompose.isEmpty())
-        text += Msg::LineBreak + DeleteByCompose + BatchScript::quoted(key.fieldCompose);
+        text += Msg::LineBreak + DeleteByCompose + SqlText::quoted(key.fieldCompose);
     return text;
 }
 
@@ -73,38 +72,26 @@ QString insertStatement(const BatchScriptKey &key, const BatchLine &line, const 
         text += Msg::LineBreak + indent + piece;
 
     QStringList values{QString::number(key.period), QString::number(key.stockId), QString::number(key.spId),
-                       QString::number(key.itemId), QString::number(key.unitId), BatchScript::quoted(line.batchNo)};
+                       QString::number(key.itemId), QString::number(key.unitId), SqlText::quoted(line.batchNo)};
     for (int col : InsertedFigures)
-        values.append(BatchScript::number(line.figure(col)));
+        values.append(SqlText::number(line.figure(col)));
     values.append(QString::number(line.billInterId));
-    values.append(BatchScript::quoted(dateText(line.kfDate)));
+    values.append(SqlText::quoted(dateText(line.kfDate)));
     values.append(QString::number(line.kfPeriod.value_or(0)));
     for (int col : InsertedSecondary)
-        values.append(BatchScript::number(line.figure(col)));
-    values.append(BatchScript::quoted(dateText(line.stockInDate)));
+        values.append(SqlText::number(line.figure(col)));
+    values.append(SqlText::quoted(dateText(line.stockInDate)));
     values.append(QString::number(key.secUnitId));
     values.append(QString::number(key.auxPropId));
-    values.append(BatchScript::number(key.secCoefficient));
+    values.append(SqlText::number(key.secCoefficient));
     values.append(QString::number(line.snListId));
-    values.append(BatchScript::quoted(composed));
+    values.append(SqlText::quoted(composed));
     return text + ValuesHead + values.join(QLatin1Char(',')) + QLatin1Char(')');
 }
 
 } // namespace
 
 namespace BatchScript {
-
-QString number(double value)
-{
-    return NumberFormat::plain(NumberFormat::roundHalfAway(value, StoredDecimals));
-}
-
-QString quoted(const QString &text)
-{
-    QString doubled = text;
-    doubled.replace(QLatin1Char('\''), QStringLiteral("''"));
-    return QLatin1Char('\'') + doubled + QLatin1Char('\'');
-}
 
 QString build(const BatchScriptKey &key, const QList<BatchLine> &lines, const QList<qint32> &deletedSerialLists)
 {

@@ -30,9 +30,4 @@ namespace BatchScript {
 LUMOICINITIAL_EXPORT QString build(const BatchScriptKey &key, const QList<BatchLine> &lines,
                                    const QList<qint32> &deletedSerialLists);
 
-// A figure as plain decimal text, rounded half away from zero to 10 decimals ("1234.5", "-0.1").
-LUMOICINITIAL_EXPORT QString number(double value);
-// A text in single quotes, its own quotes doubled.
-LUMOICINITIAL_EXPORT QString quoted(const QString &text);
-
 } // namespace BatchScript

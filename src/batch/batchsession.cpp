@@ -3,7 +3,7 @@
 #include "batch/apportion.h"
 #include "batch/batchscript.h"
 #include "batch/batchtexts.h"
-#include "batch/batchvalues.h"
+#include "sheet/recordvalues.h"
 #include "batch/linebalance.h"
 
 #include "frame/errorbox.h"
@@ -46,9 +46,9 @@ BatchSession::BatchSession(CellModel &cells, QObject *parent)
 
 void BatchSession::open()
 {
-    m_item = m_handover.itemKey ? BatchItem::fromItemKey(*m_handover.itemKey) : BatchItem{};
+    m_item = m_handover.itemKey ? ItemInfo::fromItemKey(*m_handover.itemKey) : ItemInfo{};
     m_quantitiesOnly = m_handover.quantitiesOnly.value_or(SysParams::toInt(SysParam::AuditChoice) == 0);
-    m_startDate = BatchValues::date(SysParams::toText(StartDateParam));
+    m_startDate = RecordValues::date(SysParams::toText(StartDateParam));
     m_apportioned = false;
     m_changed = false;
     m_saved = false;

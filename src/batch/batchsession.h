@@ -1,6 +1,6 @@
 #pragma once
 
-#include "batch/batchitem.h"
+#include "sheet/iteminfo.h"
 #include "batch/batchservices.h"
 #include "batch/batchsheet.h"
 #include "batch/batchvalidation.h"
@@ -47,7 +47,7 @@ public:
     // on with what it has.
     void open();
 
-    const BatchItem &item() const { return m_item; }
+    const ItemInfo &item() const { return m_item; }
     bool quantitiesOnly() const { return m_quantitiesOnly; }
 
     // Apportioning: offered for an average-priced batch item when the account set keeps amounts
@@ -88,7 +88,7 @@ private:
     CellModel &m_cells;
     BatchSheet m_sheet;
     BatchHandover m_handover;
-    BatchItem m_item;
+    ItemInfo m_item;
     bool m_quantitiesOnly = false;
     int m_amountScale = 2;
     BatchServices::UnitCoefficients m_coefficients;

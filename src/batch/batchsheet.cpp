@@ -1,7 +1,7 @@
 #include "batch/batchsheet.h"
 
 #include "batch/batchtexts.h"
-#include "batch/batchvalues.h"
+#include "sheet/recordvalues.h"
 #include "batch/linebalance.h"
 
 #include "frame/logincontext.h"
@@ -59,7 +59,16 @@ BatchSheet::BatchSheet(CellModel &cells)
 {
 }
 
-void BatchSheet::build(const BatchItem &item, const BatchSheetLook &look)
+QString batchModeCaption(const ItemInfo &item, bool quantitiesOnly)
+{
+    if (!item.batchManaged)
+        return ResString(quantitiesOnly ? BatchMsg::ModeQty : BatchMsg::ModeAmount);
+    if (quantitiesOnly)
+        return ResString(BatchMsg::ModeBatchQty);
+    return ResString(item.plannedCost() ? BatchMsg::ModeBatchPlanned : BatchMsg::ModeBatchAmount);
+}
+
+void BatchSheet::build(const ItemInfo &item, const BatchSheetLook &look)
 {
     m_item = item;
     m_look = look;
@@ -120,16 +129,16 @@ void BatchSheet::fillLines(const Recordset &records, const QDate &defaultStockIn
 
         const QVariant qtyDecimal = field(Field::QtyDecimal);
         setLineQuantityDecimals(row, isEmptyValue(qtyDecimal) ? m_item.qtyDecimal : qtyDecimal.toInt());
-        const bool locked = BatchValues::flag(field(Field::Lock));
+        const bool locked = RecordValues::flag(field(Field::Lock));
         const QString batchNo = field(Field::BatchNo).toString();
         m_cells.setText(row, BatCol::BatchNo, batchNo);
         m_cells.setText(row, BatCol::LoadedBatchNo, batchNo);
         m_cells.setNumber(row, BatCol::BillInterID, field(Field::BillInterID).toDouble());
         for (int col = BatCol::FirstFigure; col <= BatCol::LastFigure; ++col)
             m_cells.setNumber(row, col, field(FigureFields[col - BatCol::FirstFigure]).toDouble());
-        const QDate stockIn = BatchValues::date(field(Field::StockInDate));
+        const QDate stockIn = RecordValues::date(field(Field::StockInDate));
         m_cells.setValue(row, BatCol::StockInDate, stockIn.isValid() ? stockIn : defaultStockIn);
-        m_cells.setValue(row, BatCol::KFDate, BatchValues::date(field(Field::KFDate)));
+        m_cells.setValue(row, BatCol::KFDate, RecordValues::date(field(Field::KFDate)));
         const QVariant kfPeriod = field(Field::KFPeriod);
         m_cells.setValue(row, BatCol::KFPeriod, isEmptyValue(kfPeriod) ? QVariant() : QVariant(kfPeriod.toInt()));
         const qint32 snList = field(Field::SNListID).toInt();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "batch/batchitem.h"
+#include "sheet/iteminfo.h"
 #include "batch/batchlayout.h"
 #include "batch/batchline.h"
 #include "frame/lumoicinitial_global.h"
@@ -26,6 +26,9 @@ struct BatchSheetLook
     QColor inputColor;           // the line on which the totals to apportion are typed
 };
 
+// The caption of the grid's mode: what the lines hold for this item and accounting.
+LUMOICINITIAL_EXPORT QString batchModeCaption(const ItemInfo &item, bool quantitiesOnly);
+
 // The cells of the batch grid: the detail lines in rows 1 to lineCount(), then the totals row
 // "合计", then, while amounts are apportioned, the input line. Knows where everything is and how
 // it looks; the rules live elsewhere.
@@ -36,7 +39,7 @@ public:
 
     // Empties the grid and lays it out for the item: titles, cell types and formats, hidden
     // columns, and an empty totals row.
-    void build(const BatchItem &item, const BatchSheetLook &look);
+    void build(const ItemInfo &item, const BatchSheetLook &look);
 
     int lineCount() const;
     bool isLine(int row) const { return row >= 1 && row <= lineCount(); }
@@ -80,7 +83,7 @@ private:
     void paintLocked(int row);
 
     CellModel &m_cells;
-    BatchItem m_item;
+    ItemInfo m_item;
     BatchSheetLook m_look;
     bool m_inputOpen = false;
 };

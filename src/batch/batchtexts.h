@@ -7,7 +7,6 @@
 namespace BatchMsg {
 
 inline const QString WindowTitle = QStringLiteral("批次/保质期明细");
-inline const QString ModelSeparator = QStringLiteral("/");
 
 // Mode captions by item and accounting.
 inline const QString ModeBatchQty = QStringLiteral("批号/数量");

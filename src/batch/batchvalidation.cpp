@@ -1,6 +1,6 @@
 #include "batch/batchvalidation.h"
 
-#include "batch/batchitem.h"
+#include "sheet/iteminfo.h"
 #include "batch/batchline.h"
 #include "batch/batchtexts.h"
 
@@ -22,7 +22,7 @@ BatchRefusal refusal(const BatchLine &line, int col, const QString &message)
     return {line.row, col, ResString(message)};
 }
 
-std::optional<BatchRefusal> checkLine(const BatchLine &line, const BatchItem &item, const BatchRules &rules)
+std::optional<BatchRefusal> checkLine(const BatchLine &line, const ItemInfo &item, const BatchRules &rules)
 {
     if (item.batchManaged && line.batchNo.trimmed().isEmpty())
         return refusal(line, BatCol::BatchNo, BatchMsg::BatchRequired);
@@ -53,7 +53,7 @@ std::optional<BatchRefusal> checkLine(const BatchLine &line, const BatchItem &it
 
 namespace BatchValidation {
 
-BalanceVerdict checkGroup(const BatchLine &line, const BatchGroup &group, const BatchItem &item,
+BalanceVerdict checkGroup(const BatchLine &line, const BatchGroup &group, const ItemInfo &item,
                           const BatchRules &rules)
 {
     // One group alone never makes a row of four empty groups.
@@ -62,7 +62,7 @@ BalanceVerdict checkGroup(const BatchLine &line, const BatchGroup &group, const 
                                emptyGroups, rules.allocate, item.track, rules.balance);
 }
 
-std::optional<QString> checkTypedBatch(const BatchItem &item, const QString &typed, const QString &loaded,
+std::optional<QString> checkTypedBatch(const ItemInfo &item, const QString &typed, const QString &loaded,
                                        const QStringList &otherLines)
 {
     const QString batch = typed.trimmed();
@@ -77,7 +77,7 @@ std::optional<QString> checkTypedBatch(const BatchItem &item, const QString &typ
     return std::nullopt;
 }
 
-std::optional<BatchRefusal> checkBeforeSave(const BatchItem &item, const BatchRules &rules,
+std::optional<BatchRefusal> checkBeforeSave(const ItemInfo &item, const BatchRules &rules,
                                             const ApportionState &apportion, const QList<BatchLine> &lines)
 {
     if (apportion.offered && !apportion.apportioned && apportion.changed) {
@@ -95,7 +95,7 @@ std::optional<BatchRefusal> checkBeforeSave(const BatchItem &item, const BatchRu
     return findRepeat(item, lines);
 }
 
-std::optional<BatchRefusal> findRepeat(const BatchItem &item, const QList<BatchLine> &lines)
+std::optional<BatchRefusal> findRepeat(const ItemInfo &item, const QList<BatchLine> &lines)
 {
     if (!item.batchManaged && !item.shelfLifeManaged)
         return std::nullopt;

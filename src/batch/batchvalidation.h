@@ -1,7 +1,7 @@
 #pragma once
 
 #include "batch/batchlayout.h"
-#include "frame/balancecheck.h"
+#include "sheet/balancecheck.h"
 #include "frame/lumoicinitial_global.h"
 
 #include <QList>
@@ -10,7 +10,7 @@
 
 #include <optional>
 
-struct BatchItem;
+struct ItemInfo;
 struct BatchLine;
 
 // Why the lines may not be kept, and the cell to put the cursor on (row -1: no cell).
@@ -39,22 +39,22 @@ struct ApportionState
 namespace BatchValidation {
 
 // The shared quantity/amount check of one group of a line, as after an edit of one of its cells.
-LUMOICINITIAL_EXPORT BalanceVerdict checkGroup(const BatchLine &line, const BatchGroup &group, const BatchItem &item,
+LUMOICINITIAL_EXPORT BalanceVerdict checkGroup(const BatchLine &line, const BatchGroup &group, const ItemInfo &item,
                                                const BatchRules &rules);
 
 // A batch number typed into a line that had `loaded` when the lines were read: empty is refused,
 // and so is one that another line holds when the item refuses repeats on entry. nullopt: accepted.
-LUMOICINITIAL_EXPORT std::optional<QString> checkTypedBatch(const BatchItem &item, const QString &typed,
+LUMOICINITIAL_EXPORT std::optional<QString> checkTypedBatch(const ItemInfo &item, const QString &typed,
                                                             const QString &loaded, const QStringList &otherLines);
 
 // Everything checked before a save, in order: the apportioning, each changed line (batch number,
 // the four groups, production date and shelf life, stock-in date), then repeats over all lines.
-LUMOICINITIAL_EXPORT std::optional<BatchRefusal> checkBeforeSave(const BatchItem &item, const BatchRules &rules,
+LUMOICINITIAL_EXPORT std::optional<BatchRefusal> checkBeforeSave(const ItemInfo &item, const BatchRules &rules,
                                                                  const ApportionState &apportion,
                                                                  const QList<BatchLine> &lines);
 
 // Two lines with the same key: batch number and production date for an item under both
 // managements, else whichever of the two the item is managed by.
-LUMOICINITIAL_EXPORT std::optional<BatchRefusal> findRepeat(const BatchItem &item, const QList<BatchLine> &lines);
+LUMOICINITIAL_EXPORT std::optional<BatchRefusal> findRepeat(const ItemInfo &item, const QList<BatchLine> &lines);
 
 } // namespace BatchValidation

@@ -114,9 +114,9 @@ void frmBatchManager::buildToolBar()
 void frmBatchManager::prepare()
 {
     m_session->open();
-    const BatchItem &item = m_session->item();
+    const ItemInfo &item = m_session->item();
     m_itemLabel->setText(item.title());
-    m_tabs->setTabText(0, item.modeCaption(m_session->quantitiesOnly()));
+    m_tabs->setTabText(0, batchModeCaption(item, m_session->quantitiesOnly()));
     m_buttons.value(BatchKey::ShareBal)->setEnabled(m_session->apportionOffered());
     m_grid->select(1, m_session->item().batchManaged ? BatCol::BatchNo : BatCol::YtdBegQty);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "entry/warehousetable.h"
+#include "sheet/warehousetable.h"
 #include "frame/lumoicinitial_global.h"
 
 #include <QHash>

@@ -5,7 +5,7 @@
 
 #include "entry/accounttable.h"
 #include "entry/entrycommands.h"
-#include "entry/warehousetable.h"
+#include "sheet/warehousetable.h"
 
 #include <QVector>
 

@@ -4,10 +4,10 @@
 
 #include "batch/frmbatchmanager.h"
 #include "db/sqlrun.h"
-#include "entry/entrygridlayout.h"
-#include "entry/entrysheet.h"
+#include "sheet/entrygridlayout.h"
+#include "sheet/entrysheet.h"
 #include "entry/icinitctl.h"
-#include "entry/navtree.h"
+#include "sheet/navtree.h"
 
 #include "frame/logincontext.h"
 #include "frame/prompter.h"

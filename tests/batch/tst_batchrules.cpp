@@ -1,9 +1,11 @@
 #include "tst_batchrules.h"
 
 #include "batch/apportion.h"
-#include "batch/batchitem.h"
+#include "sheet/iteminfo.h"
 #include "batch/batchline.h"
 #include "batch/batchscript.h"
+#include "sheet/sqltext.h"
+#include "batch/batchsheet.h"
 #include "batch/batchvalidation.h"
 #include "batch/linebalance.h"
 
@@ -54,9 +56,9 @@ struct Line
     operator BatchLine() const { return line; }
 };
 
-BatchItem item(bool batch, bool shelfLife, int track = 78)
+ItemInfo item(bool batch, bool shelfLife, int track = 78)
 {
-    BatchItem it;
+    ItemInfo it;
     it.id = 3057;
     it.name = QStringLiteral("冷轧板");
     it.batchManaged = batch;
@@ -73,7 +75,7 @@ BatchRules amountRules(bool allocate = false)
     return rules;
 }
 
-std::optional<BatchRefusal> saveCheck(const BatchItem &it, const QList<BatchLine> &lines,
+std::optional<BatchRefusal> saveCheck(const ItemInfo &it, const QList<BatchLine> &lines,
                                       const BatchRules &rules = amountRules())
 {
     return BatchValidation::checkBeforeSave(it, rules, ApportionState{}, lines);
@@ -335,7 +337,7 @@ void TestBatchRules::allocationRefusesValueWithoutQuantity()
 {
     // Received: no quantity but an amount of 10.
     const BatchLine line = Line(2).figure(BatCol::Debit, 10);
-    const BatchItem average = item(true, false, 76);
+    const ItemInfo average = item(true, false, 76);
 
     const std::optional<BatchRefusal> refused = saveCheck(average, {line}, amountRules(true));
     QVERIFY(refused);
@@ -382,7 +384,7 @@ void TestBatchRules::sqlNumber()
 {
     QFETCH(double, value);
     QFETCH(QString, text);
-    QCOMPARE(BatchScript::number(value), text);
+    QCOMPARE(SqlText::number(value), text);
 }
 
 void TestBatchRules::scriptForOneLine()
@@ -472,7 +474,7 @@ void TestBatchRules::itemFromKey()
     key.Add(QStringLiteral("SecCoefficient"), 2.5);
     key.Add(QStringLiteral("AuxPropID"), 11);
 
-    const BatchItem it = BatchItem::fromItemKey(key);
+    const ItemInfo it = ItemInfo::fromItemKey(key);
     QCOMPARE(it.id, 3057);
     QCOMPARE(it.shortNumber, QStringLiteral("LZB"));
     QCOMPARE(it.number, QStringLiteral("01.002"));
@@ -490,7 +492,7 @@ void TestBatchRules::itemFromKey()
     QCOMPARE(it.title(), QStringLiteral("冷轧板/1.0mm"));
 
     key.setItem(QStringLiteral("Model"), QStringLiteral(" "));
-    QCOMPARE(BatchItem::fromItemKey(key).title(), QStringLiteral("冷轧板"));
+    QCOMPARE(ItemInfo::fromItemKey(key).title(), QStringLiteral("冷轧板"));
 }
 
 void TestBatchRules::modeCaption_data()
@@ -514,5 +516,5 @@ void TestBatchRules::modeCaption()
     QFETCH(int, track);
     QFETCH(bool, quantitiesOnly);
     QFETCH(QString, caption);
-    QCOMPARE(item(batch, !batch, track).modeCaption(quantitiesOnly), caption);
+    QCOMPARE(batchModeCaption(item(batch, !batch, track), quantitiesOnly), caption);
 }

@@ -4,8 +4,8 @@
 #include "servicecalls.h"
 
 #include "db/sqlrun.h"
-#include "entry/entrygridlayout.h"
-#include "entry/entrysheet.h"
+#include "sheet/entrygridlayout.h"
+#include "sheet/entrysheet.h"
 #include "entry/icinitctl.h"
 
 #include "frame/logincontext.h"

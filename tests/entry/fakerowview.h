@@ -1,6 +1,6 @@
 #pragma once
 
-#include "entry/rowcheck.h"
+#include "sheet/rowcheck.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
 #include "tst_balancecheck.h"
 
-#include "frame/balancecheck.h"
+#include "sheet/balancecheck.h"
 #include "frame/valuationmethods.h"
 
 #include <QTest>

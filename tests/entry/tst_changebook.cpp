@@ -1,6 +1,6 @@
 #include "tst_changebook.h"
 
-#include "entry/changebook.h"
+#include "sheet/changebook.h"
 
 #include "frame/icinitstruct.h"
 #include "frame/messages.h"

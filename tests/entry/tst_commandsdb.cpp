@@ -6,10 +6,10 @@
 
 #include "db/sqlrun.h"
 #include "entry/entrycommands.h"
-#include "entry/entrygridlayout.h"
-#include "entry/entrysheet.h"
+#include "sheet/entrygridlayout.h"
+#include "sheet/entrysheet.h"
 #include "entry/icinitctl.h"
-#include "entry/navtree.h"
+#include "sheet/navtree.h"
 
 #include "frame/barlist.h"
 #include "frame/settingsstore.h"

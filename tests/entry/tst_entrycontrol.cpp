@@ -7,10 +7,10 @@
 #include "scratchaccountset.h"
 #include "servicecalls.h"
 
-#include "entry/entrygridlayout.h"
-#include "entry/entrysheet.h"
+#include "sheet/entrygridlayout.h"
+#include "sheet/entrysheet.h"
 #include "entry/icinitctl.h"
-#include "entry/navtree.h"
+#include "sheet/navtree.h"
 
 #include "frame/barlist.h"
 #include "frame/logincontext.h"

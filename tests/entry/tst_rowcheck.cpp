@@ -2,10 +2,10 @@
 
 #include "fakerowview.h"
 
-#include "entry/entrygridlayout.h"
-#include "entry/entrysheet.h"
-#include "entry/gridrowview.h"
-#include "entry/rowcheck.h"
+#include "sheet/entrygridlayout.h"
+#include "sheet/entrysheet.h"
+#include "sheet/gridrowview.h"
+#include "sheet/rowcheck.h"
 
 #include "frame/icinitstruct.h"
 #include "frame/sysparams.h"

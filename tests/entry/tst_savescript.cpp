@@ -1,8 +1,8 @@
 #include "tst_savescript.h"
 
-#include "entry/entrysheet.h"
-#include "entry/numbertext.h"
-#include "entry/savescript.h"
+#include "sheet/entrysheet.h"
+#include "sheet/sqltext.h"
+#include "sheet/savescript.h"
 
 #include "frame/icinitstruct.h"
 
@@ -85,7 +85,7 @@ void TestSaveScript::sqlNumber()
 {
     QFETCH(double, value);
     QFETCH(QString, text);
-    QCOMPARE(NumberText::sqlNumber(value), text);
+    QCOMPARE(SqlText::number(value), text);
 }
 
 void TestSaveScript::roundFigure_data()
@@ -103,7 +103,7 @@ void TestSaveScript::roundFigure()
 {
     QFETCH(double, value);
     QFETCH(QString, rounded);
-    QCOMPARE(NumberFormat::plain(NumberText::roundFigure(value)), rounded);
+    QCOMPARE(NumberFormat::plain(SqlText::roundFigure(value)), rounded);
 }
 
 void TestSaveScript::insertForNewRow()
@@ -181,8 +181,8 @@ void TestSaveScript::deletesComeFirst()
 
 void TestSaveScript::textsHaveQuotesDoubled()
 {
-    QCOMPARE(SaveScript::quoted(QStringLiteral("O'Brien's")), QStringLiteral("'O''Brien''s'"));
-    QCOMPARE(SaveScript::quoted(QString()), QStringLiteral("''"));
+    QCOMPARE(SqlText::quoted(QStringLiteral("O'Brien's")), QStringLiteral("'O''Brien''s'"));
+    QCOMPARE(SqlText::quoted(QString()), QStringLiteral("''"));
 
     const auto r = record(QStringLiteral("1|0|3|5' or '1'='1"), true);
     QCOMPARE(scriptOf(*r), QStringLiteral("update icinvinitial set FItemID=3057,funitid=7,"

@@ -4,11 +4,11 @@
 #include "scratchaccountset.h"
 
 #include "db/sqlrun.h"
-#include "entry/entrygridlayout.h"
-#include "entry/entrysheet.h"
+#include "sheet/entrygridlayout.h"
+#include "sheet/entrysheet.h"
 #include "entry/icinitctl.h"
-#include "entry/navtree.h"
-#include "entry/pagebar.h"
+#include "sheet/navtree.h"
+#include "sheet/pagebar.h"
 
 #include "frame/barlist.h"
 #include "frame/librarystate.h"

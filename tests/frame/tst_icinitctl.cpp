@@ -1,8 +1,8 @@
 #include "fakeservices.h"
 
 #include "entry/icinitctl.h"
-#include "entry/navtree.h"
-#include "entry/warehousetable.h"
+#include "sheet/navtree.h"
+#include "sheet/warehousetable.h"
 
 #include "frame/barlist.h"
 #include "frame/librarystate.h"

@@ -71,13 +71,13 @@ void TestLocalServices::registersEveryProgId_data()
 {
     QTest::addColumn<QString>("progId");
     QTest::addColumn<QString>("className");
-    QTest::newRow("data") << ProgId::MICInitialData << "LumoMICInitialData";
-    QTest::newRow("connection") << ProgId::AppConnection << "LumoConnectionAppConnection";
-    QTest::newRow("ledger") << ProgId::GLData << "LumoEBCGLViewGLData";
-    QTest::newRow("mutex") << ProgId::NetControlMutex << "LumoNetControlMutex";
-    QTest::newRow("log") << ProgId::LogMsgLog << "QLLogMsgLog";
-    QTest::newRow("shared properties") << ProgId::ShareProps << "LumoPropsMgrShareProps";
-    QTest::newRow("form resources") << ProgId::FrmResLoader << "LumoFrmResFrmResLoader";
+    QTest::newRow("data") << QStringLiteral("LumoMICInitial.Data") << "LumoMICInitialData";
+    QTest::newRow("connection") << QStringLiteral("LumoConnection.AppConnection") << "LumoConnectionAppConnection";
+    QTest::newRow("ledger") << QStringLiteral("LumoEBCGLView.GLData") << "LumoEBCGLViewGLData";
+    QTest::newRow("mutex") << QStringLiteral("LumoNetControl.Mutex") << "LumoNetControlMutex";
+    QTest::newRow("log") << QStringLiteral("QLLogMsg.Log") << "QLLogMsgLog";
+    QTest::newRow("shared properties") << QStringLiteral("LumoPropsMgr.ShareProps") << "LumoPropsMgrShareProps";
+    QTest::newRow("form resources") << QStringLiteral("LumoFrmRes.FrmResLoader") << "LumoFrmResFrmResLoader";
 }
 
 void TestLocalServices::registersEveryProgId()

@@ -1,7 +1,7 @@
 #include "gridrowview.h"
 
-#include "entry/entrygridlayout.h"
-#include "entry/itemrows.h"
+#include "sheet/entrygridlayout.h"
+#include "sheet/itemrows.h"
 
 #include "grid/cellmodel.h"
 #include "grid/celltext.h"

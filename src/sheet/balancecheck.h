@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lumoicinitial_global.h"
+#include "frame/lumoicinitial_global.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "batch/batchvalues.h"
+#include "sheet/recordvalues.h"
 
 #include "grid/gridtypes.h"
 
@@ -11,7 +11,7 @@ const QString CompactDateFormat = QStringLiteral("MMddyyyy");
 
 } // namespace
 
-namespace BatchValues {
+namespace RecordValues {
 
 bool flag(const QVariant &value)
 {
@@ -39,4 +39,4 @@ QDate date(const QVariant &value)
     return iso.isValid() ? iso : QDate::fromString(text, CompactDateFormat);
 }
 
-} // namespace BatchValues
+} // namespace RecordValues

@@ -1,8 +1,8 @@
 #include "balancecheck.h"
 
-#include "logincontext.h"
-#include "messages.h"
-#include "valuationmethods.h"
+#include "frame/logincontext.h"
+#include "frame/messages.h"
+#include "frame/valuationmethods.h"
 
 namespace {
 

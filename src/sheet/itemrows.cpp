@@ -1,6 +1,6 @@
 #include "itemrows.h"
 
-#include "entry/entrygridlayout.h"
+#include "sheet/entrygridlayout.h"
 
 #include "frame/settingsstore.h"
 #include "frame/valuationmethods.h"

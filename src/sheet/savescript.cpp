@@ -1,7 +1,7 @@
 #include "savescript.h"
 
-#include "entry/entrysheet.h"
-#include "entry/numbertext.h"
+#include "sheet/entrysheet.h"
+#include "sheet/sqltext.h"
 
 #include "frame/icinitstruct.h"
 #include "frame/messages.h"
@@ -25,7 +25,7 @@ const QString NoBatchNo = QStringLiteral("''");
 
 QString figure(double value)
 {
-    return NumberText::sqlNumber(value);
+    return SqlText::number(value);
 }
 
 QString whole(qint64 value)
@@ -47,15 +47,15 @@ QString insertStatement(const ICInitStruct &r)
     QStringList values{BranchNo, whole(r.Period), whole(r.StockID), whole(r.SPID),
                        whole(r.ItemID), whole(r.UnitID), NoBatchNo};
     values += insertFigures(r);
-    values += {SaveScript::quoted(r.StockInDate), whole(r.SecUnitID), whole(r.AuxPropID), figure(r.SecCoefficient),
-               SaveScript::quoted(r.composedKey())};
+    values += {SqlText::quoted(r.StockInDate), whole(r.SecUnitID), whole(r.AuxPropID), figure(r.SecCoefficient),
+               SqlText::quoted(r.composedKey())};
     return SaveScript::itemInsertHead() + values.join(u',') + u')';
 }
 
 QString updateStatement(const ICInitStruct &r)
 {
-    const QString newKey = SaveScript::quoted(r.composedKey());
-    const QString oldKey = SaveScript::quoted(r.oFieldCompose);
+    const QString newKey = SqlText::quoted(r.composedKey());
+    const QString oldKey = SqlText::quoted(r.oFieldCompose);
     if (r.BatchManager)
         return QStringLiteral("update icinvinitial set FItemID=%1,funitid=%2,FFieldCompose=%3,FAuxPropID=%4"
                               " where FFieldCompose=%5")
@@ -72,7 +72,7 @@ QString updateStatement(const ICInitStruct &r)
         {"FYtdAuxUnitSend", r.YtdAuxUnitSend},     {"FYtdAuxUnitReceive", r.YtdAuxUnitReceive},
     };
     QString text = QStringLiteral("update icinvinitial set FItemID=%1, funitid=%2 ,FStockInDate=%3")
-                       .arg(whole(r.ItemID), whole(r.UnitID), SaveScript::quoted(r.StockInDate));
+                       .arg(whole(r.ItemID), whole(r.UnitID), SqlText::quoted(r.StockInDate));
     for (const auto &[column, value] : figures)
         text += u',' + QLatin1String(column) + u'=' + figure(value);
     text += QStringLiteral(",FFieldCompose=%1 ,FAuxPropID=%2 where FFieldCompose=%3")
@@ -130,15 +130,8 @@ const QString &itemInsertHead()
 QString systemProfileUpdate(qint64 iniBillInterId)
 {
     return QStringLiteral("Update t_SystemProfile Set FValue=%1 Where FCategory='IC' And FKey='INIBillInterID'")
-               .arg(quoted(whole(iniBillInterId)))
+               .arg(SqlText::quoted(whole(iniBillInterId)))
            + Msg::LineBreak;
-}
-
-QString quoted(const QString &text)
-{
-    QString out = text;
-    out.replace(u'\'', QLatin1String("''"));
-    return u'\'' + out + u'\'';
 }
 
 } // namespace SaveScript

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "entry/rowcheck.h"
+#include "sheet/rowcheck.h"
 #include "frame/lumoicinitial_global.h"
 
 class CellModel;

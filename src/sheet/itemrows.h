@@ -1,6 +1,6 @@
 #pragma once
 
-#include "entry/iteminfo.h"
+#include "sheet/iteminfo.h"
 #include "frame/lumoicinitial_global.h"
 
 #include <QColor>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "entry/changebook.h"
+#include "sheet/changebook.h"
 #include "frame/lumoicinitial_global.h"
 
 #include <QString>

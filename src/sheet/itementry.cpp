@@ -1,8 +1,8 @@
 #include "itementry.h"
 
-#include "entry/entrygridlayout.h"
-#include "entry/entrysheet.h"
-#include "entry/iteminfo.h"
+#include "sheet/entrygridlayout.h"
+#include "sheet/entrysheet.h"
+#include "sheet/iteminfo.h"
 
 #include "frame/logincontext.h"
 #include "frame/messages.h"

@@ -4,13 +4,17 @@
 
 #include <QString>
 
-class Dictionary;
+#include <memory>
 
-// The item whose detail lines the batch dialog edits, as the opener hands it over in the keyed
-// collection BMItemKey ("ID", "ShortNum", "Num", "Name", "Model", "FBM", "FKF", "Track",
-// "PlanPrice", "UnitID", "QtyDecimal", "PriceDecimal", "KFPeriod", "SecUnitID",
-// "SecCoefficient", "AuxPropID"). A missing key reads as 0, false or empty.
-struct LUMOICINITIAL_EXPORT BatchItem
+class Dictionary;
+class Recordset;
+
+// An item as every item grid keeps it beside its rows: editing, unfolding and the batch dialog
+// read its flags and precisions from here rather than from the grid. The batch dialog receives it
+// in the keyed collection BMItemKey ("ID", "ShortNum", "Num", "Name", "Model", "FBM", "FKF",
+// "Track", "PlanPrice", "UnitID", "QtyDecimal", "PriceDecimal", "KFPeriod", "SecUnitID",
+// "SecCoefficient", "AuxPropID", "AuxClassID"); a missing key reads as 0, false or empty.
+struct LUMOICINITIAL_EXPORT ItemInfo
 {
     qint32 id = 0;
     QString shortNumber;
@@ -28,13 +32,12 @@ struct LUMOICINITIAL_EXPORT BatchItem
     qint32 secUnitId = 0;
     double secCoefficient = 0;
     qint32 auxPropId = 0;
+    qint32 auxClassId = 0;
+    QString auxClassName;
 
-    static BatchItem fromItemKey(const Dictionary &key);
-
+    bool hasDetailLines() const { return batchManaged || shelfLifeManaged; }
     // "Name" and, when there is one, "/" and the model.
     QString title() const;
-    // The caption of the grid's mode: what the lines hold for this item and accounting.
-    QString modeCaption(bool quantitiesOnly) const;
     bool plannedCost() const;
     // Amounts of an average-priced batch item are spread over its batches (one unit price);
     // the account set must keep amounts and offer the apportioning.
@@ -42,4 +45,9 @@ struct LUMOICINITIAL_EXPORT BatchItem
     // Whether a batch number typed twice is refused at once. With shelf-life management a batch
     // may repeat under another production date, so the complete test waits for the save.
     bool refusesRepeatedBatchOnEntry() const;
+
+    // From a record of an item recordset (the fields FetchYtdInitialData delivers).
+    static ItemInfo fromRecord(const Recordset &rs, int row);
+    static ItemInfo fromItemKey(const Dictionary &key);
+    std::unique_ptr<Dictionary> toItemKey() const;
 };

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "entry/iteminfo.h"
-#include "entry/itemrows.h"
+#include "sheet/iteminfo.h"
+#include "sheet/itemrows.h"
 #include "frame/lumoicinitial_global.h"
 
 #include <QHash>

@@ -1,6 +1,6 @@
 #include "entrysheet.h"
 
-#include "entry/entrygridlayout.h"
+#include "sheet/entrygridlayout.h"
 
 #include "frame/librarystate.h"
 #include "frame/logincontext.h"

@@ -10,7 +10,7 @@ class ICInitStruct;
 struct EntryPlace;
 
 // The statements that save the entry grid's changes to ICInvInitial, as one text for the data
-// service's UpdateINIData. Numbers are written as NumberText::sqlNumber() writes them, texts and
+// service's UpdateINIData. Numbers are written as SqlText::number() writes them, texts and
 // dates in single quotes with a quote inside doubled; every statement ends with CR LF.
 namespace SaveScript {
 
@@ -29,8 +29,5 @@ LUMOICINITIAL_EXPORT const QString &itemInsertHead();
 
 // Writes the record counter INIBillInterID back to the system profile (one statement, CR LF).
 LUMOICINITIAL_EXPORT QString systemProfileUpdate(qint64 iniBillInterId);
-
-// A text as a SQL literal: in single quotes, a quote inside doubled.
-LUMOICINITIAL_EXPORT QString quoted(const QString &text);
 
 } // namespace SaveScript

@@ -1,12 +1,12 @@
 #include "entrysaver.h"
 
-#include "entry/entrygridlayout.h"
-#include "entry/entrysheet.h"
-#include "entry/gridrowview.h"
-#include "entry/itemrows.h"
-#include "entry/numbertext.h"
-#include "entry/rowcheck.h"
-#include "entry/savescript.h"
+#include "sheet/entrygridlayout.h"
+#include "sheet/entrysheet.h"
+#include "sheet/gridrowview.h"
+#include "sheet/itemrows.h"
+#include "sheet/sqltext.h"
+#include "sheet/rowcheck.h"
+#include "sheet/savescript.h"
 
 #include "frame/icinitstruct.h"
 #include "frame/librarystate.h"
@@ -47,7 +47,7 @@ void EntrySaver::normaliseRow(int row)
     for (const auto &g : ItemRows::groups()) {
         for (int col : {g.quantity, g.auxQuantity, g.amount, g.difference}) {
             if (cells.value(row, col).isValid())
-                cells.setNumber(row, col, NumberText::roundFigure(cells.number(row, col)));
+                cells.setNumber(row, col, SqlText::roundFigure(cells.number(row, col)));
         }
     }
 }

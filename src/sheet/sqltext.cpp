@@ -1,15 +1,15 @@
-#include "numbertext.h"
+#include "sqltext.h"
 
 #include "grid/numberformat.h"
 
-namespace NumberText {
+namespace SqlText {
 
 double roundFigure(double value)
 {
     return NumberFormat::roundHalfAway(value, FigureDecimals);
 }
 
-QString sqlNumber(double value)
+QString number(double value)
 {
     // format() already drops the sign of a value that rounds to zero.
     QString text = NumberFormat::format(value, FigureDecimals, false);
@@ -22,4 +22,11 @@ QString sqlNumber(double value)
     return text;
 }
 
-} // namespace NumberText
+QString quoted(const QString &text)
+{
+    QString out = text;
+    out.replace(u'\'', QLatin1String("''"));
+    return u'\'' + out + u'\'';
+}
+
+} // namespace SqlText

@@ -7,7 +7,7 @@
 
 // Values as the services and the opener hand them over: flags as booleans, numbers or "True",
 // dates as dates or texts.
-namespace BatchValues {
+namespace RecordValues {
 
 LUMOICINITIAL_EXPORT bool flag(const QVariant &value);
 
@@ -15,4 +15,4 @@ LUMOICINITIAL_EXPORT bool flag(const QVariant &value);
 // Invalid for anything else, an empty text included.
 LUMOICINITIAL_EXPORT QDate date(const QVariant &value);
 
-} // namespace BatchValues
+} // namespace RecordValues

@@ -1,11 +1,11 @@
 #include "rowcheck.h"
 
-#include "entry/entrygridlayout.h"
-#include "entry/entrysheet.h"
-#include "entry/itemrows.h"
-#include "entry/numbertext.h"
+#include "sheet/entrygridlayout.h"
+#include "sheet/entrysheet.h"
+#include "sheet/itemrows.h"
+#include "sheet/sqltext.h"
 
-#include "frame/balancecheck.h"
+#include "sheet/balancecheck.h"
 #include "frame/icinitstruct.h"
 #include "frame/logincontext.h"
 #include "frame/sysparams.h"
@@ -54,8 +54,8 @@ RowVerdict check(const EntryRowView &row, const EntryPlace &place, const AuxClas
     GroupFigures figures[EntryRowView::GroupCount];
     for (int i = 0; i < EntryRowView::GroupCount; ++i) {
         const GroupFigures raw = row.group(i);
-        figures[i] = {NumberText::roundFigure(raw.quantity), NumberText::roundFigure(raw.auxQuantity),
-                      NumberText::roundFigure(raw.amount), NumberText::roundFigure(raw.difference)};
+        figures[i] = {SqlText::roundFigure(raw.quantity), SqlText::roundFigure(raw.auxQuantity),
+                      SqlText::roundFigure(raw.amount), SqlText::roundFigure(raw.difference)};
     }
     const BalanceRules rules{place.stockType, SysParams::toBool(SysParam::UnderStock),
                              SysParams::toInt(SysParam::AuditChoice)};
