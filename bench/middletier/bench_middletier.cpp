@@ -16,8 +16,8 @@
 #include "benchaccountsets.h"
 
 #include "db/bulkinserter.h"
-#include "db/dbdialect.h"
 #include "db/sqlrun.h"
+#include "dialect/sqldialect.h"
 #include "queries/initialdatasql.h"
 #include "queries/pagewindow.h"
 #include "queries/stockquery.h"
@@ -268,7 +268,7 @@ void benchPage(const QString &backend, const QString &cacheDir)
     const int stockId =
         SqlRun::scalar(db, QStringLiteral("SELECT FItemID FROM t_Stock WHERE FNumber=?"), {FirstGeneratedStock}).toInt();
     const auto sql = InitialDataSql::build({stockId, 0, Period}, DialogFilter({{}, {}, {}}, {}), false,
-                                           script::dialectForDriver(db.driverName()));
+                                           SqlDialect::of(db));
     const int lastPage = int((BigItems + PageSize - 1) / PageSize);
     LumoMICInitialData data;
     for (const int pageIndex : {1, lastPage}) {
@@ -300,7 +300,7 @@ void benchPage(const QString &backend, const QString &cacheDir)
 
 void addStockPlaces(const QSqlDatabase &db)
 {
-    const DbDialect &dialect = DbDialect::of(db);
+    const SqlDialect &dialect = SqlDialect::of(db);
     QSqlDatabase conn = db;
     conn.transaction();
     {

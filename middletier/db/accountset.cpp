@@ -1,6 +1,6 @@
 #include "accountset.h"
 
-#include "dbdialect.h"
+#include "dialect/sqldialect.h"
 #include "mterrors.h"
 #include "schemamanager.h"
 #include "sqlrun.h"
@@ -77,7 +77,7 @@ QSqlDatabase connect(const AcctDbLocation &location)
     if (!existing.isEmpty())
         return QSqlDatabase::database(existing, false);
 
-    const DbDialect &dialect = DbDialect::of(location.backend());
+    const SqlDialect &dialect = SqlDialect::of(location.backend());
     const QString name = connectionName(location);
     {
         QSqlDatabase db = QSqlDatabase::addDatabase(dialect.driverName(), name);
@@ -94,7 +94,7 @@ QSqlDatabase connect(const AcctDbLocation &location)
     threadConnections.add(location.key(), name);
     QSqlDatabase db = QSqlDatabase::database(name, false);
     try {
-        SqlRun::execAll(db, dialect.sessionSetup(location));
+        SqlRun::execAll(db, dialect.sessionSetup(location.schema()));
     } catch (...) {
         threadConnections.remove(location.key());
         throw;
@@ -125,9 +125,9 @@ AccountSet::AccountSet(const AcctDbLocation &location, const QSqlDatabase &db)
 {
 }
 
-const DbDialect &AccountSet::dialect() const
+const SqlDialect &AccountSet::dialect() const
 {
-    return DbDialect::of(m_location.backend());
+    return SqlDialect::of(m_location.backend());
 }
 
 AccountSet AccountSet::fromPropsString(const QString &propsString)
@@ -144,7 +144,7 @@ AccountSet AccountSet::open(const QString &acctDb)
     requireExisting(location);
     QSqlDatabase db = connect(location);
     if (!isChecked(location.key())) {
-        SchemaManager schema(db, DbDialect::of(location.backend()));
+        SchemaManager schema(db, SqlDialect::of(location.backend()));
         if (accountSetVersion(schema, location) != Schema::CurrentVersion)
             schema.migrate();
         setChecked(location.key(), true);
@@ -158,9 +158,9 @@ AccountSet AccountSet::create(const QString &acctDb)
     if (!location.isPostgres() && QFileInfo(location.filePath()).size() > 0)
         throw LumoError(MtError::AcctDbExists, MtError::AcctDbExistsText.arg(location.displayName()), Source);
     QSqlDatabase db = connect(location);
-    const DbDialect &dialect = DbDialect::of(location.backend());
-    SqlRun::execAll(db, dialect.createContainer(location));
-    SqlRun::execAll(db, dialect.sessionSetup(location));
+    const SqlDialect &dialect = SqlDialect::of(location.backend());
+    SqlRun::execAll(db, dialect.createContainer(location.schema()));
+    SqlRun::execAll(db, dialect.sessionSetup(location.schema()));
     SchemaManager schema(db, dialect);
     if (!schema.isEmpty())
         throw LumoError(MtError::AcctDbExists, MtError::AcctDbExistsText.arg(location.displayName()), Source);
@@ -173,7 +173,7 @@ int AccountSet::migrate(const QString &acctDb)
 {
     const AcctDbLocation location = AcctDbLocation::parse(acctDb);
     requireExisting(location);
-    SchemaManager schema(connect(location), DbDialect::of(location.backend()));
+    SchemaManager schema(connect(location), SqlDialect::of(location.backend()));
     accountSetVersion(schema, location);
     const int before = schema.migrate();
     setChecked(location.key(), true);

@@ -5,7 +5,7 @@
 
 #include <QSqlDatabase>
 
-class DbDialect;
+class SqlDialect;
 
 // One account set is one database. Services find it from the property string's "AcctDB" and
 // work on this thread's connection to it, opened on first use and kept for the thread (a
@@ -30,7 +30,7 @@ public:
     static void close(const QString &acctDb);
 
     QSqlDatabase database() const { return m_db; }
-    const DbDialect &dialect() const;
+    const SqlDialect &dialect() const;
     const AcctDbLocation &location() const { return m_location; }
 
 private:

@@ -41,7 +41,7 @@ AcctDbLocation AcctDbLocation::parse(const QString &acctDb)
         refuse(acctDb);
     AcctDbLocation location;
     if (!isPostgresUri(text)) {
-        location.m_backend = Backend::SQLite;
+        location.m_backend = SqlBackend::SQLite;
         location.m_filePath = QDir::cleanPath(QFileInfo(text).absoluteFilePath());
         return location;
     }
@@ -49,7 +49,7 @@ AcctDbLocation AcctDbLocation::parse(const QString &acctDb)
     const QString database = url.path().mid(1);
     if (!url.isValid() || url.host().isEmpty() || database.isEmpty() || database.contains(QLatin1Char('/')))
         refuse(acctDb);
-    location.m_backend = Backend::PostgreSQL;
+    location.m_backend = SqlBackend::PostgreSQL;
     location.m_host = url.host();
     location.m_port = url.port(DefaultPostgresPort);
     location.m_userName = url.userName(QUrl::FullyDecoded);
@@ -66,14 +66,14 @@ AcctDbLocation AcctDbLocation::parse(const QString &acctDb)
 
 QString AcctDbLocation::key() const
 {
-    if (m_backend == Backend::SQLite)
+    if (m_backend == SqlBackend::SQLite)
         return QStringLiteral("sqlite:") + m_filePath;
     return QStringLiteral("pg:%1@%2:%3/%4/%5").arg(m_userName, m_host).arg(m_port).arg(m_databaseName, m_schema);
 }
 
 QString AcctDbLocation::displayName() const
 {
-    if (m_backend == Backend::SQLite)
+    if (m_backend == SqlBackend::SQLite)
         return m_filePath;
     QString name = QStringLiteral("postgresql://%1@%2:%3/%4").arg(m_userName, m_host).arg(m_port).arg(m_databaseName);
     if (!m_schema.isEmpty())

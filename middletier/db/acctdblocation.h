@@ -2,6 +2,8 @@
 
 #include "middletier_global.h"
 
+#include "dialect/sqlbackend.h"
+
 #include <QString>
 
 class QSqlDatabase;
@@ -13,13 +15,11 @@ class QSqlDatabase;
 class LUMOMIDDLETIER_EXPORT AcctDbLocation
 {
 public:
-    enum class Backend { SQLite, PostgreSQL };
-
     // Throws LumoError (MtError::BadAcctDb) for an empty text or a URI that is not usable.
     static AcctDbLocation parse(const QString &acctDb);
 
-    Backend backend() const { return m_backend; }
-    bool isPostgres() const { return m_backend == Backend::PostgreSQL; }
+    SqlBackend backend() const { return m_backend; }
+    bool isPostgres() const { return m_backend == SqlBackend::PostgreSQL; }
 
     // SQLite: the absolute file path.
     QString filePath() const { return m_filePath; }
@@ -43,7 +43,7 @@ public:
     void configure(QSqlDatabase &db) const;
 
 private:
-    Backend m_backend = Backend::SQLite;
+    SqlBackend m_backend = SqlBackend::SQLite;
     QString m_filePath;
     QString m_host;
     int m_port = 5432;

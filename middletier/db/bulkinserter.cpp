@@ -1,6 +1,6 @@
 #include "bulkinserter.h"
 
-#include "dbdialect.h"
+#include "dialect/sqldialect.h"
 #include "sqlrun.h"
 
 namespace {
@@ -10,7 +10,7 @@ constexpr int MaxRowsPerStatement = 200;
 
 } // namespace
 
-BulkInserter::BulkInserter(const QSqlDatabase &db, const DbDialect &dialect, const QString &table,
+BulkInserter::BulkInserter(const QSqlDatabase &db, const SqlDialect &dialect, const QString &table,
                            const QStringList &columns)
     : m_db(db)
     , m_table(table)

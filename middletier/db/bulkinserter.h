@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <QVariantList>
 
-class DbDialect;
+class SqlDialect;
 
 // Inserts many rows into one table quickly: rows are gathered into multi-row INSERT statements
 // of one prepared shape, so a million rows cost a few ten thousand executions. The caller holds
@@ -15,7 +15,7 @@ class DbDialect;
 class LUMOMIDDLETIER_EXPORT BulkInserter
 {
 public:
-    BulkInserter(const QSqlDatabase &db, const DbDialect &dialect, const QString &table, const QStringList &columns);
+    BulkInserter(const QSqlDatabase &db, const SqlDialect &dialect, const QString &table, const QStringList &columns);
     ~BulkInserter();
 
     BulkInserter(const BulkInserter &) = delete;

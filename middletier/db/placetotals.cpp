@@ -1,6 +1,6 @@
 #include "placetotals.h"
 
-#include "dbdialect.h"
+#include "dialect/sqldialect.h"
 
 #include <cmath>
 
@@ -78,9 +78,9 @@ const QStringList &PlaceTotals::figures()
     return names;
 }
 
-QStringList PlaceTotals::triggerStatements(const DbDialect &dialect)
+QStringList PlaceTotals::triggerStatements(const SqlDialect &dialect)
 {
-    DbDialect::RowTrigger trigger;
+    SqlDialect::RowTrigger trigger;
     trigger.name = TriggerName;
     trigger.table = Rows;
     trigger.onInsert = added(false);

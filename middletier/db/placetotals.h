@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-class DbDialect;
+class SqlDialect;
 
 // The totals of one place (warehouse, stock place, period) of ICInvInitial: how many item rows
 // (item and auxiliary property) it holds and the sums of the twelve figures. Summing a large
@@ -21,7 +21,7 @@ public:
     // The twelve figure columns, named as in ICInvInitial.
     static const QStringList &figures();
     // The triggers on ICInvInitial that keep the table.
-    static QStringList triggerStatements(const DbDialect &dialect);
+    static QStringList triggerStatements(const SqlDialect &dialect);
     // Fills the table from the rows already there (an account set upgraded to the version).
     static QString backfill();
     // FGroups and the twelve sums of one place: '?' for FStockID, FSPID, FPeriod.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "columntype.h"
+#include "dialect/columntype.h"
 #include "middletier_global.h"
 
 #include <QList>

@@ -1,6 +1,6 @@
 #include "schemaddl.h"
 
-#include "dbdialect.h"
+#include "dialect/sqldialect.h"
 #include "placetotals.h"
 
 QString SchemaDdl::columnDefinition(const ColumnDecl &column) const

@@ -5,14 +5,14 @@
 
 #include <QStringList>
 
-class DbDialect;
+class SqlDialect;
 
 // The DDL of the declared schema in one dialect: a whole schema at a version, or the steps
 // from one version to a later one.
 class LUMOMIDDLETIER_EXPORT SchemaDdl
 {
 public:
-    explicit SchemaDdl(const DbDialect &dialect)
+    explicit SchemaDdl(const SqlDialect &dialect)
         : m_dialect(dialect)
     {
     }
@@ -30,5 +30,5 @@ private:
     QString columnDefinition(const ColumnDecl &column) const;
     QString createIndex(const TableDecl &table, const IndexDecl &index) const;
 
-    const DbDialect &m_dialect;
+    const SqlDialect &m_dialect;
 };

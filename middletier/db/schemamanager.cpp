@@ -1,6 +1,6 @@
 #include "schemamanager.h"
 
-#include "dbdialect.h"
+#include "dialect/sqldialect.h"
 #include "mterrors.h"
 #include "schemaddl.h"
 #include "sqlrun.h"
@@ -18,7 +18,7 @@ constexpr int AdministratorID = 1;
 
 } // namespace
 
-SchemaManager::SchemaManager(const QSqlDatabase &db, const DbDialect &dialect)
+SchemaManager::SchemaManager(const QSqlDatabase &db, const SqlDialect &dialect)
     : m_db(db)
     , m_dialect(dialect)
 {

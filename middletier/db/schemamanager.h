@@ -6,14 +6,14 @@
 #include <QDate>
 #include <QSqlDatabase>
 
-class DbDialect;
+class SqlDialect;
 
 // Creates and upgrades the tables of one account set. Every change runs in one transaction, so
 // an interrupted upgrade leaves the older version intact.
 class LUMOMIDDLETIER_EXPORT SchemaManager
 {
 public:
-    SchemaManager(const QSqlDatabase &db, const DbDialect &dialect);
+    SchemaManager(const QSqlDatabase &db, const SqlDialect &dialect);
 
     // The schema version of the account set; 0 when it has no version table.
     int version() const;
@@ -32,5 +32,5 @@ private:
     void recordVersion(int version);
 
     QSqlDatabase m_db;
-    const DbDialect &m_dialect;
+    const SqlDialect &m_dialect;
 };

@@ -1,6 +1,6 @@
 #include "transaction.h"
 
-#include "dbdialect.h"
+#include "dialect/sqldialect.h"
 #include "sqlrun.h"
 
 #include <QSqlQuery>
@@ -12,7 +12,7 @@ Transaction::Transaction(const QSqlDatabase &db)
     m_open = true;
 }
 
-Transaction::Transaction(const QSqlDatabase &db, const DbDialect &dialect, const QString &exclusiveTable)
+Transaction::Transaction(const QSqlDatabase &db, const SqlDialect &dialect, const QString &exclusiveTable)
     : m_db(db)
 {
     const QStringList statements = dialect.beginExclusive(exclusiveTable);

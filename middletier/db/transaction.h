@@ -4,7 +4,7 @@
 
 #include <QSqlDatabase>
 
-class DbDialect;
+class SqlDialect;
 
 // A transaction that rolls back unless it was committed, so an exception leaves the account
 // set as it was.
@@ -13,7 +13,7 @@ class LUMOMIDDLETIER_EXPORT Transaction
 public:
     explicit Transaction(const QSqlDatabase &db);
     // Holds the table against every other writer until commit (the task mutex, migrations).
-    Transaction(const QSqlDatabase &db, const DbDialect &dialect, const QString &exclusiveTable);
+    Transaction(const QSqlDatabase &db, const SqlDialect &dialect, const QString &exclusiveTable);
     ~Transaction();
 
     Transaction(const Transaction &) = delete;

@@ -1,9 +1,9 @@
 #include "democompany.h"
 
-#include "db/dbdialect.h"
 #include "db/sqlrun.h"
 #include "db/transaction.h"
 #include "demovolume.h"
+#include "dialect/sqldialect.h"
 #include "openingline.h"
 
 #include <QStringList>
@@ -188,7 +188,7 @@ QString text(const char *utf8)
 
 } // namespace
 
-DemoCompany::DemoCompany(const QSqlDatabase &db, const DbDialect &dialect)
+DemoCompany::DemoCompany(const QSqlDatabase &db, const SqlDialect &dialect)
     : m_db(db)
     , m_dialect(dialect)
 {

@@ -5,7 +5,7 @@
 #include <QDate>
 #include <QSqlDatabase>
 
-class DbDialect;
+class SqlDialect;
 
 // A believable demo company in a freshly created account set: warehouses with and without
 // stock places (one nested, one held for others, one of a type the tree leaves out), units and
@@ -27,7 +27,7 @@ public:
     // The period the demo's balances are entered for: the inventory module starts in April.
     static constexpr int CurrentPeriod = 4;
 
-    DemoCompany(const QSqlDatabase &db, const DbDialect &dialect);
+    DemoCompany(const QSqlDatabase &db, const SqlDialect &dialect);
 
     // Everything in one transaction.
     void seed(const Options &options);
@@ -47,5 +47,5 @@ private:
     void insert(const QString &table, const QStringList &columns, const QVariantList &values);
 
     QSqlDatabase m_db;
-    const DbDialect &m_dialect;
+    const SqlDialect &m_dialect;
 };

@@ -1,8 +1,8 @@
 #include "demovolume.h"
 
 #include "db/bulkinserter.h"
-#include "db/dbdialect.h"
 #include "db/sqlrun.h"
+#include "dialect/sqldialect.h"
 #include "openingline.h"
 
 #include <QDate>
@@ -24,7 +24,7 @@ int nextId(const QSqlDatabase &db, const QString &table, const QString &column)
 
 } // namespace
 
-DemoVolume::DemoVolume(const QSqlDatabase &db, const DbDialect &dialect)
+DemoVolume::DemoVolume(const QSqlDatabase &db, const SqlDialect &dialect)
     : m_db(db)
     , m_dialect(dialect)
 {

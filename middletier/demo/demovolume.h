@@ -4,7 +4,7 @@
 
 #include <QSqlDatabase>
 
-class DbDialect;
+class SqlDialect;
 
 // Generated volume on top of the demo company, for measurements: items numbered "99.000001"
 // on, warehouses numbered "90.001" on, and one initial balance per item in every generated
@@ -14,11 +14,11 @@ class DbDialect;
 class LUMOMIDDLETIER_EXPORT DemoVolume
 {
 public:
-    DemoVolume(const QSqlDatabase &db, const DbDialect &dialect);
+    DemoVolume(const QSqlDatabase &db, const SqlDialect &dialect);
 
     void seed(int items, int warehouses, int period, int year);
 
 private:
     QSqlDatabase m_db;
-    const DbDialect &m_dialect;
+    const SqlDialect &m_dialect;
 };

@@ -114,7 +114,7 @@ script::FilterFields filterFields(const QString &alias)
 Recordset *fetch(const QSqlDatabase &db, int period, const QString &filter, const QString &sort)
 {
     const auto applied = DialogFilter({filter}, sort).apply(filterFields(QStringLiteral("x")),
-                                                            script::dialectForDriver(db.driverName()));
+                                                            SqlDialect::of(db));
     if (!applied)
         return new Recordset(fields());
     const script::BoundSql table = derivedTable(db, period);

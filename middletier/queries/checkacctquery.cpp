@@ -82,7 +82,7 @@ Dictionary *fetch(const QSqlDatabase &db, const Request &request)
 {
     const PageWindow window(request.pageSize, request.pageIndex);
     const auto applied = DialogFilter(request.filters, request.sort)
-                             .apply(reconciliationFields(), script::dialectForDriver(db.driverName()));
+                             .apply(reconciliationFields(), SqlDialect::of(db));
     const qsizetype sumCount = request.withTotals ? ItemRowFields::figureFields().size() : 0;
     const auto empty = [&] {
         return PagedResult::make(std::make_unique<Recordset>(fields()), 0, 0,

@@ -33,7 +33,7 @@ DialogFilter::DialogFilter(const QStringList &filters, const QString &sort)
 }
 
 std::optional<DialogFilter::Applied> DialogFilter::apply(const script::FilterFields &fields,
-                                                         script::Dialect dialect) const
+                                                         const SqlDialect &dialect) const
 {
     const script::FilterParser parser(fields, dialect);
     Applied applied;

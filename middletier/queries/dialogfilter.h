@@ -2,8 +2,8 @@
 
 #include "middletier_global.h"
 
+#include "dialect/sqldialect.h"
 #include "script/boundsql.h"
-#include "script/dialect.h"
 #include "script/filterfields.h"
 
 #include <QList>
@@ -38,7 +38,7 @@ public:
 
     // Nothing when a text names an undeclared field or is not a filter or sort at all: such a
     // text selects nothing, it never reaches the database.
-    std::optional<Applied> apply(const script::FilterFields &fields, script::Dialect dialect) const;
+    std::optional<Applied> apply(const script::FilterFields &fields, const SqlDialect &dialect) const;
 
 private:
     QStringList m_filters;

@@ -74,7 +74,7 @@ const QStringList &fields()
 Recordset *fetch(const QSqlDatabase &db, const Request &request)
 {
     const auto applied = DialogFilter({request.filter}, request.sort)
-                             .apply(exportFilterFields(), script::dialectForDriver(db.driverName()));
+                             .apply(exportFilterFields(), SqlDialect::of(db));
     if (!applied)
         return new Recordset(fields());
     QStringList select;

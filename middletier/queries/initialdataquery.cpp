@@ -16,7 +16,7 @@ Dictionary *fetch(const QSqlDatabase &db, const Request &request)
 {
     const PageWindow window(request.pageSize, request.pageIndex);
     const auto sql = InitialDataSql::build(request.place, DialogFilter(request.filters, request.sort),
-                                           request.useShortNumber, script::dialectForDriver(db.driverName()));
+                                           request.useShortNumber, SqlDialect::of(db));
     qint64 recordCount = 0;
     QVector<QVariant> sums(ItemRowFields::figureFields().size(), 0.0);
     if (sql) {

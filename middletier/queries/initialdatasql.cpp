@@ -22,7 +22,7 @@ QString andCondition(const script::BoundSql &where)
 } // namespace
 
 std::optional<InitialDataSql> InitialDataSql::build(const PlacePeriod &place, const DialogFilter &filter,
-                                                    bool useShortNumber, script::Dialect dialect)
+                                                    bool useShortNumber, const SqlDialect &dialect)
 {
     if (const auto itemLevel = filter.apply(ItemRowFields::filterFields(true), dialect))
         return InitialDataSql(place, *itemLevel, false, useShortNumber);

@@ -3,8 +3,8 @@
 #include "dialogfilter.h"
 #include "middletier_global.h"
 
+#include "dialect/sqldialect.h"
 #include "script/boundsql.h"
-#include "script/dialect.h"
 
 #include <optional>
 
@@ -35,7 +35,7 @@ class LUMOMIDDLETIER_EXPORT InitialDataSql
 public:
     // Nothing when a filter or sort text is refused (DialogFilter::apply).
     static std::optional<InitialDataSql> build(const PlacePeriod &place, const DialogFilter &filter,
-                                               bool useShortNumber, script::Dialect dialect);
+                                               bool useShortNumber, const SqlDialect &dialect);
 
     bool groupsFirst() const { return m_groupsFirst; }
     // The item rows of the page (ItemRowFields::rowFields()).

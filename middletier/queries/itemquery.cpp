@@ -7,7 +7,7 @@
 #include "db/recordsetbuilder.h"
 #include "db/sqlrun.h"
 
-#include "script/dialect.h"
+#include "dialect/sqldialect.h"
 
 namespace {
 
@@ -65,7 +65,7 @@ Recordset *lookup(const QSqlDatabase &db, const QString &erpClassCondition, cons
         values += classes.values;
     }
     if (!pattern.trimmed().isEmpty()) {
-        const QString like = script::SqlDialect::of(script::dialectForDriver(db.driverName())).likeOperator(false);
+        const QString like = SqlDialect::of(db).likeOperator(false);
         conditions += QStringLiteral(" AND (i.FNumber %1 ? OR i.FShortNumber %1 ? OR i.FName %1 ?)").arg(like);
         const QString contains = QLatin1Char('%') + pattern.trimmed() + QLatin1Char('%');
         values << contains << contains << contains;

@@ -3,7 +3,7 @@
 #include "db/recordsetbuilder.h"
 #include "db/sqlrun.h"
 
-#include "script/dialect.h"
+#include "dialect/sqldialect.h"
 
 namespace LookupQuery {
 
@@ -38,7 +38,7 @@ Recordset *accounts(const QSqlDatabase &db, const QString &pattern)
     QString condition;
     QVariantList values;
     if (!pattern.trimmed().isEmpty()) {
-        const QString like = script::SqlDialect::of(script::dialectForDriver(db.driverName())).likeOperator(false);
+        const QString like = SqlDialect::of(db).likeOperator(false);
         condition = QStringLiteral(" WHERE FNumber %1 ? OR FName %1 ?").arg(like);
         const QString contains = QLatin1Char('%') + pattern.trimmed() + QLatin1Char('%');
         values << contains << contains;

@@ -1,8 +1,8 @@
 #include "taskmutexstore.h"
 
-#include "db/dbdialect.h"
 #include "db/sqlrun.h"
 #include "db/transaction.h"
+#include "dialect/sqldialect.h"
 
 #include "frame/automation/recordset.h"
 
@@ -25,7 +25,7 @@ QVariant asDateTime(const QVariant &value)
 
 } // namespace
 
-TaskMutexStore::TaskMutexStore(const QSqlDatabase &db, const DbDialect &dialect, const QString &localComputer)
+TaskMutexStore::TaskMutexStore(const QSqlDatabase &db, const SqlDialect &dialect, const QString &localComputer)
     : m_db(db)
     , m_dialect(dialect)
     , m_localComputer(localComputer)

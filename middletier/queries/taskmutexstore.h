@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringList>
 
-class DbDialect;
+class SqlDialect;
 class Recordset;
 
 // Who registers a task: a user, on a computer, in a process. Two registrations of the same
@@ -43,7 +43,7 @@ public:
         QStringLiteral("FCommitted")};
 
     // localComputer: the computer whose processes can be checked (this one).
-    TaskMutexStore(const QSqlDatabase &db, const DbDialect &dialect, const QString &localComputer);
+    TaskMutexStore(const QSqlDatabase &db, const SqlDialect &dialect, const QString &localComputer);
 
     // The handle (> 0) of the session's registration of the task, or 0 when a live
     // registration of another session holds the same task.
@@ -64,6 +64,6 @@ private:
     int clearStaleInTransaction();
 
     QSqlDatabase m_db;
-    const DbDialect &m_dialect;
+    const SqlDialect &m_dialect;
     QString m_localComputer;
 };

@@ -196,7 +196,7 @@ private:
 
 } // namespace
 
-FilterParser::FilterParser(FilterFields fields, Dialect dialect)
+FilterParser::FilterParser(FilterFields fields, const SqlDialect &dialect)
     : m_fields(std::move(fields))
     , m_dialect(dialect)
 {
@@ -205,7 +205,7 @@ FilterParser::FilterParser(FilterFields fields, Dialect dialect)
 BoundSql FilterParser::where(const QString &filter) const
 {
     try {
-        return FilterReader(filter, m_fields, SqlDialect::of(m_dialect)).where();
+        return FilterReader(filter, m_fields, m_dialect).where();
     } catch (const TokenCursor::Failure &failure) {
         throw FilterError(failure.message);
     }
@@ -214,7 +214,7 @@ BoundSql FilterParser::where(const QString &filter) const
 QString FilterParser::orderBy(const QString &sort) const
 {
     try {
-        return FilterReader(sort, m_fields, SqlDialect::of(m_dialect)).orderBy();
+        return FilterReader(sort, m_fields, m_dialect).orderBy();
     } catch (const TokenCursor::Failure &failure) {
         throw FilterError(failure.message);
     }

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "boundsql.h"
-#include "dialect.h"
 #include "filterfields.h"
+
+#include "dialect/sqldialect.h"
 
 namespace script {
 
@@ -32,7 +33,7 @@ namespace script {
 class FilterParser
 {
 public:
-    explicit FilterParser(FilterFields fields, Dialect dialect = Dialect::SQLite);
+    explicit FilterParser(FilterFields fields, const SqlDialect &dialect = SqlDialect::of(SqlBackend::SQLite));
 
     // The condition for a WHERE clause, without the keyword and in parentheses, so it can be
     // joined to the data set's own conditions with AND; empty when the filter has no condition.
@@ -43,7 +44,7 @@ public:
 
 private:
     FilterFields m_fields;
-    Dialect m_dialect;
+    const SqlDialect &m_dialect;
 };
 
 } // namespace script

@@ -94,16 +94,15 @@ std::optional<QVariantList> match(const ReadShape &shape, const QList<Token> &to
 
 } // namespace
 
-ReadStatement checkRead(const QString &sql, Dialect dialect)
+ReadStatement checkRead(const QString &sql, const SqlDialect &dialect)
 {
     const QList<Token> tokens = tokenize(sql);
-    const SqlDialect &backend = SqlDialect::of(dialect);
     for (const ReadShape &shape : shapes()) {
         if (std::optional<QVariantList> values = match(shape, tokens)) {
             QString sql = shape.boundSql;
-            sql.replace(QLatin1String("%1"), backend.nullReplacement());
+            sql.replace(QLatin1String("%1"), dialect.nullReplacement());
             // The text holds no literal, so folding all of it folds just its names.
-            return {backend.identifier(sql), *values};
+            return {dialect.identifier(sql), *values};
         }
     }
     throw ScriptError(1, sql.simplified().left(quotedLength), texts::readRefused);

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "boundsql.h"
-#include "dialect.h"
+
+#include "dialect/sqldialect.h"
 
 namespace script {
 
@@ -22,6 +23,6 @@ using ReadStatement = BoundSql;
 //    WHERE t1.FItemID = <item> AND t2.fmeasureunitid= <secondary unit>),0)
 //
 // Anything else throws ScriptError (statement 1) with the statement's first characters.
-ReadStatement checkRead(const QString &sql, Dialect dialect = Dialect::SQLite);
+ReadStatement checkRead(const QString &sql, const SqlDialect &dialect = SqlDialect::of(SqlBackend::SQLite));
 
 } // namespace script

@@ -7,7 +7,7 @@
 
 namespace script {
 
-ScriptExecutor::ScriptExecutor(QSqlDatabase db, Dialect dialect)
+ScriptExecutor::ScriptExecutor(QSqlDatabase db, const SqlDialect &dialect)
     : m_db(std::move(db))
     , m_dialect(dialect)
 {

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "dialect.h"
 #include "scripterror.h"
 #include "statement.h"
+
+#include "dialect/sqldialect.h"
 
 #include <QHash>
 #include <QSqlDatabase>
@@ -18,7 +19,7 @@ namespace script {
 class ScriptExecutor
 {
 public:
-    ScriptExecutor(QSqlDatabase db, Dialect dialect = Dialect::SQLite);
+    ScriptExecutor(QSqlDatabase db, const SqlDialect &dialect = SqlDialect::of(SqlBackend::SQLite));
 
     // Throws ScriptError naming the refused or failing statement; the database is then unchanged.
     // A script of blanks and line ends only does nothing.
@@ -34,7 +35,7 @@ private:
     void execute(const QList<Statement> &statements, PreparedQueries &prepared);
 
     QSqlDatabase m_db;
-    Dialect m_dialect;
+    const SqlDialect &m_dialect;
     int m_preparedFormCount = 0;
 };
 

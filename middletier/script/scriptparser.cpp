@@ -365,11 +365,11 @@ private:
 
 } // namespace
 
-QList<Statement> parseScript(const QString &text, Dialect dialect)
+QList<Statement> parseScript(const QString &text, const SqlDialect &dialect)
 {
     const QList<Token> tokens = tokenize(text);
     TokenCursor cursor(tokens);
-    StatementParser parser(text, cursor, SqlDialect::of(dialect));
+    StatementParser parser(text, cursor, dialect);
     QList<Statement> statements;
     qsizetype index = 0; // token index where the current statement begins
     try {

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "dialect.h"
 #include "statement.h"
+
+#include "dialect/sqldialect.h"
 
 #include <QList>
 
@@ -25,6 +26,6 @@ namespace script {
 // against the column's kind, and every WHERE against the table's keys. Anything else - another
 // statement kind, OR, functions, comments, ';', NULL - refuses the whole script. Throws
 // ScriptError naming the first refused statement; an empty or blank script gives no statements.
-QList<Statement> parseScript(const QString &text, Dialect dialect = Dialect::SQLite);
+QList<Statement> parseScript(const QString &text, const SqlDialect &dialect = SqlDialect::of(SqlBackend::SQLite));
 
 } // namespace script

@@ -20,7 +20,7 @@ QObject *LumoConnectionAppConnection::Execute(const QString &sql)
     const QSqlDatabase db = AccountSet::fromPropsString(currentLoginPropsString()).database();
     script::ReadStatement read;
     try {
-        read = script::checkRead(sql, script::dialectForDriver(db.driverName()));
+        read = script::checkRead(sql, SqlDialect::of(db));
     } catch (const script::ScriptError &error) {
         throw LumoError(MtError::StatementRefused, MtError::StatementRefusedText.arg(error.text()),
                         QStringLiteral("LumoConnection.AppConnection.Execute"));

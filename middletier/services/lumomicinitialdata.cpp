@@ -36,7 +36,7 @@ void LumoMICInitialData::UpdateINIData(const QString &PropsString, const QString
 {
     const QSqlDatabase db = AccountSet::fromPropsString(PropsString).database();
     try {
-        script::ScriptExecutor(db, script::dialectForDriver(db.driverName())).run(script);
+        script::ScriptExecutor(db, SqlDialect::of(db)).run(script);
     } catch (const script::ScriptError &error) {
         throw LumoError(MtError::ScriptFailed, error.text(), QStringLiteral("LumoMICInitial.Data.UpdateINIData"));
     }

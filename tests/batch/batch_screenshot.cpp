@@ -1,6 +1,6 @@
 // Opens the batch dialog offscreen with three lines and writes it as a PNG, to look at it
 // without a display:   batch_screenshot [file.png]     (default /tmp/batch.png)
-#include "batchfakes.h"
+#include "fakeservices.h"
 
 #include "batch/frmbatchmanager.h"
 
@@ -16,8 +16,8 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     const QString file = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("/tmp/batch.png");
 
-    registerBatchFakes();
-    BatchWorld &world = BatchWorld::instance();
+    registerFakeServices();
+    FakeWorld &world = FakeWorld::instance();
     world.reset();
     // FQtyDecimal, FLock, FBatchNo, FBillInterID, year opening (qty, sec, amount, diff), received,
     // sent, period opening, FSecUnitID, FStockInDate, FKFDate, FKFPeriod, FSNListID.

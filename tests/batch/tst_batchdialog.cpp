@@ -1,6 +1,6 @@
 #include "tst_batchdialog.h"
 
-#include "batchfakes.h"
+#include "fakeservices.h"
 
 #include "batch/batchsession.h"
 #include "batch/frmbatchmanager.h"
@@ -67,13 +67,13 @@ int insertCount(const QString &script)
 void TestBatchDialog::initTestCase()
 {
     QStandardPaths::setTestModeEnabled(true);
-    registerBatchFakes();
+    registerFakeServices();
     Prompter::install(&m_prompter);
 }
 
 void TestBatchDialog::init()
 {
-    BatchWorld::instance().reset();
+    FakeWorld::instance().reset();
     m_prompter.clear();
     setParams();
     LoginContext::instance().reset();
@@ -115,7 +115,7 @@ std::unique_ptr<frmBatchManager> TestBatchDialog::openDialog(bool batch, bool sh
 
 void TestBatchDialog::opensWithLinesAndTotals()
 {
-    BatchWorld &world = BatchWorld::instance();
+    FakeWorld &world = FakeWorld::instance();
     world.detailRows = {record(QStringLiteral("B1"), 10, 500), record(QStringLiteral("B2"), 20.5, 1000.125)};
     const auto dialog = openDialog(true, false);
     SpreadGrid &grid = *dialog->grid();
@@ -164,7 +164,7 @@ void TestBatchDialog::opensWithLinesAndTotals()
 
 void TestBatchDialog::lockedLineStaysReadOnly()
 {
-    BatchWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500, 0, true),
+    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500, 0, true),
                                          record(QStringLiteral("B2"), 5, 50)};
     const auto dialog = openDialog(true, false);
     SpreadGrid &grid = *dialog->grid();
@@ -250,7 +250,7 @@ void TestBatchDialog::emptyItemNeedsAddNew()
 
 void TestBatchDialog::typedBatchRepeatIsRefused()
 {
-    BatchWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500), record(QStringLiteral("B2"), 5, 50)};
+    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500), record(QStringLiteral("B2"), 5, 50)};
     const auto dialog = openDialog(true, false);
     SpreadGrid &grid = *dialog->grid();
 
@@ -270,7 +270,7 @@ void TestBatchDialog::typedBatchRepeatIsRefused()
 void TestBatchDialog::apportioningSplitsTheTypedTotals()
 {
     setParams({{QStringLiteral("ShareBal"), 1}});
-    BatchWorld::instance().detailRows = {record(QStringLiteral("B1"), 1, 10), record(QStringLiteral("B2"), 1, 10),
+    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 1, 10), record(QStringLiteral("B2"), 1, 10),
                                          record(QStringLiteral("B3"), 1, 10)};
     const auto dialog = openDialog(true, false, 76);
     SpreadGrid &grid = *dialog->grid();
@@ -298,8 +298,8 @@ void TestBatchDialog::apportioningSplitsTheTypedTotals()
     QVERIFY(grid.editCell(3, YtdQty, 2));
 
     QVERIFY(dialog->pressButton(QStringLiteral("Save")));
-    QCOMPARE(BatchWorld::instance().scripts.size(), 1);
-    const QString script = BatchWorld::instance().scripts.first();
+    QCOMPARE(FakeWorld::instance().scripts.size(), 1);
+    const QString script = FakeWorld::instance().scripts.first();
     QCOMPARE(insertCount(script), 3); // the input line is not a line
     QVERIFY(script.contains(QStringLiteral("'B3',2,50,0,0,0,0,0,0,0,2,50,0,")));
 
@@ -312,7 +312,7 @@ void TestBatchDialog::apportioningSplitsTheTypedTotals()
 void TestBatchDialog::apportionedQuantityOfANewLineIsAccepted()
 {
     setParams({{QStringLiteral("ShareBal"), 1}});
-    BatchWorld::instance().detailRows = {record(QStringLiteral("B1"), 1, 10)};
+    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 1, 10)};
     const auto dialog = openDialog(true, false, 76);
     SpreadGrid &grid = *dialog->grid();
     QVERIFY(dialog->pressButton(QStringLiteral("ShareBal")));
@@ -333,8 +333,8 @@ void TestBatchDialog::apportionedQuantityOfANewLineIsAccepted()
 
 void TestBatchDialog::quantityEditsFillDependentCells()
 {
-    BatchWorld::instance().unitCoefficient = 1;
-    BatchWorld::instance().secCoefficient = 0.5;
+    FakeWorld::instance().unitCoefficient = 1;
+    FakeWorld::instance().secCoefficient = 0.5;
     auto dialog = openDialog(true, false, 81);
     dialog->setProperty("CurrentSecUnitID", 8);
     dialog->prepare();
@@ -354,7 +354,7 @@ void TestBatchDialog::quantityEditsFillDependentCells()
 
 void TestBatchDialog::refusedGroupKeepsTheFigure()
 {
-    BatchWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
+    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
     const auto dialog = openDialog(true, false);
     SpreadGrid &grid = *dialog->grid();
 
@@ -369,19 +369,19 @@ void TestBatchDialog::refusedGroupKeepsTheFigure()
 
     // And the save refuses the line.
     dialog->pressButton(QStringLiteral("Save"));
-    QVERIFY(BatchWorld::instance().scripts.isEmpty());
+    QVERIFY(FakeWorld::instance().scripts.isEmpty());
     QCOMPARE(m_prompter.messages().size(), 2);
 }
 
 void TestBatchDialog::renamedBatchIsDeletedAndInserted()
 {
-    BatchWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
+    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
     const auto dialog = openDialog(true, false);
     QVERIFY(dialog->grid()->editCell(1, BatchNo, QStringLiteral("B1-01")));
     QVERIFY(dialog->pressButton(QStringLiteral("Save")));
 
-    QCOMPARE(BatchWorld::instance().scripts.size(), 1);
-    const QString script = BatchWorld::instance().scripts.first();
+    QCOMPARE(FakeWorld::instance().scripts.size(), 1);
+    const QString script = FakeWorld::instance().scripts.first();
     QVERIFY(script.startsWith(QStringLiteral(" Delete from ICInvInitial  Where FStockID=12 And")));
     QCOMPARE(insertCount(script), 1);
     QVERIFY(script.contains(QStringLiteral(" Values('0',1,12,3,3057,7,'B1-01',")));
@@ -391,7 +391,7 @@ void TestBatchDialog::renamedBatchIsDeletedAndInserted()
 
 void TestBatchDialog::deletingEveryLineLeavesOnlyDeletes()
 {
-    BatchWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500, 77),
+    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500, 77),
                                          record(QStringLiteral("B2"), 5, 50, 77),
                                          record(QStringLiteral("B3"), 5, 50, 81)};
     const auto dialog = openDialog(true, false);
@@ -404,7 +404,7 @@ void TestBatchDialog::deletingEveryLineLeavesOnlyDeletes()
     QCOMPARE(grid.number(1, BegQty), 0.0); // the totals row
 
     QVERIFY(dialog->pressButton(QStringLiteral("Save")));
-    QCOMPARE(BatchWorld::instance().scripts,
+    QCOMPARE(FakeWorld::instance().scripts,
              QStringList{QStringLiteral(" Delete from ICInvInitial  Where FStockID=12 And        FSPID=3 And        "
                                         "FPeriod=1 And        FItemID=3057 and        FAuxPropID=0")
                          + CRLF + QStringLiteral(" Delete from ICInvInitial where FFieldCompose='12|3|1|3057|0'") + CRLF
@@ -416,7 +416,7 @@ void TestBatchDialog::deletingEveryLineLeavesOnlyDeletes()
 
 void TestBatchDialog::saveScriptReachesTheService()
 {
-    BatchWorld::instance().detailRows = {
+    FakeWorld::instance().detailRows = {
         record(QStringLiteral("A'1"), 10, 500, 0, false, QStringLiteral("2023-12-20"), QVariant(QDate(2024, 1, 5)))};
     const auto dialog = openDialog(true, true);
     SpreadGrid &grid = *dialog->grid();
@@ -441,8 +441,8 @@ void TestBatchDialog::saveScriptReachesTheService()
         + QStringLiteral("FYtdAuxUnitReceive,FStockInDate,FSecUnitID,FAuxPropID,FSecCoefficient,FSNListID,FFieldCompose)")
         + QStringLiteral(" Values('0',1,12,3,3057,7,'A''1',8,399.876543211,0,2,100.123456789,0,0,0,0,10,500,0,1,"
                          "'2023-12-20',180,0,0,0,0,'2024-01-05',0,0,0,0,'12|3|1|3057|0')");
-    QCOMPARE(BatchWorld::instance().scripts, QStringList{expected});
-    QCOMPARE(BatchWorld::instance().updateProps, QStringList{BatchWorld::instance().propsString});
+    QCOMPARE(FakeWorld::instance().scripts, QStringList{expected});
+    QCOMPARE(FakeWorld::instance().updateProps, QStringList{FakeWorld::instance().propsString});
 
     // Saved: nothing is pending any more, and closing asks nothing.
     QCOMPARE(grid.TextMatrix(1, Flag), QString());
@@ -454,8 +454,8 @@ void TestBatchDialog::saveScriptReachesTheService()
 
 void TestBatchDialog::failedSaveKeepsTheChanges()
 {
-    BatchWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
-    BatchWorld::instance().failUpdate = true;
+    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
+    FakeWorld::instance().failUpdate = true;
     const auto dialog = openDialog(true, false);
     QVERIFY(dialog->grid()->editCell(1, BatchNo, QStringLiteral("B5")));
     QVERIFY(dialog->pressButton(QStringLiteral("Save")));
@@ -467,16 +467,16 @@ void TestBatchDialog::failedSaveKeepsTheChanges()
     QVERIFY(dialog->session()->hasChanges());
     QCOMPARE(dialog->grid()->TextMatrix(1, BatchNo), QStringLiteral("B5"));
 
-    BatchWorld::instance().failUpdate = false;
+    FakeWorld::instance().failUpdate = false;
     QVERIFY(dialog->pressButton(QStringLiteral("Save")));
-    QCOMPARE(BatchWorld::instance().scripts.size(), 1);
+    QCOMPARE(FakeWorld::instance().scripts.size(), 1);
     QVERIFY(dialog->SavedBatMan());
 }
 
 void TestBatchDialog::failedLoadIsReported()
 {
-    BatchWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
-    BatchWorld::instance().failDetail = true;
+    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
+    FakeWorld::instance().failDetail = true;
     const auto dialog = openDialog(true, false);
 
     QCOMPARE(m_prompter.messages().size(), 1);
@@ -513,7 +513,7 @@ void TestBatchDialog::closePrompt()
     QFETCH(bool, staysOpen);
     QFETCH(int, scripts);
 
-    BatchWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
+    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
     const auto dialog = openDialog(true, false);
     dialog->show();
     QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
@@ -530,7 +530,7 @@ void TestBatchDialog::closePrompt()
         QVERIFY(dialog->pressButton(QStringLiteral("Exit")));
 
     QCOMPARE(dialog->isVisible(), staysOpen);
-    QCOMPARE(BatchWorld::instance().scripts.size(), scripts);
+    QCOMPARE(FakeWorld::instance().scripts.size(), scripts);
     QCOMPARE(dialog->SavedBatMan(), scripts > 0);
     if (answer < 0) {
         QVERIFY(m_prompter.messages().isEmpty());
@@ -549,7 +549,7 @@ void TestBatchDialog::closePrompt()
 
 void TestBatchDialog::showDialogRunsModally()
 {
-    BatchWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
+    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
     auto dialog = openDialog(true, false);
     QTimer::singleShot(0, dialog.get(), [&dialog] {
         dialog->grid()->editCell(1, BatchNo, QStringLiteral("B7"));
@@ -558,5 +558,5 @@ void TestBatchDialog::showDialogRunsModally()
     });
     QCOMPARE(dialog->ShowDialog(), int(QDialog::Accepted));
     QVERIFY(dialog->property("SavedBatMan").toBool());
-    QCOMPARE(BatchWorld::instance().detailCalls.size(), 2); // opened again by ShowDialog
+    QCOMPARE(FakeWorld::instance().detailCalls.size(), 2); // opened again by ShowDialog
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "hostframe.h"
+#include "scratchaccountset.h"
+
 #include "frame/prompter.h"
 
 #include <QObject>
@@ -28,4 +31,7 @@ private slots:
 
 private:
     ScriptedPrompter m_prompter;
+    // Shared by the key rows: the account set, and the control for the keys that do nothing.
+    std::unique_ptr<ScratchAccountSet> m_keysSet;
+    std::unique_ptr<HostFrame> m_idleHost;
 };

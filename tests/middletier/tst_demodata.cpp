@@ -4,11 +4,11 @@
 
 #include "db/accountset.h"
 #include "db/bulkinserter.h"
-#include "db/dbdialect.h"
 #include "db/sqlrun.h"
 #include "db/systemparameters.h"
 #include "db/transaction.h"
 #include "demo/demovolume.h"
+#include "dialect/sqldialect.h"
 
 #include <QSet>
 #include <QTest>
@@ -165,7 +165,7 @@ void TestDemoData::generatesVolume()
     REQUIRE_BACKEND(backend);
     ScratchAccountSet scratch(backend);
     const QSqlDatabase db = scratch.db();
-    const DbDialect &dialect = DbDialect::of(db);
+    const SqlDialect &dialect = SqlDialect::of(db);
     const int before = count(db, QStringLiteral("SELECT count(*) FROM ICInvInitial"));
     {
         Transaction transaction(db);
@@ -201,7 +201,7 @@ void TestDemoData::bulkInsertCrossesStatementBoundaries()
     constexpr int Rows = 1234;
     {
         Transaction transaction(db);
-        BulkInserter insert(db, DbDialect::of(db), QStringLiteral("t_SystemProfile"),
+        BulkInserter insert(db, SqlDialect::of(db), QStringLiteral("t_SystemProfile"),
                             {QStringLiteral("FCategory"), QStringLiteral("FKey"), QStringLiteral("FValue"),
                              QStringLiteral("FDescription")});
         for (int i = 0; i < Rows; ++i)

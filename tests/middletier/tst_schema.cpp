@@ -3,12 +3,12 @@
 #include "scratchaccountset.h"
 
 #include "db/accountset.h"
-#include "db/dbdialect.h"
 #include "db/placetotals.h"
 #include "db/schema.h"
 #include "db/schemamanager.h"
 #include "db/sqlrun.h"
 #include "db/systemparameters.h"
+#include "dialect/sqldialect.h"
 #include "mterrors.h"
 #include "script/catalogue.h"
 
@@ -96,7 +96,7 @@ void TestSchema::createsEveryDeclaredColumn()
     REQUIRE_BACKEND(backend);
     ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
     const QSqlDatabase db = scratch.db();
-    const DbDialect &dialect = DbDialect::of(db);
+    const SqlDialect &dialect = SqlDialect::of(db);
     QCOMPARE(SchemaManager(db, dialect).version(), Schema::CurrentVersion);
     const QStringList tables = lowered(dialect.tableNames(db));
     for (const TableDecl &table : Schema::tables()) {
@@ -128,11 +128,11 @@ void TestSchema::migratesFromVersionOne()
         // What an older program left behind, without the version-2 tables and columns.
         const AcctDbLocation location = AcctDbLocation::parse(scratch.acctDb());
         QSqlDatabase old =
-            QSqlDatabase::addDatabase(DbDialect::of(location.backend()).driverName(), QStringLiteral("v1"));
+            QSqlDatabase::addDatabase(SqlDialect::of(location.backend()).driverName(), QStringLiteral("v1"));
         location.configure(old);
         QVERIFY(old.open());
-        const DbDialect &dialect = DbDialect::of(old);
-        SqlRun::execAll(old, dialect.sessionSetup(location));
+        const SqlDialect &dialect = SqlDialect::of(old);
+        SqlRun::execAll(old, dialect.sessionSetup(location.schema()));
         QCOMPARE(SchemaManager(old, dialect).version(), 1);
         QVERIFY(!lowered(dialect.tableNames(old)).contains(QStringLiteral("t_auxclass")));
         QVERIFY(!lowered(dialect.columnNames(old, QStringLiteral("t_ICItem"))).contains(QStringLiteral("fauxclassid")));
@@ -156,7 +156,7 @@ void TestSchema::migratesFromVersionOne()
 
     // Opening the older account set brings it up to date and keeps its rows.
     const QSqlDatabase db = scratch.db();
-    const DbDialect &dialect = DbDialect::of(db);
+    const SqlDialect &dialect = SqlDialect::of(db);
     QCOMPARE(SchemaManager(db, dialect).version(), Schema::CurrentVersion);
     QVERIFY(lowered(dialect.tableNames(db)).contains(QStringLiteral("t_auxclass")));
     QCOMPARE(SqlRun::scalar(db, QStringLiteral("SELECT FName FROM t_ICItem WHERE FItemID=5")).toString(),
@@ -192,7 +192,7 @@ void TestSchema::dialectStatementsRunOnTheBackend()
     REQUIRE_BACKEND(backend);
     ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
     const QSqlDatabase db = scratch.db();
-    const DbDialect &dialect = DbDialect::of(db);
+    const SqlDialect &dialect = SqlDialect::of(db);
     const QString table = QStringLiteral("t_SystemProfile");
     const QStringList columns{QStringLiteral("FCategory"), QStringLiteral("FKey"), QStringLiteral("FValue"),
                               QStringLiteral("FDescription")};

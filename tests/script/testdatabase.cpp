@@ -22,7 +22,6 @@ TestDatabase::TestDatabase(const QString &backend)
     ++connectionCounter;
     m_connection = QStringLiteral("script-test-%1").arg(connectionCounter);
     if (backend == QLatin1String(postgresql)) {
-        m_dialect = script::Dialect::PostgreSQL;
         const QUrl uri(postgresUri());
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), m_connection);
         db.setHostName(uri.host());

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "script/dialect.h"
+#include "dialect/sqldialect.h"
 
 #include <QSqlDatabase>
 #include <QStringList>
@@ -26,7 +26,7 @@ public:
     bool isOpen() const { return m_error.isEmpty(); }
     QString error() const { return m_error; }
     QSqlDatabase db() const;
-    script::Dialect dialect() const { return m_dialect; }
+    const SqlDialect &dialect() const { return SqlDialect::of(db()); }
 
     // Runs each statement; false (with error()) at the first that fails.
     bool exec(const QStringList &statements);
@@ -37,6 +37,5 @@ private:
     QTemporaryDir m_dir;
     QString m_connection;
     QString m_schema;
-    script::Dialect m_dialect = script::Dialect::SQLite;
     QString m_error;
 };

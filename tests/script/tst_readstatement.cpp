@@ -5,9 +5,7 @@
 
 #include <QTest>
 
-Q_DECLARE_METATYPE(script::Dialect)
-
-using script::Dialect;
+Q_DECLARE_METATYPE(SqlBackend)
 
 namespace {
 
@@ -29,29 +27,29 @@ QString coefficientStatement(const QString &item, const QString &unit, const QSt
 void ReadStatementTest::accepted_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::addColumn<Dialect>("dialect");
+    QTest::addColumn<SqlBackend>("backend");
     QTest::addColumn<QVariantList>("values");
     QTest::addColumn<QString>("sqlStart");
 
-    QTest::newRow("scale") << QStringLiteral("SELECT FScale FROM t_Currency WHERE FCurrencyID=1") << Dialect::SQLite
+    QTest::newRow("scale") << QStringLiteral("SELECT FScale FROM t_Currency WHERE FCurrencyID=1") << SqlBackend::SQLite
                            << QVariantList{1} << QStringLiteral("SELECT FScale FROM t_Currency WHERE FCurrencyID = ?");
     QTest::newRow("scale, other case and layout")
-        << QStringLiteral("select fscale\r\nfrom T_CURRENCY   where FCURRENCYID = 2 ") << Dialect::PostgreSQL
+        << QStringLiteral("select fscale\r\nfrom T_CURRENCY   where FCURRENCYID = 2 ") << SqlBackend::PostgreSQL
         << QVariantList{2} << QStringLiteral("select fscale from t_currency where fcurrencyid = ?");
-    QTest::newRow("unit coefficients") << coefficientStatement("3057", "5", "6") << Dialect::SQLite
+    QTest::newRow("unit coefficients") << coefficientStatement("3057", "5", "6") << SqlBackend::SQLite
                                        << QVariantList{3057, 5, 3057, 6} << QStringLiteral("SELECT ifnull((SELECT t2.FCoefficient");
     QTest::newRow("unit coefficients on PostgreSQL")
-        << coefficientStatement("3057", "5", "0") << Dialect::PostgreSQL << QVariantList{3057, 5, 3057, 0}
+        << coefficientStatement("3057", "5", "0") << SqlBackend::PostgreSQL << QVariantList{3057, 5, 3057, 0}
         << QStringLiteral("select coalesce((select t2.fcoefficient");
 }
 
 void ReadStatementTest::accepted()
 {
     QFETCH(QString, text);
-    QFETCH(Dialect, dialect);
+    QFETCH(SqlBackend, backend);
     QFETCH(QVariantList, values);
     QFETCH(QString, sqlStart);
-    const script::ReadStatement read = script::checkRead(text, dialect);
+    const script::ReadStatement read = script::checkRead(text, SqlDialect::of(backend));
     QVERIFY2(read.sql.startsWith(sqlStart), qPrintable(read.sql));
     QCOMPARE(read.sql.count(QLatin1Char('?')), values.size());
     QVERIFY(!read.sql.contains(QLatin1String("isnull"), Qt::CaseInsensitive));

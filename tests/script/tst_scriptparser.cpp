@@ -5,9 +5,8 @@
 
 #include <QTest>
 
-Q_DECLARE_METATYPE(script::Dialect)
+Q_DECLARE_METATYPE(SqlBackend)
 
-using script::Dialect;
 using script::ScriptError;
 
 namespace {
@@ -26,7 +25,7 @@ QStringList typed(const QVariantList &values)
 void ScriptParserTest::boundSql_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::addColumn<Dialect>("dialect");
+    QTest::addColumn<SqlBackend>("backend");
     QTest::addColumn<QString>("sql");
     QTest::addColumn<QStringList>("values");
 
@@ -35,44 +34,44 @@ void ScriptParserTest::boundSql_data()
         " And FPeriod=1 And FItemID = 3057 And FAuxPropID = 0)");
     const QStringList placeValues{"qlonglong 12", "qlonglong 0", "qlonglong 1", "qlonglong 3057", "qlonglong 0"};
     QTest::newRow("serial delete without FROM")
-        << serialDelete << Dialect::SQLite
+        << serialDelete << SqlBackend::SQLite
         << QStringLiteral("DELETE FROM ICSerial WHERE FSNListID IN (SELECT DISTINCT FSNListID FROM ICInvInitial WHERE"
                           " FStockID = ? AND FSPID = ? AND FPeriod = ? AND FItemID = ? AND FAuxPropID = ?)")
         << placeValues;
     QTest::newRow("serial delete on PostgreSQL")
-        << serialDelete << Dialect::PostgreSQL
+        << serialDelete << SqlBackend::PostgreSQL
         << QStringLiteral("DELETE FROM icserial WHERE fsnlistid IN (SELECT DISTINCT fsnlistid FROM icinvinitial WHERE"
                           " fstockid = ? AND fspid = ? AND fperiod = ? AND fitemid = ? AND fauxpropid = ?)")
         << placeValues;
     QTest::newRow("grouped conditions and an id list")
         << QStringLiteral("delete from ICInvInitial where (FStockID=12 and FSPID=0) and FPeriod=1 and FItemID in(7,8,9)")
-        << Dialect::SQLite
+        << SqlBackend::SQLite
         << QStringLiteral("DELETE FROM ICInvInitial WHERE (FStockID = ? AND FSPID = ?) AND FPeriod = ? AND FItemID IN (?, ?, ?)")
         << QStringList{"qlonglong 12", "qlonglong 0", "qlonglong 1", "qlonglong 7", "qlonglong 8", "qlonglong 9"};
     // Each literal takes the kind of its column: the suite's database converted them the same way.
     QTest::newRow("literals typed by their column")
         << QStringLiteral("update icinvinitial set FBatchNo=123, FBegBal='12.50', FPeriod=2.0, FStockInDate='',"
                           " FKFDate='2024-02-29' where FFieldCompose='1|0|1|2|0'")
-        << Dialect::SQLite
+        << SqlBackend::SQLite
         << QStringLiteral("UPDATE ICInvInitial SET FBatchNo = ?, FBegBal = ?, FPeriod = ?, FStockInDate = ?, FKFDate = ?"
                           " WHERE FFieldCompose = ?")
         << QStringList{"QString 123", "double 12.5", "qlonglong 2", "QString ", "QString 2024-02-29", "QString 1|0|1|2|0"};
     QTest::newRow("negative and fractional numbers")
         << QStringLiteral("Insert into ICInvInitial(FItemID,FBegBal,FBegDiff,FYtdDebit) Values(-1,-.5,0.125,7.)")
-        << Dialect::SQLite << QStringLiteral("INSERT INTO ICInvInitial (FItemID, FBegBal, FBegDiff, FYtdDebit) VALUES (?, ?, ?, ?)")
+        << SqlBackend::SQLite << QStringLiteral("INSERT INTO ICInvInitial (FItemID, FBegBal, FBegDiff, FYtdDebit) VALUES (?, ?, ?, ?)")
         << QStringList{"qlonglong -1", "double -0.5", "double 0.125", "double 7"};
     QTest::newRow("quotes and non-ASCII text inside a literal")
-        << QStringLiteral("Insert into ICInvInitial(FBatchNo) Values('O''Brien 批号--/*;')") << Dialect::SQLite
+        << QStringLiteral("Insert into ICInvInitial(FBatchNo) Values('O''Brien 批号--/*;')") << SqlBackend::SQLite
         << QStringLiteral("INSERT INTO ICInvInitial (FBatchNo) VALUES (?)") << QStringList{"QString O'Brien 批号--/*;"};
 }
 
 void ScriptParserTest::boundSql()
 {
     QFETCH(QString, text);
-    QFETCH(Dialect, dialect);
+    QFETCH(SqlBackend, backend);
     QFETCH(QString, sql);
     QFETCH(QStringList, values);
-    const QList<script::Statement> statements = script::parseScript(text, dialect);
+    const QList<script::Statement> statements = script::parseScript(text, SqlDialect::of(backend));
     QCOMPARE(statements.size(), 1);
     QCOMPARE(statements.first().sql, sql);
     QCOMPARE(typed(statements.first().values), values);

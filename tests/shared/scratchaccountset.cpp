@@ -1,10 +1,10 @@
 #include "scratchaccountset.h"
 
 #include "db/accountset.h"
-#include "db/dbdialect.h"
 #include "db/schemamanager.h"
 #include "db/sqlrun.h"
 #include "demo/democompany.h"
+#include "dialect/sqldialect.h"
 
 #include "frame/automation/lumoerror.h"
 
@@ -73,14 +73,14 @@ QSqlDatabase ScratchAccountSet::db() const
 void ScratchAccountSet::createAtVersion(int version)
 {
     const AcctDbLocation location = AcctDbLocation::parse(m_acctDb);
-    const DbDialect &dialect = DbDialect::of(location.backend());
+    const SqlDialect &dialect = SqlDialect::of(location.backend());
     const QString name = QStringLiteral("scratch-old-version");
     {
         QSqlDatabase db = QSqlDatabase::addDatabase(dialect.driverName(), name);
         location.configure(db);
         QVERIFY2(db.open(), "the scratch database opens");
-        SqlRun::execAll(db, dialect.createContainer(location));
-        SqlRun::execAll(db, dialect.sessionSetup(location));
+        SqlRun::execAll(db, dialect.createContainer(location.schema()));
+        SqlRun::execAll(db, dialect.sessionSetup(location.schema()));
         SchemaManager(db, dialect).create(version);
         db.close();
     }

@@ -1,11 +1,11 @@
 #include "acctcommands.h"
 
 #include "db/accountset.h"
-#include "db/dbdialect.h"
 #include "db/schema.h"
 #include "db/schemamanager.h"
 #include "db/sqlrun.h"
 #include "demo/democompany.h"
+#include "dialect/sqldialect.h"
 #include "mterrors.h"
 
 #include <QElapsedTimer>

@@ -1,24 +1,29 @@
-#include "dbdialect.h"
+#include "sqldialect.h"
 
 #include "postgresdialect.h"
 #include "sqlitedialect.h"
 
-const DbDialect &DbDialect::of(AcctDbLocation::Backend backend)
+const SqlDialect &SqlDialect::of(SqlBackend backend)
 {
     static const SqliteDialect sqlite;
     static const PostgresDialect postgres;
-    if (backend == AcctDbLocation::Backend::PostgreSQL)
+    if (backend == SqlBackend::PostgreSQL)
         return postgres;
     return sqlite;
 }
 
-const DbDialect &DbDialect::of(const QSqlDatabase &db)
+const SqlDialect &SqlDialect::of(const QSqlDatabase &db)
 {
-    return of(db.driverName() == PostgresDialect::Driver ? AcctDbLocation::Backend::PostgreSQL
-                                                         : AcctDbLocation::Backend::SQLite);
+    return of(db.driverName().compare(PostgresDialect::Driver, Qt::CaseInsensitive) == 0 ? SqlBackend::PostgreSQL
+                                                                                         : SqlBackend::SQLite);
 }
 
-QString DbDialect::placeholders(int count)
+QString SqlDialect::isNull(const QString &expression, const QString &replacement) const
+{
+    return QStringLiteral("%1(%2,%3)").arg(nullReplacement(), expression, replacement);
+}
+
+QString SqlDialect::placeholders(int count)
 {
     QStringList marks;
     marks.reserve(count);
@@ -27,7 +32,7 @@ QString DbDialect::placeholders(int count)
     return marks.join(QLatin1Char(','));
 }
 
-QString DbDialect::upsert(const QString &table, const QStringList &columns, const QStringList &keyColumns) const
+QString SqlDialect::upsert(const QString &table, const QStringList &columns, const QStringList &keyColumns) const
 {
     // Both backends take the same ON CONFLICT clause.
     QStringList updates;

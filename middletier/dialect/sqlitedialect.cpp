@@ -29,9 +29,26 @@ QString SqliteDialect::autoIncrementKey() const
     return QStringLiteral("INTEGER PRIMARY KEY AUTOINCREMENT");
 }
 
-QString SqliteDialect::isNull(const QString &expression, const QString &replacement) const
+QString SqliteDialect::identifier(const QString &name) const
 {
-    return QStringLiteral("ifnull(%1,%2)").arg(expression, replacement);
+    return name;
+}
+
+QString SqliteDialect::nullReplacement() const
+{
+    return QStringLiteral("ifnull");
+}
+
+QString SqliteDialect::likeOperator(bool negated) const
+{
+    // SQLite's LIKE already ignores the case of ASCII letters.
+    return negated ? QStringLiteral("NOT LIKE") : QStringLiteral("LIKE");
+}
+
+QString SqliteDialect::asText(const QString &expression) const
+{
+    // SQLite compares any value as text.
+    return expression;
 }
 
 QString SqliteDialect::dateText(const QString &expression) const
@@ -57,13 +74,13 @@ QStringList SqliteDialect::resetAutoIncrement(const QString &, const QString &) 
     return {};
 }
 
-QStringList SqliteDialect::sessionSetup(const AcctDbLocation &) const
+QStringList SqliteDialect::sessionSetup(const QString &) const
 {
     return {QStringLiteral("PRAGMA foreign_keys=ON"), QStringLiteral("PRAGMA journal_mode=WAL"),
             QStringLiteral("PRAGMA synchronous=NORMAL")};
 }
 
-QStringList SqliteDialect::createContainer(const AcctDbLocation &) const
+QStringList SqliteDialect::createContainer(const QString &) const
 {
     return {};
 }

@@ -1,24 +1,27 @@
 #pragma once
 
-#include "dbdialect.h"
+#include "sqldialect.h"
 
 // PostgreSQL through Qt's QPSQL driver: one database (or one schema of it) per account set.
-class LUMOMIDDLETIER_EXPORT PostgresDialect final : public DbDialect
+class PostgresDialect final : public SqlDialect
 {
 public:
     static inline const QString Driver = QStringLiteral("QPSQL");
 
-    AcctDbLocation::Backend backend() const override { return AcctDbLocation::Backend::PostgreSQL; }
+    SqlBackend backend() const override { return SqlBackend::PostgreSQL; }
     QString driverName() const override { return Driver; }
+    QString identifier(const QString &name) const override;
+    QString nullReplacement() const override;
+    QString likeOperator(bool negated) const override;
+    QString asText(const QString &expression) const override;
+    QString dateText(const QString &expression) const override;
     QString columnType(ColumnType type, int size) const override;
     QString autoIncrementKey() const override;
-    QString isNull(const QString &expression, const QString &replacement) const override;
-    QString dateText(const QString &expression) const override;
     QString insertIgnore(const QString &table, const QStringList &columns) const override;
     QStringList beginExclusive(const QString &table) const override;
     QStringList resetAutoIncrement(const QString &table, const QString &column) const override;
-    QStringList sessionSetup(const AcctDbLocation &location) const override;
-    QStringList createContainer(const AcctDbLocation &location) const override;
+    QStringList sessionSetup(const QString &schema) const override;
+    QStringList createContainer(const QString &schema) const override;
     QStringList tableNames(const QSqlDatabase &db) const override;
     QStringList columnNames(const QSqlDatabase &db, const QString &table) const override;
     int maxBindValues() const override;

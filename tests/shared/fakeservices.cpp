@@ -5,7 +5,11 @@
 #include "frame/automation/lumoerror.h"
 #include "frame/automation/recordset.h"
 
+#include "frame/automation/progids.h"
+
 namespace {
+
+const QString ScaleSqlHead = QStringLiteral("SELECT FScale FROM t_Currency");
 
 class FakeShareProps : public QObject
 {
@@ -59,16 +63,46 @@ public:
         rs->appendRow({1, 1, QStringLiteral("PCS"), QStringLiteral("个")});
         return rs;
     }
+    Q_INVOKABLE QObject *FetchYtdBatManDetail(const QString &props, int period, int stockId, int spId, int itemId,
+                                              int auxPropId, int unitId, bool batchManaged, bool shelfLifeManaged,
+                                              const QString &fieldCompose)
+    {
+        FakeWorld &world = FakeWorld::instance();
+        world.detailCalls.append(
+            {props, period, stockId, spId, itemId, auxPropId, unitId, batchManaged, shelfLifeManaged, fieldCompose});
+        if (world.failDetail)
+            throw LumoError(LumoError::AppBase + 1, DetailFailure, QStringLiteral("FakeData"));
+        auto *rs = new Recordset(world.detailFields);
+        for (const QVariantList &row : world.detailRows)
+            rs->appendRow(QVector<QVariant>(row.begin(), row.end()));
+        return rs;
+    }
+    Q_INVOKABLE void UpdateINIData(const QString &props, const QString &script)
+    {
+        FakeWorld &world = FakeWorld::instance();
+        world.updateProps.append(props);
+        if (world.failUpdate)
+            throw LumoError(LumoError::AppBase + 2, UpdateFailure, QStringLiteral("FakeData"));
+        world.scripts.append(script);
+    }
 };
 
 class FakeConnection : public QObject
 {
     Q_OBJECT
 public:
-    Q_INVOKABLE QObject *Execute(const QString &)
+    // The amount scale, or else the two unit coefficients of the batch dialog.
+    Q_INVOKABLE QObject *Execute(const QString &sql)
     {
-        auto *rs = new Recordset({QStringLiteral("FScale")});
-        rs->appendRow({FakeWorld::instance().scale});
+        FakeWorld &world = FakeWorld::instance();
+        world.executed.append(sql);
+        if (sql.startsWith(ScaleSqlHead)) {
+            auto *rs = new Recordset({QStringLiteral("FScale")});
+            rs->appendRow({world.scale});
+            return rs;
+        }
+        auto *rs = new Recordset({QStringLiteral("FUnit"), QStringLiteral("FSecUnit")});
+        rs->appendRow({world.unitCoefficient, world.secCoefficient});
         return rs;
     }
 };
@@ -148,19 +182,25 @@ void FakeWorld::reset()
     *this = FakeWorld{};
     sysParams = {{QStringLiteral("CurrentPeriod"), 1}, {QStringLiteral("QtyDecimal"), 2},
                  {QStringLiteral("ICClosed"), 0}, {QStringLiteral("AuditChoice"), 1}};
+    // The batch detail fields in the order the data service delivers them.
+    detailFields = QStringLiteral("FQtyDecimal,FLock,FBatchNo,FBillInterID,FYtdAuxBegQty,FYtdAuxUnitBegQty,"
+                                  "FYtdBegBal,FYtdBegDiff,FYtdAuxReceive,FYtdAuxUnitReceive,FYtdDebit,"
+                                  "FYtdReceiveDiff,FYtdAuxSend,FYtdAuxUnitSend,FYtdCredit,FYtdSendDiff,FAuxBegQty,"
+                                  "FAuxUnitBegQty,FBegBal,FBegDiff,FSecUnitID,FStockInDate,FKFDate,FKFPeriod,"
+                                  "FSNListID").split(QLatin1Char(','));
 }
 
 void registerFakeServices()
 {
     auto &registry = ComponentRegistry::instance();
-    registry.registerClass(QStringLiteral("LumoPropsMgr.ShareProps"), [] { return new FakeShareProps; });
-    registry.registerClass(QStringLiteral("LumoMICInitial.Data"), [] { return new FakeData; });
-    registry.registerClass(QStringLiteral("LumoMICInitial.DataAdj"), [] { return new FakeData; });
-    registry.registerClass(QStringLiteral("LumoConnection.AppConnection"), [] { return new FakeConnection; });
-    registry.registerClass(QStringLiteral("LumoEBCGLView.GLData"), [] { return new FakeGLData; });
-    registry.registerClass(QStringLiteral("LumoNetControl.Mutex"), [] { return new FakeMutex; });
-    registry.registerClass(QStringLiteral("QLLogMsg.Log"), [] { return new FakeLog; });
-    registry.registerClass(QStringLiteral("LumoFrmRes.FrmResLoader"), [] { return new FakeFormResources; });
+    registry.registerClass(ProgId::ShareProps, [] { return new FakeShareProps; });
+    registry.registerClass(ProgId::MICInitialData, [] { return new FakeData; });
+    registry.registerClass(ProgId::MICInitialDataAdj, [] { return new FakeData; });
+    registry.registerClass(ProgId::AppConnection, [] { return new FakeConnection; });
+    registry.registerClass(ProgId::GLData, [] { return new FakeGLData; });
+    registry.registerClass(ProgId::NetControlMutex, [] { return new FakeMutex; });
+    registry.registerClass(ProgId::LogMsgLog, [] { return new FakeLog; });
+    registry.registerClass(ProgId::FrmResLoader, [] { return new FakeFormResources; });
 }
 
 #include "fakeservices.moc"
