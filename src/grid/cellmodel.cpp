@@ -1,6 +1,7 @@
 #include "grid/cellmodel.h"
 
 #include "grid/celltext.h"
+#include "grid/editrule.h"
 #include "grid/numberformat.h"
 
 #include <QBrush>
@@ -64,7 +65,7 @@ QVariant CellModel::data(const QModelIndex &index, int role) const
     case CellTypeRole:
         return int(style.type());
     case LockedRole:
-        return style.locked();
+        return cellLocked(gridRow(index), gridCol(index));
     case ButtonColorRole:
         return style.buttonColor();
     case ComboListRole:
@@ -96,8 +97,9 @@ Qt::ItemFlags CellModel::flags(const QModelIndex &index) const
     if (!isOwnIndex(index))
         return Qt::NoItemFlags;
     Qt::ItemFlags out = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    const CellStyle &style = m_store.style(gridRow(index), gridCol(index));
-    if (!style.locked() && style.type() != Grid::CellType::Button)
+    const int row = gridRow(index);
+    const int col = gridCol(index);
+    if (m_store.style(row, col).type() != Grid::CellType::Button && !cellLocked(row, col))
         out |= Qt::ItemIsEditable;
     return out;
 }
@@ -468,7 +470,7 @@ EditResult CellModel::beginEdit(int row, int col)
 {
     if (!isDataCell(row, col) || m_store.style(row, col).type() == Grid::CellType::Button)
         return refuse(row, col, EditResult::NotEditable);
-    if (m_store.style(row, col).locked())
+    if (cellLocked(row, col))
         return refuse(row, col, EditResult::Locked);
     if (!askHandlers([&] { emit beforeEdit(row, col); }))
         return refuse(row, col, EditResult::Cancelled);
@@ -482,7 +484,7 @@ EditResult CellModel::commitEdit(int row, int col, const QVariant &input)
     const CellStyle style = m_store.style(row, col);
     if (style.type() == Grid::CellType::Button)
         return refuse(row, col, EditResult::NotEditable);
-    if (style.locked())
+    if (cellLocked(row, col))
         return refuse(row, col, EditResult::Locked);
 
     Cell next;
@@ -515,8 +517,20 @@ bool CellModel::isButtonActive(int row, int col) const
 {
     if (!isDataCell(row, col))
         return false;
-    const CellStyle &style = m_store.style(row, col);
-    return style.type() == Grid::CellType::Button && !style.locked();
+    return m_store.style(row, col).type() == Grid::CellType::Button && !cellLocked(row, col);
+}
+
+bool CellModel::cellLocked(int row, int col) const
+{
+    const bool styleLocked = cellStyle(row, col).locked();
+    return m_editRule ? m_editRule->locked(row, col, styleLocked) : styleLocked;
+}
+
+void CellModel::setEditRule(const EditRule *rule)
+{
+    m_editRule = rule;
+    if (rows() > 0 && cols() > 0)
+        emitChanged(wholeGrid());
 }
 
 // ---- change notification -----------------------------------------------------------------

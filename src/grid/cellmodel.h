@@ -16,6 +16,8 @@
 //
 // Changes made by program raise dataChanged for the cell or block concerned; between
 // beginBulkUpdate() and endBulkUpdate() they raise nothing until one dataChanged at the end.
+class EditRule;
+
 class CellModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -83,7 +85,10 @@ public:
     void clearRowStyle(int row, CellStyle::Fields fields = CellStyle::AllFields);
     void clearColStyle(int col, CellStyle::Fields fields = CellStyle::AllFields);
     Grid::CellType cellType(int row, int col) const { return cellStyle(row, col).type(); }
-    bool cellLocked(int row, int col) const { return cellStyle(row, col).locked(); }
+    // The style's lock as the edit rule, when one is set, decides it.
+    bool cellLocked(int row, int col) const;
+    // The rule asked for every cell's lock; null for the styles alone. The model does not own it.
+    void setEditRule(const EditRule *rule);
 
     // Layout kept with the cells so that it survives a model reset of the view.
     bool rowHidden(int row) const;
@@ -141,6 +146,7 @@ private:
     Block wholeGrid() const { return {0, 0, rows() - 1, cols() - 1}; }
 
     CellStore m_store;
+    const EditRule *m_editRule = nullptr;
     bool m_cancelRequested = false;
     int m_bulkDepth = 0;
     Block m_bulkDirty;

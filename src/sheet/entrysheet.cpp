@@ -41,9 +41,34 @@ EntrySheet::EntrySheet(SpreadGrid &grid, QObject *parent)
     , m_colors(RowColors::fromSettings())
 {
     m_kinds = {RowKind::Header};
+    m_model = grid.cells();
+    m_model->setEditRule(this);
 }
 
-EntrySheet::~EntrySheet() = default;
+EntrySheet::~EntrySheet()
+{
+    if (m_model)
+        m_model->setEditRule(nullptr);
+}
+
+bool EntrySheet::locked(int row, int col, bool styleLocked) const
+{
+    // Batch lines are shown here and edited in the batch dialog; the grand total is computed.
+    if (isBatchLine(row) || isTotalsRow(row))
+        return true;
+    if (!isItemRow(row))
+        return styleLocked;
+    // The code is typed on a new row only; everything else comes from the item.
+    if (col == Number)
+        return !isNewRow(row);
+    const ItemInfo *info = itemInfo(int(cells().number(row, ItemID)));
+    if (col == AuxProp)
+        return !info || info->auxClassId <= 0;
+    // A batch item's figures live on its batch lines, which the batch dialog edits.
+    if (info && info->hasDetailLines() && ItemRows::isFigureColumn(col))
+        return true;
+    return styleLocked;
+}
 
 CellModel &EntrySheet::cells() const
 {
@@ -196,8 +221,6 @@ int EntrySheet::addNewRow()
     const int row = lastDataRow() + 1;
     cells().insertRowsAt(row, 1);
     m_kinds.insert(row, RowKind::NewItem);
-    // The item code is typed on a new row; everything else comes from the item.
-    cells().setCellStyle(row, Number, CellStyle().setLocked(false));
     return row;
 }
 
@@ -220,7 +243,6 @@ void EntrySheet::markRowSaved(int row)
     if (!isNewRow(row))
         return;
     m_kinds[row] = RowKind::Item;
-    cells().clearCellStyle(row, Number, CellStyle::Locked);
 }
 
 QString EntrySheet::auxClassName(qint32 auxClassId) const
@@ -277,5 +299,5 @@ void EntrySheet::refreshTotals()
         for (int col : {g.quantity, g.amount, g.difference})
             cells().setValue(row, col, sums[col]);
     }
-    cells().setRowStyle(row, CellStyle().setBackColor(m_colors.sum).setLocked(true));
+    cells().setRowStyle(row, CellStyle().setBackColor(m_colors.sum));
 }

@@ -3,9 +3,11 @@
 #include "sheet/iteminfo.h"
 #include "sheet/itemrows.h"
 #include "frame/lumoicinitial_global.h"
+#include "grid/editrule.h"
 
 #include <QHash>
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
 
@@ -22,8 +24,9 @@ struct EntryPlace
 };
 
 // The content of the entry grid: one page of item rows of one place, the unfolded batch lines,
-// the grand-total row and the per-item information beside them.
-class LUMOICINITIAL_EXPORT EntrySheet : public QObject
+// the grand-total row and the per-item information beside them. It is also the grid's edit rule:
+// what may be typed follows the kind of row and its item.
+class LUMOICINITIAL_EXPORT EntrySheet : public QObject, public EditRule
 {
     Q_OBJECT
 
@@ -80,6 +83,8 @@ public:
     // The row of the grand total; 0 when none is shown.
     int totalsRow() const;
 
+    bool locked(int row, int col, bool styleLocked) const override;
+
     SpreadGrid &grid() const { return m_grid; }
     CellModel &cells() const;
     const RowColors &colors() const { return m_colors; }
@@ -90,6 +95,7 @@ private:
     void removeTotalsRow();
 
     SpreadGrid &m_grid;
+    QPointer<CellModel> m_model; // the grid may go first when the control closes
     EntryPlace m_place;
     int m_amountScale = 2;
     int m_pageIndex = 0;

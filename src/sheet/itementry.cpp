@@ -89,51 +89,12 @@ Outcome enterCode(EntrySheet &sheet, int row, const QString &code)
 
 void FillItemDetailByF7(EntrySheet &sheet, int row, const Recordset &items, int record)
 {
-    CellModel &cells = sheet.cells();
     const auto v = [&items, record](const char *field) { return items.value(record, QLatin1String(field)); };
-    ItemInfo info;
-    info.id = v("FItemID").toInt();
-    info.shortNumber = v("FShortNumber").toString();
-    info.number = v("FNumber").toString();
-    info.name = v("FName").toString();
-    info.model = v("FModel").toString();
-    info.planPrice = v("FPlanPrice").toDouble();
-    info.unitId = v("FUnitID").toInt();
-    info.secUnitId = v("FSecUnitID").toInt();
-    info.secCoefficient = v("FSecCoefficient").toDouble();
-    info.priceDecimal = v("FPriceDecimal").toInt();
-    info.qtyDecimal = v("FQtyDecimal").toInt();
-    info.kfPeriod = v("FKFPeriod").toInt();
-    info.auxClassId = v("FAuxClassID").toInt();
-    info.auxClassName = v("FAuxClassName").toString();
-    info.track = v("FTrack").toInt();
-    info.batchManaged = v("FBatchManager").toInt() != 0;
-    info.shelfLifeManaged = v("FISKFPeriod").toInt() != 0;
+    const ItemInfo info = ItemInfo::fromItemRecord(items, record);
     sheet.setItemInfo(info);
-
-    const bool shortNumber = SysParams::toBool(QStringLiteral("UseShortNumber"));
-    cells.setValue(row, ItemID, info.id);
-    cells.setText(row, Number, shortNumber ? info.shortNumber : info.number);
-    cells.setText(row, Name, info.name);
-    cells.setText(row, Model, info.model);
-    cells.setText(row, Unit, v("FUnitName").toString());
-    cells.setValue(row, UnitID, info.unitId);
-    cells.setValue(row, SecCoefficient, info.secCoefficient);
-    cells.setText(row, SecUnit, v("FSecUnit").toString());
-    cells.setValue(row, SecUnitID, info.secUnitId);
-    cells.setText(row, Track, Valuation::name(info.track));
-    cells.setValue(row, AuxClassID, info.auxClassId);
-    cells.setValue(row, AuxPropID, 0);
-    cells.setText(row, AuxProp, QString());
-    cells.clearCellStyle(row, AuxProp);
-    if (info.auxClassId > 0)
-        cells.setCellStyle(row, AuxProp, CellStyle().setLocked(false));
-    cells.clearCellStyle(row, Batch);
-    if (info.hasDetailLines()) {
-        SpreadConsole::setButtonCell(cells, row, Batch);
-        cells.setCellStyle(row, Batch, CellStyle().setButtonColor(sheet.colors().batMan));
-        cells.setText(row, Batch, QStringLiteral("..."));
-    }
+    ItemRows::writeItem(sheet.cells(), row, info, {v("FUnitName").toString(), v("FSecUnit").toString(), {}},
+                        SysParams::toBool(QStringLiteral("UseShortNumber")), SysParams::toInt(SysParam::QtyDecimal),
+                        sheet.colors());
 }
 
 } // namespace ItemEntry

@@ -79,6 +79,30 @@ ItemInfo ItemInfo::fromRecord(const Recordset &rs, int row)
     return info;
 }
 
+ItemInfo ItemInfo::fromItemRecord(const Recordset &rs, int row)
+{
+    const auto v = [&rs, row](const char *field) { return rs.value(row, QLatin1String(field)); };
+    ItemInfo info;
+    info.id = v("FItemID").toInt();
+    info.shortNumber = v("FShortNumber").toString();
+    info.number = v("FNumber").toString();
+    info.name = v("FName").toString();
+    info.model = v("FModel").toString();
+    info.batchManaged = v("FBatchManager").toInt() != 0;
+    info.shelfLifeManaged = v("FISKFPeriod").toInt() != 0;
+    info.track = v("FTrack").toInt();
+    info.planPrice = v("FPlanPrice").toDouble();
+    info.unitId = v("FUnitID").toInt();
+    info.qtyDecimal = v("FQtyDecimal").toInt();
+    info.priceDecimal = v("FPriceDecimal").toInt();
+    info.kfPeriod = v("FKFPeriod").toInt();
+    info.secUnitId = v("FSecUnitID").toInt();
+    info.secCoefficient = v("FSecCoefficient").toDouble();
+    info.auxClassId = v("FAuxClassID").toInt();
+    info.auxClassName = v("FAuxClassName").toString();
+    return info;
+}
+
 ItemInfo ItemInfo::fromItemKey(const Dictionary &key)
 {
     ItemInfo item;

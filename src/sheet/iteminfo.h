@@ -48,6 +48,8 @@ struct LUMOICINITIAL_EXPORT ItemInfo
 
     // From a record of an item recordset (the fields FetchYtdInitialData delivers).
     static ItemInfo fromRecord(const Recordset &rs, int row);
+    // From a record of the item look-up (FetchYtdItemDetail), which names some fields otherwise.
+    static ItemInfo fromItemRecord(const Recordset &rs, int row);
     static ItemInfo fromItemKey(const Dictionary &key);
     std::unique_ptr<Dictionary> toItemKey() const;
 };

@@ -112,48 +112,51 @@ void applyColumnFormats(CellModel &cells, int qtyDecimal, int amountScale, const
     cells.setColStyle(Mark, CellStyle().setAlignment(Qt::AlignCenter));
 }
 
+void writeItem(CellModel &cells, int row, const ItemInfo &info, const ItemTexts &texts, bool useShortNumber,
+               int defaultQtyDecimal, const RowColors &colors)
+{
+    cells.setValue(row, ItemID, info.id);
+    cells.setText(row, Number, useShortNumber ? info.shortNumber : info.number);
+    cells.setText(row, Name, info.name);
+    cells.setText(row, Model, info.model);
+    cells.setText(row, Unit, texts.unitName);
+    cells.setValue(row, UnitID, info.unitId);
+    // An item without a secondary unit has no rate to show; an empty cell reads as 0.
+    cells.setValue(row, SecCoefficient, info.secUnitId != 0 ? QVariant(info.secCoefficient) : QVariant());
+    cells.setText(row, SecUnit, texts.secUnitName);
+    cells.setValue(row, SecUnitID, info.secUnitId);
+    cells.setText(row, Track, Valuation::name(info.track));
+    cells.setText(row, AuxProp, texts.auxPropName);
+    cells.setValue(row, AuxPropID, info.auxPropId);
+    cells.setValue(row, AuxClassID, info.auxClassId);
+    setQuantityDecimals(cells, row, info.qtyDecimal, defaultQtyDecimal);
+    cells.clearCellStyle(row, Batch);
+    cells.setText(row, Batch, QString());
+    if (info.hasDetailLines()) {
+        SpreadConsole::setButtonCell(cells, row, Batch);
+        cells.setCellStyle(row, Batch, CellStyle().setButtonColor(colors.batMan));
+        cells.setText(row, Batch, QStringLiteral("..."));
+    }
+}
+
 void writeItemRow(CellModel &cells, int row, const Recordset &items, int record, bool useShortNumber,
                   int defaultQtyDecimal, const RowColors &colors)
 {
     const ItemInfo info = ItemInfo::fromRecord(items, record);
     const auto v = [&items, record](const char *field) { return items.value(record, QLatin1String(field)); };
     cells.setText(row, Mark, info.hasDetailLines() ? ExpandMark : QString());
-    cells.setValue(row, ItemID, info.id);
-    cells.setText(row, Number, useShortNumber ? info.shortNumber : info.number);
-    cells.setText(row, Name, info.name);
-    cells.setText(row, Model, info.model);
-    cells.setText(row, Unit, v("FUnitName").toString());
-    cells.setValue(row, UnitID, info.unitId);
-    // An item without a secondary unit has no rate to show; an empty cell reads as 0.
-    if (info.secUnitId != 0)
-        cells.setValue(row, SecCoefficient, info.secCoefficient);
-    cells.setText(row, SecUnit, v("FSecUnit").toString());
-    cells.setValue(row, SecUnitID, info.secUnitId);
-    cells.setText(row, Track, Valuation::name(info.track));
-    cells.setText(row, AuxProp, v("FAuxPropName").toString());
-    cells.setValue(row, AuxPropID, info.auxPropId);
-    cells.setValue(row, AuxClassID, info.auxClassId);
+    writeItem(cells, row, info, {v("FUnitName").toString(), v("FSecUnit").toString(), v("FAuxPropName").toString()},
+              useShortNumber, defaultQtyDecimal, colors);
     setFigures(cells, row, items, record, itemFigures);
     cells.setValue(row, StockInDate, dateValue(v("FStockInDate")));
     cells.setValue(row, KFPeriod, info.shelfLifeManaged ? QVariant(info.kfPeriod) : QVariant());
     cells.setText(row, FieldCompose, v("FFieldCompose").toString());
     cells.setText(row, Flag, QString());
-    setQuantityDecimals(cells, row, info.qtyDecimal, defaultQtyDecimal);
+}
 
-    cells.clearCellStyle(row, AuxProp);
-    if (info.auxClassId > 0)
-        cells.setCellStyle(row, AuxProp, CellStyle().setLocked(false));
-    cells.clearCellStyle(row, Batch);
-    if (info.hasDetailLines()) {
-        // The figures of a batch item live on its batch lines: the dialog edits them.
-        SpreadConsole::setButtonCell(cells, row, Batch);
-        cells.setCellStyle(row, Batch, CellStyle().setButtonColor(colors.batMan));
-        cells.setText(row, Batch, QStringLiteral("..."));
-        for (const GroupColumns &g : groups()) {
-            for (int col : {g.quantity, g.auxQuantity, g.amount, g.difference})
-                cells.setCellStyle(row, col, CellStyle().setLocked(true));
-        }
-    }
+bool isFigureColumn(int col)
+{
+    return col >= YtdBegQty && col <= BegDiff;
 }
 
 void fillItemRows(CellModel &cells, const Recordset &items, bool useShortNumber, int defaultQtyDecimal,
@@ -187,8 +190,6 @@ int insertBatchLines(CellModel &cells, int itemRow, const Recordset &lines, int 
         cells.setValue(row, KFDate, dateValue(v("FKFDate")));
         cells.setValue(row, KFPeriod, v("FKFPeriod").isNull() ? QVariant() : QVariant(v("FKFPeriod").toInt()));
         setQuantityDecimals(cells, row, qtyDecimal, defaultQtyDecimal);
-        // Batch lines are shown, not edited here: the batch dialog edits them.
-        cells.setRowStyle(row, CellStyle().setLocked(true));
     }
     return count;
 }

@@ -33,10 +33,25 @@ struct GroupColumns
     int difference;
 };
 LUMOICINITIAL_EXPORT const GroupColumns (&groups())[4];
+// Whether the column holds one of the groups' figures.
+LUMOICINITIAL_EXPORT bool isFigureColumn(int col);
 
 // Column defaults for a load: quantity cells with `qtyDecimal`, amount cells with `amountScale`,
 // the locked descriptive columns with the "Lock" colour.
 LUMOICINITIAL_EXPORT void applyColumnFormats(CellModel &cells, int qtyDecimal, int amountScale, const RowColors &colors);
+
+// The names beside an item's ids that a row shows.
+struct ItemTexts
+{
+    QString unitName;
+    QString secUnitName;
+    QString auxPropName;
+};
+
+// Writes an item's descriptive columns, its batch button and its quantity decimals into a row:
+// the one way both a loaded row and an item found by its code are shown.
+LUMOICINITIAL_EXPORT void writeItem(CellModel &cells, int row, const ItemInfo &info, const ItemTexts &texts,
+                                    bool useShortNumber, int defaultQtyDecimal, const RowColors &colors);
 
 // Replaces the data rows with one item row per record and rebuilds the per-item information.
 LUMOICINITIAL_EXPORT void fillItemRows(CellModel &cells, const Recordset &items, bool useShortNumber,
