@@ -54,26 +54,12 @@ void ICInitAdjCtl::SetOperator(int oID, const QString &oName)
 
 bool ICInitAdjCtl::Show(QObject *ParentWnd, bool blnIstest)
 {
-    takeLoginContext();
-    try {
-        SetFormFont(Controls());
-        LoadFormStrings(this, m_formOptions, ResourceSet);
-        if (!blnIstest) {
-            setTaskHandle(ExecFunc(EntryTaskId, QString::fromLatin1(EntryFuncCode), 0, 0));
-            if (!ParentWnd)
-                return false;
-            bindHost(ParentWnd);
-        }
-        LoadSysParams(ProgId::MICInitialDataAdj);
-        LibraryState::instance().periodOpen = !SysParams::toBool(SysParam::ICClosed);
-        m_units = FetchMeasureUnits(ProgId::MICInitialDataAdj);
-        loadViewSettings();
-    } catch (const LumoError &error) {
-        reportProcedureError(QStringLiteral("Show"), error);
-        return false;
-    }
-    CommitTask(taskHandle());
-    return true;
+    return showControl(ParentWnd, blnIstest, ProgId::MICInitialDataAdj);
+}
+
+void ICInitAdjCtl::prepareShow()
+{
+    LoadFormStrings(this, m_formOptions, ResourceSet);
 }
 
 QObject *ICInitAdjCtl::SetSystemFontName()

@@ -24,13 +24,11 @@ public:
     // The font of the language.
     Q_INVOKABLE QObject *SetSystemFontName();
 
-    Recordset *measureUnits() const { return m_units.get(); }
-
 protected:
     void runCommand(const QString &key) override;
+    void prepareShow() override;
 
 private:
     QLabel *m_title = nullptr;
     std::unique_ptr<QObject> m_formOptions;
-    std::unique_ptr<Recordset> m_units;
 };

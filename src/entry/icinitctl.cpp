@@ -1,42 +1,30 @@
 #include "icinitctl.h"
 
-#include "batch/frmbatchmanager.h"
+#include "entry/checkmode.h"
+#include "entry/entrycommands.h"
+#include "entry/entrymode.h"
+
 #include "sheet/entrygridlayout.h"
-#include "sheet/entrysaver.h"
 #include "sheet/entrysheet.h"
-#include "sheet/itementry.h"
 #include "sheet/navtree.h"
 #include "sheet/pagebar.h"
-
-#include "sheet/balancecheck.h"
 #include "frame/barlist.h"
 #include "frame/errorbox.h"
 #include "frame/librarystate.h"
 #include "frame/logincontext.h"
 #include "frame/messages.h"
-#include "frame/netcontrol.h"
-#include "frame/qllogmsg.h"
-#include "frame/settingsstore.h"
-#include "frame/sysparams.h"
-
-#include "frame/automation/componentregistry.h"
-#include "frame/automation/dictionary.h"
-#include "frame/automation/dispatch.h"
 #include "frame/automation/lumoerror.h"
-#include "frame/automation/objectownership.h"
-#include "frame/automation/recordset.h"
 #include "frame/automation/progids.h"
-
-#include "grid/cellmodel.h"
-#include "grid/spreadconsole.h"
 #include "grid/spreadgrid.h"
-
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSplitter>
 #include <QVBoxLayout>
+#include "frame/qllogmsg.h"
+#include "frame/sysparams.h"
+#include "batch/frmbatchmanager.h"
+#include "sheet/entrysaver.h"
 
 namespace {
 
@@ -50,6 +38,9 @@ ICInitCtl::ICInitCtl(QWidget *parent)
 {
     setObjectName(QStringLiteral("ICInitCtl"));
     buildLayout();
+    m_entry = std::make_unique<EntryMode>(*this);
+    m_check = std::make_unique<CheckMode>(*this);
+    m_mode = m_entry.get();
     fillEntryBarList(*barList());
     // The adjustment control's commands are in the description but never shown here.
     for (const QString &key : commandKeys(CommandFlag::AdjustmentOnly))
@@ -87,11 +78,6 @@ void ICInitCtl::buildLayout()
     m_stockBox = new QComboBox(this);
     m_stockBox->setObjectName(QStringLiteral("cbStock"));
     m_stockBox->setMinimumWidth(200);
-    connect(m_stockBox, &QComboBox::activated, this, [this](int index) {
-        const int tableIndex = m_stockBox->itemData(index).toInt();
-        if (tableIndex >= 0 && tableIndex < m_stocks.size())
-            m_tree->clickNode(WarehouseTree::nodeKey(m_stocks.at(tableIndex), tableIndex == 0));
-    });
 
     auto *selector = new QHBoxLayout;
     selector->setContentsMargins(6, 2, 6, 4);
@@ -107,18 +93,9 @@ void ICInitCtl::buildLayout()
     m_grid = new SpreadGrid(this);
     m_grid->setObjectName(QStringLiteral("vsICInit"));
     m_sheet = new EntrySheet(*m_grid, this);
-    m_saver = std::make_unique<EntrySaver>(*m_sheet);
-    connect(m_grid, &SpreadGrid::afterEdit, this, &ICInitCtl::onAfterEdit);
-    connect(m_grid, &SpreadGrid::validateEdit, this, [this](int row, int col, const QVariant &value) {
-        if (!checkEditedGroup(row, col, value))
-            m_grid->cancelEdit();
-    });
-    connect(m_grid, &SpreadGrid::cellClicked, this, &ICInitCtl::onCellClicked);
-    connect(m_grid, &SpreadGrid::cellButtonClick, this, &ICInitCtl::onCellButtonClick);
 
     m_pageBar = new PageBar(this);
     m_pageBar->setObjectName(QStringLiteral("pageBar"));
-    connect(m_pageBar, &PageBar::pageCommand, this, &ICInitCtl::PageCommand);
     auto *gridPane = new QWidget(this);
     auto *gridLayout = new QVBoxLayout(gridPane);
     gridLayout->setContentsMargins(0, 0, 0, 0);
@@ -142,59 +119,76 @@ void ICInitCtl::buildLayout()
 
 bool ICInitCtl::Show(QObject *ParentWnd, bool blnIstest)
 {
-    takeLoginContext();
-    bool shown = false;
-    try {
-        SetFormFont(Controls());
-        EntryGridLayout::build(*m_grid, GetIndustryType());
-        setMode(m_mode);
-        if (!blnIstest) {
-            setTaskHandle(ExecFunc(EntryTaskId, QString::fromLatin1(EntryFuncCode), 0, 0));
-            if (!ParentWnd)
-                return false;
-            bindHost(ParentWnd);
-        }
-        LoadSysParams(ProgId::MICInitialData);
-        LibraryState::instance().periodOpen = !SysParams::toBool(SysParam::ICClosed);
-        m_amountScale = FetchAmountScale();
-        m_sheet->setAmountScale(m_amountScale);
-        m_units = FetchMeasureUnits(ProgId::MICInitialData);
-        loadViewSettings();
-        enableCommands();
-        LoadingStocks();
-        shown = true;
-        if (blnIstest && !m_tree->firstKey().isEmpty())
-            m_tree->clickNode(m_tree->firstKey());
-        else
-            openDefaultStock();
-    } catch (const LumoError &error) {
-        reportProcedureError(QStringLiteral("Show"), error);
-        return false;
-    }
-    CommitTask(taskHandle());
-    return shown;
+    return showControl(ParentWnd, blnIstest, ProgId::MICInitialData);
 }
 
-void ICInitCtl::setMode(Mode mode)
+void ICInitCtl::prepareShow()
+{
+    EntryGridLayout::build(*m_grid, GetIndustryType());
+    setMode(m_mode);
+}
+
+void ICInitCtl::showData(bool blnIstest)
+{
+    m_sheet->setAmountScale(FetchAmountScale());
+    enableCommands();
+    LoadingStocks();
+    if (blnIstest && !m_tree->firstKey().isEmpty())
+        m_tree->clickNode(m_tree->firstKey());
+    else
+        m_entry->openDefaultStock();
+}
+
+ICInitCtl::Mode ICInitCtl::mode() const
+{
+    return m_mode->isEntry() ? Mode::Entry : Mode::Check;
+}
+
+const QVector<WarehouseEntry> &ICInitCtl::warehouseTable() const
+{
+    return m_entry->stocks();
+}
+
+const QVector<AccountEntry> &ICInitCtl::accountTable() const
+{
+    return m_check->accounts();
+}
+
+qint16 ICInitCtl::amountScale() const
+{
+    return qint16(m_sheet->amountScale());
+}
+
+EntrySaver *ICInitCtl::saver() const
+{
+    return m_entry->saver();
+}
+
+void ICInitCtl::LoadingStocks()
+{
+    m_entry->LoadingStocks();
+}
+
+void ICInitCtl::LoadingAccounts()
+{
+    m_check->LoadingAccounts();
+}
+
+void ICInitCtl::setMode(ControlMode *mode)
 {
     m_mode = mode;
-    const bool stockProduct = GetSchemeInfo() == AppTypeStock;
-    const bool entry = mode == Mode::Entry;
-    const QString title = stockProduct ? (entry ? Msg::TitleEntryStock : Msg::TitleCheckStock)
-                                       : (entry ? Msg::TitleEntryBusiness : Msg::TitleCheckBusiness);
-    m_title->setText(ResString(title));
-    m_selectorLabel->setText(ResString(entry ? Msg::SelectorStock : Msg::SelectorAccount));
+    m_title->setText(ResString(mode->titleKey(GetSchemeInfo() == AppTypeStock)));
+    m_selectorLabel->setText(ResString(mode->selectorKey()));
     enableCommands();
 }
 
 void ICInitCtl::enableCommands()
 {
     BarList &bars = *barList();
-    const bool entryMode = m_mode == Mode::Entry;
     const bool initialisationOpen = LibraryState::instance().periodOpen;
-    const bool rowsLoaded = m_sheet && m_sheet->lastDataRow() > 0;
+    const bool rowsLoaded = m_sheet->lastDataRow() > 0;
     for (const EntryCommandSpec &declared : entryCommandTable()) {
-        const bool available = declared.available(entryMode, initialisationOpen, rowsLoaded);
+        const bool available = declared.available(isEntryMode(), initialisationOpen, rowsLoaded);
         for (const QString &menuKey : declared.menuKeys)
             bars.setEnabled(menuKey, available);
         if (!declared.toolKey.isEmpty())
@@ -204,114 +198,32 @@ void ICInitCtl::enableCommands()
     for (const QString &key : commandKeys(CommandFlag::Reconciliation))
         bars.setVisible(key, reconciliationExists());
     // Save follows the unsaved rows and Find the loaded ones.
-    setSaveEnabled(m_saver && m_saver->changes().isDirty());
+    m_entry->setSaveEnabled(m_entry->saver()->changes().isDirty());
     setFindEnabled();
 }
 
 void ICInitCtl::setFindEnabled()
 {
     const bool enabled = entryCommandForKey(EntryKeys::Find)->available(
-        m_mode == Mode::Entry, LibraryState::instance().periodOpen, m_sheet && m_sheet->lastDataRow() > 0);
+        isEntryMode(), LibraryState::instance().periodOpen, m_sheet->lastDataRow() > 0);
     barList()->setEnabled(EntryKeys::Find, enabled);
     barList()->setEnabled(EntryKeys::EFind, enabled);
 }
 
-void ICInitCtl::LoadingStocks()
-{
-    try {
-        QElapsedTimer timer;
-        timer.start();
-        std::unique_ptr<Recordset> stocks;
-        {
-            const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
-            stocks = takeObject<Recordset>(
-                Dispatch::call(data.get(), QStringLiteral("FetchStocks"), {GetPropsString(), WarehouseTree::StockTypes}));
-        }
-        if (!stocks)
-            throw LumoError(LumoError::AppBase + 30, QStringLiteral("数据服务没有返回仓库"), QStringLiteral("FetchStocks"));
-        const qint64 fetched = timer.restart();
-        m_stocks = WarehouseTree::buildTable(*stocks);
-        const qint64 built = timer.restart();
-        m_tree->clearNodes();
-        m_currentNode = -1;
-        for (const TreeNodeSpec &node : WarehouseTree::nodes(m_stocks))
-            m_tree->addNode(node.key, node.parentKey, node.text, node.tableIndex, WarehouseTree::NodeImage,
-                            WarehouseTree::SelectedImage);
-        m_tree->ensureRootVisible();
-        m_tree->expandToDepth(0);
-        fillStockList();
-        setStatusText(QStringLiteral("%1%2ms  %3%4ms  %5%6ms")
-                          .arg(ResString(Msg::FetchTime)).arg(fetched)
-                          .arg(ResString(Msg::BuildTableTime)).arg(built)
-                          .arg(ResString(Msg::BuildTreeTime)).arg(timer.elapsed()));
-        setStatusText(Msg::Ready);
-    } catch (const LumoError &error) {
-        reportProcedureError(QStringLiteral("LoadingStocks"), error);
-    }
-}
-
-void ICInitCtl::LoadingAccounts()
-{
-    try {
-        {
-            const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
-            m_accountRecords = takeObject<Recordset>(Dispatch::call(
-                data.get(), QStringLiteral("FetchYtdAccounts"),
-                {GetPropsString(), SysParams::toInt(SysParam::CurrentPeriod)}));
-        }
-        if (!m_accountRecords)
-            throw LumoError(LumoError::AppBase + 32, QStringLiteral("数据服务没有返回科目"),
-                            QStringLiteral("FetchYtdAccounts"));
-        m_accounts = AccountTree::buildTable(*m_accountRecords);
-        m_tree->clearNodes();
-        m_currentNode = -1;
-        for (const TreeNodeSpec &node : AccountTree::nodes(m_accounts))
-            m_tree->addNode(node.key, node.parentKey, node.text, node.tableIndex, WarehouseTree::NodeImage,
-                            WarehouseTree::SelectedImage);
-        m_tree->ensureRootVisible();
-    } catch (const LumoError &error) {
-        reportProcedureError(QStringLiteral("LoadingAccounts"), error);
-    }
-}
-
 void ICInitCtl::switchMode(bool reconciliation)
 {
-    const Mode wanted = reconciliation ? Mode::Check : Mode::Entry;
+    ControlMode *wanted = reconciliation ? static_cast<ControlMode *>(m_check.get()) : m_entry.get();
     m_modeBox->setCurrentIndex(reconciliation ? 1 : 0);
     if (wanted == m_mode || !confirmLeave()) {
-        m_modeBox->setCurrentIndex(m_mode == Mode::Check ? 1 : 0);
+        m_modeBox->setCurrentIndex(isEntryMode() ? 0 : 1);
         return;
     }
     m_sheet->clear();
-    showPages();
+    m_entry->showPages();
     setMode(wanted);
     EntryGridLayout::setItemHeaders(*m_grid, !reconciliation);
     m_stockBox->setEnabled(!reconciliation);
-    if (reconciliation)
-        LoadingAccounts();
-    else
-        LoadingStocks();
-}
-
-void ICInitCtl::fillStockList()
-{
-    m_stockBox->clear();
-    for (int i = 1; i < m_stocks.size(); ++i) {
-        const WarehouseEntry &entry = m_stocks.at(i);
-        QString text = entry.firstText + QLatin1Char('|') + entry.thirdText;
-        if (entry.stockPlace != 0)
-            text += ResString(Msg::StockPlaceSuffix);
-        m_stockBox->addItem(text, i);
-    }
-    m_stockBox->setCurrentIndex(qBound(-1, SettingsStore::intValue(Setting::StockListIndex), m_stockBox->count() - 1));
-}
-
-void ICInitCtl::openDefaultStock()
-{
-    if (!barList()->isChecked(EntryKeys::DefaultStock) || m_stockBox->currentIndex() < 0)
-        return;
-    const int tableIndex = m_stockBox->currentData().toInt();
-    m_tree->clickNode(WarehouseTree::nodeKey(m_stocks.at(tableIndex), false));
+    m_mode->loadTree();
 }
 
 void ICInitCtl::applyDefaultStockSetting()
@@ -331,7 +243,7 @@ void ICInitCtl::tvICInit_NodeClick(const QString &key)
         const int index = m_tree->nodeTag(key);
         if (m_currentNode < 0)
             m_currentNode = index;
-        if (m_mode == Mode::Entry && (index < 0 || index >= m_stocks.size()))
+        if (isEntryMode() && (index < 0 || index >= warehouseTable().size()))
             throw LumoError(LumoError::AppBase + 31, QStringLiteral("下标越界：%1").arg(index),
                             QStringLiteral("tvICInit_NodeClick"));
         if (!confirmLeave()) {
@@ -340,12 +252,9 @@ void ICInitCtl::tvICInit_NodeClick(const QString &key)
             return;
         }
         m_currentNode = index;
-        loadRows(1);
-        // The selector beside the tree names the warehouse on screen (none at the root).
-        if (m_mode == Mode::Entry) {
-            m_stockBox->setCurrentIndex(m_stockBox->findData(index));
-            setNodeCommandsVisible(m_stocks.at(index).isStockMgr == 0);
-        }
+        m_entry->loadRows(1);
+        if (isEntryMode())
+            m_entry->nodeShown(index);
         barList()->setEnabled(EntryKeys::Save, false);
         barList()->setEnabled(EntryKeys::FSave, false);
         RefreshToolbar();
@@ -356,27 +265,9 @@ void ICInitCtl::tvICInit_NodeClick(const QString &key)
     m_grid->setFocus();
 }
 
-void ICInitCtl::loadRows(int pageIndex)
+void ICInitCtl::PageCommand(const QString &key)
 {
-    // Rows are kept only at a warehouse without stock places or at a stock place.
-    if (m_mode == Mode::Check || m_currentNode == 0 || m_stocks.at(m_currentNode).isStockMgr != 0) {
-        m_sheet->clear();
-    } else {
-        const WarehouseEntry &entry = m_stocks.at(m_currentNode);
-        m_sheet->setPlace({entry.id, entry.stockPlace, entry.typeId});
-        m_sheet->loadPage(pageIndex, mlngPerPageSize());
-    }
-    showPages();
-    m_saver->changes().clear();
-    setMBlsIsNewData(false);
-    setFindEnabled();
-}
-
-void ICInitCtl::showPages()
-{
-    setMlngPageIndex(m_sheet->pageIndex());
-    setMTotalPages(m_sheet->totalPages());
-    m_pageBar->setPages(m_sheet->pageIndex(), m_sheet->totalPages());
+    m_entry->PageCommand(key);
 }
 
 QString ICInitCtl::pageLabel() const
@@ -384,239 +275,39 @@ QString ICInitCtl::pageLabel() const
     return m_pageBar->label();
 }
 
-void ICInitCtl::PageCommand(const QString &key)
-{
-    if (m_currentNode < 0)
-        return;
-    int page = mlngPageIndex();
-    if (key == PageBar::FirstPage)
-        page = 1;
-    else if (key == PageBar::PreviousPage)
-        page = page - 1;
-    else if (key == PageBar::NextPage)
-        page = page + 1;
-    else if (key == PageBar::LastPage)
-        page = mTotalPages();
-    else if (key == PageBar::SearchPage)
-        page = m_pageBar->typedPage();
-    else
-        return;
-    page = qBound(1, page, qMax(1, mTotalPages()));
-    if (!confirmLeave())
-        return;
-    try {
-        loadRows(page);
-    } catch (const LumoError &error) {
-        reportProcedureError(QStringLiteral("PageCommand"), error);
-    }
-}
-
-void ICInitCtl::setSaveEnabled(bool enabled)
-{
-    const bool allowed = enabled && m_mode == Mode::Entry && LibraryState::instance().periodOpen;
-    barList()->setEnabled(EntryKeys::Save, allowed);
-    barList()->setEnabled(EntryKeys::FSave, allowed);
-}
-
-void ICInitCtl::markRowChanged(int row)
-{
-    m_grid->cells()->setText(row, EntryCol::Flag, QStringLiteral("1"));
-    m_saver->changes().setDirty(true);
-    setMBlsIsNewData(true);
-    if (!barList()->isEnabled(EntryKeys::Save)) {
-        setSaveEnabled(true);
-        RefreshToolbar();
-    }
-}
-
-// Each edit of a figure is checked against its group at once; the complete row check runs when
-// the row is saved.
-bool ICInitCtl::checkEditedGroup(int row, int col, const QVariant &value)
-{
-    if (!m_sheet->isItemRow(row))
-        return true;
-    const CellModel &cells = *m_grid->cells();
-    for (const auto &g : ItemRows::groups()) {
-        if (col != g.quantity && col != g.amount && col != g.difference)
-            continue;
-        const auto figure = [&](int c) { return c == col ? value.toDouble() : cells.number(row, c); };
-        BalanceRules rules{m_sheet->place().stockType, SysParams::toBool(SysParam::UnderStock),
-                           SysParams::toInt(SysParam::AuditChoice)};
-        // A quantity is typed before its amount: a missing amount is judged when the row is saved.
-        if (col == g.quantity)
-            rules.auditChoice = 0;
-        int emptyGroups = 0;
-        const BalanceVerdict verdict = BalanceCheck::check(figure(g.quantity), figure(g.amount),
-                                                           figure(g.difference), emptyGroups, false, 0, rules);
-        if (!verdict.valid)
-            tellUser(verdict.message());
-        return verdict.valid;
-    }
-    return true;
-}
-
-void ICInitCtl::onAfterEdit(int row, int col)
-{
-    if (!m_sheet->isItemRow(row) || col == EntryCol::Flag)
-        return;
-    if (col == EntryCol::Number && m_sheet->isNewRow(row)) {
-        try {
-            const ItemEntry::Outcome outcome = ItemEntry::enterCode(*m_sheet, row, m_grid->cells()->text(row, col));
-            if (!outcome.filled) {
-                tellUser(outcome.message);
-                SpreadConsole::moveToCell(*m_grid, row, EntryCol::Number);
-                return;
-            }
-        } catch (const LumoError &error) {
-            reportProcedureError(QStringLiteral("FillItemDetailByF7"), error);
-            return;
-        }
-    }
-    markRowChanged(row);
-}
-
-void ICInitCtl::onCellClicked(int row, int col)
-{
-    if (col != EntryCol::Mark || !m_sheet->isItemRow(row))
-        return;
-    const ItemInfo *info = m_sheet->itemInfo(int(m_grid->cells()->number(row, EntryCol::ItemID)));
-    if (!info || !info->hasDetailLines() || m_sheet->isNewRow(row))
-        return;
-    // Unfolding starts from saved figures: pending changes are saved first, without asking.
-    if (barList()->isEnabled(EntryKeys::Save) && !SaveData())
-        return;
-    try {
-        m_sheet->toggleBatchLines(row);
-    } catch (const LumoError &error) {
-        reportProcedureError(QStringLiteral("FillBatManDetailByRs"), error);
-    }
-}
-
-void ICInitCtl::onCellButtonClick(int row, int col)
-{
-    if (col != EntryCol::Batch || !m_sheet->isItemRow(row))
-        return;
-    // The batch lines hang on the item row's saved key: a new or changed row is saved first.
-    if (barList()->isEnabled(EntryKeys::Save) && !SaveData())
-        return;
-    const std::unique_ptr<frmBatchManager> dialog = batchDialogFor(row);
-    if (!dialog)
-        return;
-    dialog->ShowDialog();
-    if (!dialog->SavedBatMan())
-        return;
-    try {
-        loadRows(mlngPageIndex());
-    } catch (const LumoError &error) {
-        reportProcedureError(QStringLiteral("FillBatManDetailByRs"), error);
-    }
-}
-
-std::unique_ptr<frmBatchManager> ICInitCtl::batchDialogFor(int row)
-{
-    if (!m_sheet->isItemRow(row))
-        return {};
-    const CellModel &cells = *m_grid->cells();
-    const ItemInfo *info = m_sheet->itemInfo(int(cells.number(row, EntryCol::ItemID)));
-    if (!info || !info->hasDetailLines())
-        return {};
-    ItemInfo item = *info;
-    item.auxPropId = int(cells.number(row, EntryCol::AuxPropID));
-    auto dialog = std::make_unique<frmBatchManager>(this);
-    // The dialog reads the item's collection when it opens; it keeps it until then.
-    Dictionary *itemKey = item.toItemKey().release();
-    itemKey->setParent(dialog.get());
-    dialog->setBMItemKey(itemKey);
-    dialog->setCurrentBMStock(m_sheet->place().stockId);
-    dialog->setCurrentBMSPlace(m_sheet->place().spId);
-    dialog->setCurrentBMItem(item.id);
-    dialog->setCurrentUnitID(int(cells.number(row, EntryCol::UnitID)));
-    dialog->setCurrentSecUnitID(int(cells.number(row, EntryCol::SecUnitID)));
-    dialog->setFieldCompose(cells.text(row, EntryCol::FieldCompose));
-    dialog->setLVSColor(int(SettingsStore::rgbNumber(m_sheet->colors().lock)));
-    dialog->setStockType(m_sheet->place().stockType);
-    return dialog;
-}
-
 bool ICInitCtl::SaveData()
 {
-    setStatusText(Msg::Saving);
-    bool saved = false;
-    try {
-        const EntrySaver::Outcome outcome = m_saver->save();
-        if (!outcome.saved) {
-            tellUser(outcome.message);
-            SpreadConsole::moveToCell(*m_grid, outcome.refusedRow, outcome.refusedCol);
-        } else {
-            saved = true;
-            setSaveEnabled(false);
-            setMBlsIsNewData(false);
-            m_sheet->refreshTotals();
-            RefreshToolbar();
-        }
-    } catch (const LumoError &error) {
-        reportProcedureError(QStringLiteral("SaveData"), error);
-    }
-    setStatusText(Msg::Ready);
-    return saved;
+    return m_entry->SaveData();
 }
 
 bool ICInitCtl::confirmLeave()
 {
-    if (askToSave(m_saver->changes(), barList()->isEnabled(EntryKeys::Save)))
-        return SaveData();
-    setSaveEnabled(false);
-    return true;
+    return m_entry->confirmLeave();
+}
+
+int ICInitCtl::AddNewRow()
+{
+    return m_entry->AddNewRow();
+}
+
+bool ICInitCtl::DeleteCurrentRow()
+{
+    return m_entry->DeleteCurrentRow();
+}
+
+std::unique_ptr<frmBatchManager> ICInitCtl::batchDialogFor(int row)
+{
+    return m_entry->batchDialogFor(row);
+}
+
+bool ICInitCtl::showTotals()
+{
+    return m_entry->showTotals();
 }
 
 void ICInitCtl::beforeUnload()
 {
     confirmLeave();
-}
-
-int ICInitCtl::AddNewRow()
-{
-    const WarehouseEntry *place = m_mode == Mode::Entry && m_currentNode > 0 ? &m_stocks.at(m_currentNode) : nullptr;
-    if (!place || place->isStockMgr != 0)
-        return 0;
-    const int row = m_sheet->addNewRow();
-    SpreadConsole::moveToCell(*m_grid, row, EntryCol::Number);
-    return row;
-}
-
-bool ICInitCtl::DeleteCurrentRow()
-{
-    const int row = m_grid->row();
-    if (!m_sheet->isItemRow(row))
-        return false;
-    if (m_sheet->isExpanded(row)) {
-        tellUser(QStringLiteral("该物料已展开，不能删除！"));
-        return false;
-    }
-    m_saver->noteDeleted(m_sheet->removeItemRow(row));
-    m_sheet->refreshTotals();
-    setMBlsIsNewData(true);
-    setSaveEnabled(true);
-    RefreshToolbar();
-    return true;
-}
-
-bool ICInitCtl::showTotals()
-{
-    if (m_mode != Mode::Entry || m_currentNode < 0)
-        return false;
-    // The grand total is shown on the last page only.
-    if (mTotalPages() > 1 && mlngPageIndex() != mTotalPages()) {
-        PageCommand(PageBar::LastPage);
-        if (mlngPageIndex() != mTotalPages())
-            return false;
-    }
-    m_sheet->refreshTotals();
-    const int row = m_sheet->totalsRow();
-    if (row <= 0)
-        return false;
-    SpreadConsole::moveToCell(*m_grid, row, EntryCol::Number);
-    return true;
 }
 
 QString ICInitCtl::currentNodeKey() const
@@ -626,13 +317,6 @@ QString ICInitCtl::currentNodeKey() const
             return key;
     }
     return {};
-}
-
-void ICInitCtl::setNodeCommandsVisible(bool visible)
-{
-    const QVector<QString> reconciliation = commandKeys(CommandFlag::Reconciliation);
-    for (const QString &key : commandKeys(CommandFlag::NodeDependent) + QVector<QString>{EntryKeys::Separator2, EntryKeys::Separator3})
-        barList()->setVisible(key, visible && (reconciliationExists() || !reconciliation.contains(key)));
 }
 
 bool ICInitCtl::reconciliationExists() const
@@ -651,7 +335,7 @@ void ICInitCtl::runCommand(const QString &key)
         break;
     case EntryCommand::Refresh:
         if (m_currentNode >= 0 && confirmLeave())
-            loadRows(mlngPageIndex());
+            m_entry->loadRows(mlngPageIndex());
         RefreshToolbar();
         break;
     case EntryCommand::Save:

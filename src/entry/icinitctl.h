@@ -4,25 +4,28 @@
 #include "frame/lumoicinitial_global.h"
 
 #include "entry/accounttable.h"
-#include "entry/entrycommands.h"
+
 #include "sheet/warehousetable.h"
 
 #include <QVector>
 
 #include <memory>
 
+class CheckMode;
+class ControlMode;
+class EntryMode;
 class EntrySaver;
-class frmBatchManager;
 class EntrySheet;
+class frmBatchManager;
 class NavTree;
 class PageBar;
 class QComboBox;
 class QLabel;
-class Recordset;
 class SpreadGrid;
 
 // The entry control: the warehouse tree on the left, the entry grid on the right, for entering
-// and reconciling the opening balances of inventory.
+// and reconciling the opening balances of inventory. It lays out the widgets and routes commands;
+// what entry and reconciliation do lives in their mode classes.
 class LUMOICINITIAL_EXPORT ICInitCtl : public InitControl
 {
     Q_OBJECT
@@ -37,31 +40,34 @@ public:
     // a step failed.
     Q_INVOKABLE bool Show(QObject *ParentWnd, bool blnIstest = false);
 
-    Mode mode() const { return m_mode; }
-    const QVector<WarehouseEntry> &warehouseTable() const { return m_stocks; }
+    Mode mode() const;
+    bool isEntryMode() const { return mode() == Mode::Entry; }
+    const QVector<WarehouseEntry> &warehouseTable() const;
+    const QVector<AccountEntry> &accountTable() const;
     // The table index of the node whose rows are shown; -1 before the first click.
     int currentNode() const { return m_currentNode; }
-    qint16 amountScale() const { return m_amountScale; }
-    Recordset *measureUnits() const { return m_units.get(); }
+    void setCurrentNode(int index) { m_currentNode = index; }
+    qint16 amountScale() const;
     NavTree *tree() const { return m_tree; }
     SpreadGrid *grid() const { return m_grid; }
+    EntrySheet *sheet() const { return m_sheet; }
+    QComboBox *stockBox() const { return m_stockBox; }
+    PageBar *pageBar() const { return m_pageBar; }
+    EntrySaver *saver() const;
 
     // Builds the warehouse tree from the data service.
     void LoadingStocks();
     // Builds the flat account tree of reconciliation mode.
     void LoadingAccounts();
-    const QVector<AccountEntry> &accountTable() const { return m_accounts; }
     // Switches between entry ("录入") and reconciliation ("对账"), rebuilding the tree.
     Q_INVOKABLE void switchMode(bool reconciliation);
     // A click on a node of the tree, by key.
     void tvICInit_NodeClick(const QString &key);
-    EntrySheet *sheet() const { return m_sheet; }
 
     // The page commands "FIRSTPAGE", "PREPAGE", "NEXTPAGE", "LASTPAGE" and "SEARCHPAGE" (the page
     // typed in the page box).
     Q_INVOKABLE void PageCommand(const QString &key);
     Q_INVOKABLE QString pageLabel() const;
-
     // The Save command: checks the changed rows and writes them in one call; false when a row was
     // refused or the write failed.
     Q_INVOKABLE bool SaveData();
@@ -72,7 +78,6 @@ public:
     Q_INVOKABLE int AddNewRow();
     // Deletes the item row under the cursor (not an unfolded one).
     Q_INVOKABLE bool DeleteCurrentRow();
-    EntrySaver *saver() const { return m_saver.get(); }
     // The batch dialog for the item row, its members set from the row and the item; null for a
     // row without batch or shelf-life management. The caller prepares and shows it.
     std::unique_ptr<frmBatchManager> batchDialogFor(int row);
@@ -80,42 +85,27 @@ public:
     // false where no totals row can be shown.
     Q_INVOKABLE bool showTotals();
 
+    // Commands follow the mode, whether initialisation is open and whether rows are loaded.
+    void enableCommands();
+    // Find needs loaded rows, and its procedure.
+    void setFindEnabled();
+    // Whether the account set keeps amounts ("AuditChoice"), so that there is a reconciliation.
+    bool reconciliationExists() const;
+
 protected:
     void runCommand(const QString &key) override;
     void beforeUnload() override;
     void applyDefaultStockSetting() override;
     int stockListIndex() const override;
+    void prepareShow() override;
+    void showData(bool blnIstest) override;
 
 private:
     void buildLayout();
-    void setMode(Mode mode);
-    void enableCommands();
-    void setNodeCommandsVisible(bool visible);
-    // Whether the account set keeps amounts ("AuditChoice"), so that there is a reconciliation.
-    bool reconciliationExists() const;
-    void fillStockList();
-    void openDefaultStock();
-    // Loads page `pageIndex` of the current node into the grid.
-    void loadRows(int pageIndex);
-    void showPages();
-    void onAfterEdit(int row, int col);
-    void onCellClicked(int row, int col);
-    // The batch cell of a batch- or shelf-life-managed item opens the batch dialog.
-    void onCellButtonClick(int row, int col);
-    void markRowChanged(int row);
-    void setSaveEnabled(bool enabled);
-    // Find needs loaded rows, and its procedure.
-    void setFindEnabled();
+    void setMode(ControlMode *mode);
     QString currentNodeKey() const;
-    bool checkEditedGroup(int row, int col, const QVariant &value);
 
-    Mode m_mode = Mode::Entry;
     int m_currentNode = -1;
-    qint16 m_amountScale = 2;
-    QVector<WarehouseEntry> m_stocks;
-    QVector<AccountEntry> m_accounts;
-    std::unique_ptr<Recordset> m_accountRecords;
-    std::unique_ptr<Recordset> m_units;
     QLabel *m_title = nullptr;
     QLabel *m_selectorLabel = nullptr;
     QComboBox *m_modeBox = nullptr;
@@ -125,5 +115,7 @@ private:
     EntrySheet *m_sheet = nullptr;
     PageBar *m_pageBar = nullptr;
     QWidget *m_treePane = nullptr;
-    std::unique_ptr<EntrySaver> m_saver;
+    std::unique_ptr<EntryMode> m_entry;
+    std::unique_ptr<CheckMode> m_check;
+    ControlMode *m_mode = nullptr;
 };

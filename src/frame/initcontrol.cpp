@@ -6,11 +6,14 @@
 #include "librarystate.h"
 #include "logincontext.h"
 #include "messages.h"
+#include "netcontrol.h"
 #include "settingsstore.h"
 #include "statuspanels.h"
+#include "sysparams.h"
 
 #include "frame/automation/dispatch.h"
 #include "frame/automation/lumoerror.h"
+#include "frame/automation/recordset.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -76,6 +79,31 @@ InitControl::InitControl(QWidget *parent)
     LibraryState &state = LibraryState::instance();
     state.initialised = true;
     state.createFilters();
+}
+
+bool InitControl::showControl(QObject *ParentWnd, bool blnIstest, const QString &dataProgId)
+{
+    takeLoginContext();
+    try {
+        SetFormFont(Controls());
+        prepareShow();
+        if (!blnIstest) {
+            setTaskHandle(ExecFunc(EntryTaskId, QString::fromLatin1(EntryFuncCode), 0, 0));
+            if (!ParentWnd)
+                return false;
+            bindHost(ParentWnd);
+        }
+        LoadSysParams(dataProgId);
+        LibraryState::instance().periodOpen = !SysParams::toBool(SysParam::ICClosed);
+        m_units = FetchMeasureUnits(dataProgId);
+        loadViewSettings();
+        showData(blnIstest);
+    } catch (const LumoError &error) {
+        reportProcedureError(QStringLiteral("Show"), error);
+        return false;
+    }
+    CommitTask(taskHandle());
+    return true;
 }
 
 InitControl::~InitControl()

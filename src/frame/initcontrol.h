@@ -6,8 +6,11 @@
 #include <QVariantList>
 #include <QWidget>
 
+#include <memory>
+
 class BarList;
 class ControlCollection;
+class Recordset;
 class QToolBar;
 class QVBoxLayout;
 class StatusPanels;
@@ -57,6 +60,9 @@ public:
     QString propsString() const { return m_propsString; }
     qint32 taskHandle() const { return m_taskHandle; }
     StatusPanels *statusPanels() const { return m_statusBar; }
+    // The measure units read when the control was shown.
+    Recordset *measureUnits() const { return m_units.get(); }
+    void setStatusText(const QString &text);
 
 signals:
     void LogicEvents(QString &ActionName, QString &ExtInfo);
@@ -68,6 +74,15 @@ protected:
     virtual void beforeUnload() {}
     // The name under which errors of the command procedure are reported.
     virtual QString commandProcedure() const { return QStringLiteral("DoAction"); }
+
+    // The steps every control's Show takes: the login context, the form font, the task of the
+    // network mutex and the host window (unless testing), the system parameters and measure units
+    // of the data service `dataProgId`, the view settings; then showData() loads what the control
+    // shows. False without a host window (unless testing) or when a step failed.
+    bool showControl(QObject *ParentWnd, bool blnIstest, const QString &dataProgId);
+    // Before the host is bound: what the control lays out from the login context.
+    virtual void prepareShow() {}
+    virtual void showData(bool blnIstest) {}
 
     // Show's first step: the property string, kept and parsed; errors are ignored.
     void takeLoginContext();
@@ -84,7 +99,6 @@ protected:
     virtual void applyDefaultStockSetting() {}
     virtual int stockListIndex() const { return 0; }
 
-    void setStatusText(const QString &text);
     // Sends Ctrl+F4 to the host: the frame holding the control closes.
     void closeHostFrame();
 
@@ -112,4 +126,5 @@ private:
     QToolBar *m_toolBar = nullptr;
     StatusPanels *m_statusBar = nullptr;
     QVBoxLayout *m_bodyLayout = nullptr;
+    std::unique_ptr<Recordset> m_units;
 };

@@ -9,6 +9,7 @@
 
 #include "sheet/entrygridlayout.h"
 #include "sheet/entrysheet.h"
+#include "entry/entrycommands.h"
 #include "entry/icinitctl.h"
 #include "sheet/navtree.h"
 

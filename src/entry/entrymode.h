@@ -1,0 +1,74 @@
+#pragma once
+
+#include "entry/controlmode.h"
+
+#include "sheet/warehousetable.h"
+
+#include <QVector>
+
+#include <memory>
+
+class EntrySaver;
+class EntrySheet;
+class ICInitCtl;
+class NavTree;
+class PageBar;
+class QComboBox;
+class QString;
+class QVariant;
+class SpreadGrid;
+class frmBatchManager;
+
+// Entry mode: the warehouse tree, one page of a place's item rows, editing with the balance rules,
+// saving, adding and deleting rows, the batch dialog and the grand total.
+class EntryMode : public ControlMode
+{
+public:
+    explicit EntryMode(ICInitCtl &ctl);
+    ~EntryMode() override;
+
+    bool isEntry() const override { return true; }
+    QString titleKey(bool stockProduct) const override;
+    QString selectorKey() const override;
+    void loadTree() override { LoadingStocks(); }
+
+    void LoadingStocks();
+    const QVector<WarehouseEntry> &stocks() const { return m_stocks; }
+    EntrySaver *saver() const { return m_saver.get(); }
+
+    // Opens the warehouse chosen in the selector when the user asked for it at start-up.
+    void openDefaultStock();
+    // Loads page `pageIndex` of the current node into the grid (nothing outside entry mode).
+    void loadRows(int pageIndex);
+    // After a node's rows are shown: the selector follows, and the commands that need item rows.
+    void nodeShown(int index);
+    void PageCommand(const QString &key);
+    bool SaveData();
+    bool confirmLeave();
+    int AddNewRow();
+    bool DeleteCurrentRow();
+    std::unique_ptr<frmBatchManager> batchDialogFor(int row);
+    bool showTotals();
+    void setSaveEnabled(bool enabled);
+    // The page properties and the page bar follow the sheet.
+    void showPages();
+
+private:
+    void fillStockList();
+    void markRowChanged(int row);
+    bool checkEditedGroup(int row, int col, const QVariant &value);
+    void onAfterEdit(int row, int col);
+    void onCellClicked(int row, int col);
+    // The batch cell of a batch- or shelf-life-managed item opens the batch dialog.
+    void onCellButtonClick(int row, int col);
+    void setNodeCommandsVisible(bool visible);
+
+    ICInitCtl &m_ctl;
+    SpreadGrid *m_grid;
+    EntrySheet *m_sheet;
+    NavTree *m_tree;
+    QComboBox *m_stockBox;
+    PageBar *m_pageBar;
+    QVector<WarehouseEntry> m_stocks;
+    std::unique_ptr<EntrySaver> m_saver;
+};
