@@ -5,6 +5,7 @@
 
 #include "db/sqlrun.h"
 #include "db/transaction.h"
+#include "frame/automation/progids.h"
 
 #include <cmath>
 
@@ -36,7 +37,7 @@ int transfer(const QSqlDatabase &db, const Account &account)
     if (!known)
         throw LumoError(DataError::UnknownAccount,
                         DataError::UnknownAccountText.arg(account.accountNumber, account.accountName),
-                        QStringLiteral("LumoMICInitial.Data.StartTransferBalace"));
+                        QString(ProgId::MICInitialData) + QStringLiteral(".StartTransferBalace"));
     if (ledgerDetailId != account.detailId)
         return ItemsNotMatched;
 

@@ -7,6 +7,7 @@
 #include "db/sqlrun.h"
 
 #include "frame/automation/recordset.h"
+#include "frame/automation/progids.h"
 
 namespace {
 
@@ -120,7 +121,7 @@ PlaceItemKey PlaceItemKey::parse(const QString &text)
     }
     if (!valid)
         throw LumoError(DataError::BadPlaceItemKey, DataError::BadPlaceItemKeyText.arg(text),
-                        QStringLiteral("LumoMICInitial.Data.GetInitData"));
+                        QString(ProgId::MICInitialData) + QStringLiteral(".GetInitData"));
     return {numbers[0], numbers[1], numbers[2], numbers[3]};
 }
 

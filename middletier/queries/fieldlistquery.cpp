@@ -6,6 +6,7 @@
 #include "db/sqlrun.h"
 
 #include "frame/automation/recordset.h"
+#include "frame/automation/progids.h"
 
 #include <QHash>
 
@@ -22,7 +23,7 @@ Recordset *fetch(const QSqlDatabase &db, const QString &kind)
     const bool conditions = kind.compare(ConditionList, Qt::CaseInsensitive) == 0;
     if (!conditions && kind.compare(SortList, Qt::CaseInsensitive) != 0)
         throw LumoError(DataError::BadFieldListKind, DataError::BadFieldListKindText.arg(kind),
-                        QStringLiteral("LumoMICInitial.Data.GetSortByFields"));
+                        QString(ProgId::MICInitialData) + QStringLiteral(".GetSortByFields"));
 
     auto rs = std::make_unique<Recordset>(fields());
     const bool tailored =

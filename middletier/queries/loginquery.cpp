@@ -4,13 +4,14 @@
 
 #include "db/accountset.h"
 #include "db/sqlrun.h"
+#include "frame/automation/progids.h"
 
 namespace LoginQuery {
 
 int userId(const QString &acctDb, const QString &userName)
 {
     const AccountSet set = AccountSet::open(acctDb);
-    const QString source = QStringLiteral("LumoEBCGLView.GLData.Login");
+    const QString source = QString(ProgId::GLData) + QStringLiteral(".Login");
     QSqlQuery user = SqlRun::exec(set.database(), QStringLiteral("SELECT FUserID, FForbidden FROM t_User WHERE FName=?"),
                                   {userName.trimmed()});
     if (!user.next())

@@ -9,6 +9,7 @@
 #include "script/scripterror.h"
 
 #include "frame/automation/recordset.h"
+#include "frame/automation/progids.h"
 
 LumoConnectionAppConnection::LumoConnectionAppConnection(QObject *parent)
     : QObject(parent)
@@ -23,7 +24,7 @@ QObject *LumoConnectionAppConnection::Execute(const QString &sql)
         read = script::checkRead(sql, SqlDialect::of(db));
     } catch (const script::ScriptError &error) {
         throw LumoError(MtError::StatementRefused, MtError::StatementRefusedText.arg(error.text()),
-                        QStringLiteral("LumoConnection.AppConnection.Execute"));
+                        QString(ProgId::AppConnection) + QStringLiteral(".Execute"));
     }
     QSqlQuery query = SqlRun::exec(db, read.sql, read.values);
     return recordsetFromQuery(query);

@@ -8,6 +8,7 @@
 #include "queries/currencyquery.h"
 
 #include "frame/automation/propertystring.h"
+#include "frame/automation/progids.h"
 
 namespace {
 
@@ -37,6 +38,6 @@ QObject *LumoEBCGLViewGLData::GetCurrency(int currencyId)
         CurrencyQuery::fetch(AccountSet::fromPropsString(currentLoginPropsString()).database(), currencyId);
     if (!currency)
         throw LumoError(MtError::UnknownCurrency, MtError::UnknownCurrencyText.arg(currencyId),
-                        QStringLiteral("LumoEBCGLView.GLData.GetCurrency"));
+                        QString(ProgId::GLData) + QStringLiteral(".GetCurrency"));
     return new GLCurrency(currency->id, currency->number, currency->name, currency->scale, currency->exchangeRate);
 }

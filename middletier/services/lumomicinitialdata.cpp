@@ -10,6 +10,7 @@
 
 #include "frame/automation/dictionary.h"
 #include "frame/automation/recordset.h"
+#include "frame/automation/progids.h"
 
 LumoMICInitialData::LumoMICInitialData(QObject *parent)
     : QObject(parent)
@@ -38,6 +39,6 @@ void LumoMICInitialData::UpdateINIData(const QString &PropsString, const QString
     try {
         script::ScriptExecutor(db, SqlDialect::of(db)).run(script);
     } catch (const script::ScriptError &error) {
-        throw LumoError(MtError::ScriptFailed, error.text(), QStringLiteral("LumoMICInitial.Data.UpdateINIData"));
+        throw LumoError(MtError::ScriptFailed, error.text(), QString(ProgId::MICInitialData) + QStringLiteral(".UpdateINIData"));
     }
 }

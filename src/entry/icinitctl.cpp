@@ -29,7 +29,7 @@
 namespace {
 
 constexpr int AppTypeStock = 2;
-const QString NodeClickLog = QStringLiteral("LumoICInitialCtl.ICInitCtl.tvICInit_NodeClick 显示初始化录入界面");
+const QString NodeClickLog = QString(ProgId::ICInitCtl) + QStringLiteral(".tvICInit_NodeClick 显示初始化录入界面");
 
 } // namespace
 

@@ -148,7 +148,7 @@ void LoadFormStrings(QObject *form, std::unique_ptr<QObject> &options, const QSt
         return;
     const std::unique_ptr<QObject> loader = CreateObject(ProgId::FrmResLoader);
     if (!options) {
-        options = CreateObject(QStringLiteral("Pelm.Dictionary"));
+        options = CreateObject(QString(ProgId::Dictionary));
         Dispatch::call(options.get(), QStringLiteral("setItem"), {QStringLiteral("NeedMLColumnHeaders"), true});
     }
     Dispatch::call(loader.get(), QStringLiteral("LoadFrmResStrings"),

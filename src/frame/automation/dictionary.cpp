@@ -1,6 +1,7 @@
 #include "dictionary.h"
 
 #include "lumoerror.h"
+#include "progids.h"
 
 Dictionary::Dictionary(QObject *parent)
     : QObject(parent)
@@ -17,7 +18,7 @@ void Dictionary::Add(const QString &key, const QVariant &item)
     const QString folded = fold(key);
     if (m_items.contains(folded))
         throw LumoError(LumoError::KeyExists, QStringLiteral("该关键字已经与该集合的一个元素相关联：%1").arg(key),
-                        QStringLiteral("Pelm.Dictionary"));
+                        QString(ProgId::Dictionary));
     m_keys.append(key);
     m_items.insert(folded, item);
 }
@@ -45,7 +46,7 @@ void Dictionary::Remove(const QString &key)
     const QString folded = fold(key);
     if (!m_items.remove(folded))
         throw LumoError(LumoError::ItemNotFound, QStringLiteral("集合中没有关键字：%1").arg(key),
-                        QStringLiteral("Pelm.Dictionary"));
+                        QString(ProgId::Dictionary));
     for (qsizetype i = 0; i < m_keys.size(); ++i) {
         if (fold(m_keys.at(i)) == folded) {
             m_keys.removeAt(i);
@@ -78,6 +79,6 @@ void Dictionary::setCompareMode(int mode)
 {
     if (!m_keys.isEmpty())
         throw LumoError(LumoError::InvalidArgument, QStringLiteral("非空集合不能改变关键字比较方式"),
-                        QStringLiteral("Pelm.Dictionary"));
+                        QString(ProgId::Dictionary));
     m_compareMode = mode == BinaryCompare ? BinaryCompare : TextCompare;
 }
