@@ -8,7 +8,7 @@ namespace {
 const char *const FileMenu = "文件(&F)";
 const char *const EditMenu = "编辑(&E)";
 const char *const ViewMenu = "查看(&V)";
-const char *const WindowMenu = "窗口(&W)";
+const char *const FormatMenu = "格式(&O)";
 
 using C = EntryCommand;
 constexpr unsigned Built = CommandFlag::Built;
@@ -57,9 +57,9 @@ const QVector<EntryCommandSpec> &entryCommandTable()
         {C::OrgWidth, {OrgWidth}, {}, "恢复默认列宽", ViewMenu, "", false, "", Built},
         {C::Tree, {VTree}, TreeView, "仓库树", ViewMenu, "", false, "view-list-tree", Built},
         {C::AutoRefresh, {AutoRefresh}, {}, "自动刷新", ViewMenu, "", true, "", Built},
-        {C::ToolBar, {ToolBar}, {}, "工具栏", WindowMenu, "", true, "", Built},
-        {C::ToolBarLabel, {ToolBarLabel}, {}, "工具栏标签", WindowMenu, "", true, "", Built},
-        {C::StatusBar, {StatusBar}, {}, "状态栏", WindowMenu, "", true, "", Built},
+        {C::ToolBar, {ToolBar}, {}, "工具栏", FormatMenu, "", true, "", Built},
+        {C::ToolBarLabel, {ToolBarLabel}, {}, "工具栏标签", FormatMenu, "", true, "", Built},
+        {C::StatusBar, {StatusBar}, {}, "状态栏", FormatMenu, "", true, "", Built},
     };
     return table;
 }

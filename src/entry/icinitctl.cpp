@@ -131,6 +131,7 @@ void ICInitCtl::prepareShow()
 void ICInitCtl::showData(bool blnIstest)
 {
     m_sheet->setAmountScale(FetchAmountScale());
+    EntryGridLayout::showAmounts(*m_grid, reconciliationExists());
     enableCommands();
     LoadingStocks();
     if (blnIstest && !m_tree->firstKey().isEmpty())

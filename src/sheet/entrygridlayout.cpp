@@ -91,6 +91,13 @@ void build(SpreadGrid &grid, int industryType)
     grid.setSelectionTextColor(Qt::white);
 }
 
+void showAmounts(SpreadGrid &grid, bool keepsAmounts)
+{
+    // The difference columns stay as built: hidden until planned cost shows them.
+    for (int col : {EntryCol::YtdBegBal, EntryCol::Debit, EntryCol::Credit, EntryCol::BegBal})
+        grid.cells()->setColHidden(col, !keepsAmounts);
+}
+
 void setItemHeaders(SpreadGrid &grid, bool itemRows)
 {
     static const char *const accountHeaders[] = {"FAccountID", "科目代码", "科目名称", "借贷方向"};

@@ -58,6 +58,9 @@ LUMOICINITIAL_EXPORT void build(SpreadGrid &grid, int industryType);
 // Heads columns 2 to 5 for item rows ("FItemID", "物料代码", ...) or account rows ("FAccountID",
 // "科目代码", "科目名称", "借贷方向").
 LUMOICINITIAL_EXPORT void setItemHeaders(SpreadGrid &grid, bool itemRows);
+// Shows the amount columns of the four groups, or hides them where the account set keeps
+// quantities alone ("AuditChoice" 0).
+LUMOICINITIAL_EXPORT void showAmounts(SpreadGrid &grid, bool keepsAmounts);
 // Puts every column back to its default width.
 LUMOICINITIAL_EXPORT void restoreWidths(SpreadGrid &grid);
 

@@ -179,6 +179,25 @@ void TestCommandsOnAccountSet::init()
     }
 }
 
+void TestCommandsOnAccountSet::menusAreGroupedAsPublished_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("menu");
+    QTest::newRow("file") << QStringLiteral("mcFSave") << QStringLiteral("文件(&F)");
+    QTest::newRow("edit") << QStringLiteral("mcEFind") << QStringLiteral("编辑(&E)");
+    QTest::newRow("view") << QStringLiteral("mcVTree") << QStringLiteral("查看(&V)");
+    QTest::newRow("format") << QStringLiteral("mcWToolBar") << QStringLiteral("格式(&O)");
+}
+
+void TestCommandsOnAccountSet::menusAreGroupedAsPublished()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, menu);
+    const ICInitCtl control;
+    QVERIFY(control.barList()->item(key));
+    QCOMPARE(control.barList()->item(key)->menu, menu);
+}
+
 void TestCommandsOnAccountSet::everyKeyReachesItsProcedure_data()
 {
     QTest::addColumn<int>("route");
@@ -414,6 +433,10 @@ void TestCommandsOnAccountSet::reconciliationCommandsNeedAmounts()
     const BarList &bars = *control.barList();
     for (const char *key : {"mcVCheck", "Check", "mcVBalance", "Balance", "Transfer"})
         QVERIFY2(bars.isVisible(QLatin1String(key)) == (auditChoice != 0), key);
+    // Quantities alone keep no amounts to show.
+    for (int col : {EntryCol::YtdBegBal, EntryCol::Debit, EntryCol::Credit, EntryCol::BegBal})
+        QCOMPARE(control.grid()->colHidden(col), auditChoice == 0);
+    QVERIFY(!control.grid()->colHidden(EntryCol::BegQty));
     // The entry commands are there either way.
     for (const char *key : {"mcEAddNew", "AddNew", "mcESum", "Sum", "mcFSave", "Save"})
         QVERIFY2(bars.isVisible(QLatin1String(key)), key);

@@ -18,6 +18,8 @@ private slots:
     void cleanupTestCase();
     void init();
 
+    void menusAreGroupedAsPublished_data();
+    void menusAreGroupedAsPublished();
     void everyKeyReachesItsProcedure_data();
     void everyKeyReachesItsProcedure();
     void toggleClickedTwiceKeepsTheSavedSetting_data();
