@@ -86,7 +86,6 @@ public:
 
 private:
     int qtyDecimal() const;
-    std::unique_ptr<QObject> dataService() const;
     void removeTotalsRow();
 
     SpreadGrid &m_grid;

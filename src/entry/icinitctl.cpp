@@ -19,11 +19,10 @@
 #include "frame/settingsstore.h"
 #include "frame/sysparams.h"
 
-#include "frame/automation/componentregistry.h"
+#include "frame/ctlerrors.h"
+#include "frame/clients/initialdataclient.h"
+
 #include "frame/automation/dictionary.h"
-#include "frame/automation/dispatch.h"
-#include "frame/automation/lumoerror.h"
-#include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
 #include "frame/automation/progids.h"
 
@@ -221,14 +220,8 @@ void ICInitCtl::LoadingStocks()
     try {
         QElapsedTimer timer;
         timer.start();
-        std::unique_ptr<Recordset> stocks;
-        {
-            const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
-            stocks = takeObject<Recordset>(
-                Dispatch::call(data.get(), QStringLiteral("FetchStocks"), {GetPropsString(), WarehouseTree::StockTypes}));
-        }
-        if (!stocks)
-            throw LumoError(LumoError::AppBase + 30, QStringLiteral("数据服务没有返回仓库"), QStringLiteral("FetchStocks"));
+        const std::unique_ptr<Recordset> stocks =
+            InitialDataClient(ProgId::MICInitialData).FetchStocks(WarehouseTree::StockTypes);
         const qint64 fetched = timer.restart();
         m_stocks = WarehouseTree::buildTable(*stocks);
         const qint64 built = timer.restart();
@@ -253,15 +246,8 @@ void ICInitCtl::LoadingStocks()
 void ICInitCtl::LoadingAccounts()
 {
     try {
-        {
-            const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
-            m_accountRecords = takeObject<Recordset>(Dispatch::call(
-                data.get(), QStringLiteral("FetchYtdAccounts"),
-                {GetPropsString(), SysParams::toInt(SysParam::CurrentPeriod)}));
-        }
-        if (!m_accountRecords)
-            throw LumoError(LumoError::AppBase + 32, QStringLiteral("数据服务没有返回科目"),
-                            QStringLiteral("FetchYtdAccounts"));
+        m_accountRecords =
+            InitialDataClient(ProgId::MICInitialData).FetchYtdAccounts(SysParams::toInt(SysParam::CurrentPeriod));
         m_accounts = AccountTree::buildTable(*m_accountRecords);
         m_tree->clearNodes();
         m_currentNode = -1;
@@ -332,7 +318,7 @@ void ICInitCtl::tvICInit_NodeClick(const QString &key)
         if (m_currentNode < 0)
             m_currentNode = index;
         if (m_mode == Mode::Entry && (index < 0 || index >= m_stocks.size()))
-            throw LumoError(LumoError::AppBase + 31, QStringLiteral("下标越界：%1").arg(index),
+            throw LumoError(CtlError::SubscriptOutOfRange, QStringLiteral("下标越界：%1").arg(index),
                             QStringLiteral("tvICInit_NodeClick"));
         if (!confirmLeave()) {
             m_tree->selectNode(currentNodeKey());
