@@ -10,10 +10,9 @@
 #include "frame/messages.h"
 #include "frame/sysparams.h"
 
-#include "frame/automation/componentregistry.h"
-#include "frame/automation/dispatch.h"
+#include "frame/clients/initialdataclient.h"
+
 #include "frame/automation/lumoerror.h"
-#include "frame/automation/objectownership.h"
 #include "frame/automation/progids.h"
 #include "frame/automation/recordset.h"
 
@@ -38,15 +37,8 @@ QString CheckMode::selectorKey() const
 void CheckMode::LoadingAccounts()
 {
     try {
-        {
-            const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
-            m_accountRecords = takeObject<Recordset>(Dispatch::call(
-                data.get(), QStringLiteral("FetchYtdAccounts"),
-                {GetPropsString(), SysParams::toInt(SysParam::CurrentPeriod)}));
-        }
-        if (!m_accountRecords)
-            throw LumoError(LumoError::AppBase + 32, QStringLiteral("数据服务没有返回科目"),
-                            QStringLiteral("FetchYtdAccounts"));
+        m_accountRecords =
+            InitialDataClient(ProgId::MICInitialData).FetchYtdAccounts(SysParams::toInt(SysParam::CurrentPeriod));
         m_accounts = AccountTree::buildTable(*m_accountRecords);
         m_tree->clearNodes();
         m_ctl.setCurrentNode(-1);

@@ -20,11 +20,10 @@
 #include "frame/qllogmsg.h"
 #include "frame/settingsstore.h"
 #include "frame/sysparams.h"
-#include "frame/automation/componentregistry.h"
+#include "frame/clients/initialdataclient.h"
+#include "frame/ctlerrors.h"
 #include "frame/automation/dictionary.h"
-#include "frame/automation/dispatch.h"
 #include "frame/automation/lumoerror.h"
-#include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
 #include "frame/automation/progids.h"
 #include "grid/cellmodel.h"
@@ -91,14 +90,8 @@ void EntryMode::LoadingStocks()
     try {
         QElapsedTimer timer;
         timer.start();
-        std::unique_ptr<Recordset> stocks;
-        {
-            const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
-            stocks = takeObject<Recordset>(
-                Dispatch::call(data.get(), QStringLiteral("FetchStocks"), {GetPropsString(), WarehouseTree::StockTypes}));
-        }
-        if (!stocks)
-            throw LumoError(LumoError::AppBase + 30, QStringLiteral("数据服务没有返回仓库"), QStringLiteral("FetchStocks"));
+        const std::unique_ptr<Recordset> stocks =
+            InitialDataClient(ProgId::MICInitialData).FetchStocks(WarehouseTree::StockTypes);
         const qint64 fetched = timer.restart();
         m_stocks = WarehouseTree::buildTable(*stocks);
         const qint64 built = timer.restart();

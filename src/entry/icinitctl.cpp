@@ -21,6 +21,7 @@
 #include <QLabel>
 #include <QSplitter>
 #include <QVBoxLayout>
+#include "frame/ctlerrors.h"
 #include "frame/qllogmsg.h"
 #include "frame/sysparams.h"
 #include "batch/frmbatchmanager.h"
@@ -245,7 +246,7 @@ void ICInitCtl::tvICInit_NodeClick(const QString &key)
         if (m_currentNode < 0)
             m_currentNode = index;
         if (isEntryMode() && (index < 0 || index >= warehouseTable().size()))
-            throw LumoError(LumoError::AppBase + 31, QStringLiteral("下标越界：%1").arg(index),
+            throw LumoError(CtlError::SubscriptOutOfRange, QStringLiteral("下标越界：%1").arg(index),
                             QStringLiteral("tvICInit_NodeClick"));
         if (!confirmLeave()) {
             m_tree->selectNode(currentNodeKey());

@@ -2,12 +2,16 @@
 
 #include "inifile.h"
 
+#include "frame/clients/frmresloaderclient.h"
+#include "frame/clients/regclient.h"
+#include "frame/clients/sharepropsclient.h"
+
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dictionary.h"
 #include "frame/automation/dispatch.h"
 #include "frame/automation/lumoerror.h"
-#include "frame/automation/propertystring.h"
 #include "frame/automation/progids.h"
+#include "frame/automation/propertystring.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -57,9 +61,7 @@ void LoginContext::reset()
 
 QVariant GetShareProperty(const QString &key)
 {
-    const std::unique_ptr<QObject> service = CreateObject(ProgId::ShareProps);
-    const qint32 processId = qint32(QCoreApplication::applicationPid());
-    return Dispatch::call(service.get(), QStringLiteral("GetProperty"), {processId, key});
+    return SharePropsClient().GetProperty(qint32(QCoreApplication::applicationPid()), key);
 }
 
 QObject *GetLoginObject()
@@ -146,13 +148,12 @@ void LoadFormStrings(QObject *form, std::unique_ptr<QObject> &options, const QSt
     const QString language = ensureLanguage();
     if (language.compare(OnlyLanguage, Qt::CaseInsensitive) == 0)
         return;
-    const std::unique_ptr<QObject> loader = CreateObject(ProgId::FrmResLoader);
+    const FrmResLoaderClient loader;
     if (!options) {
         options = CreateObject(QString(ProgId::Dictionary));
         Dispatch::call(options.get(), QStringLiteral("setItem"), {QStringLiteral("NeedMLColumnHeaders"), true});
     }
-    Dispatch::call(loader.get(), QStringLiteral("LoadFrmResStrings"),
-                   {QVariant::fromValue(form), language, QString(), resourceSet, QVariant::fromValue(options.get())});
+    loader.LoadFrmResStrings(form, language, QString(), resourceSet, options.get());
 }
 
 void SetFormFont(QObject *controls)
@@ -160,31 +161,25 @@ void SetFormFont(QObject *controls)
     LoginContext &context = LoginContext::instance();
     const QString language = ensureLanguage();
     if (!context.m_formResLoader)
-        context.m_formResLoader = CreateObject(ProgId::FrmResLoader);
-    Dispatch::call(context.m_formResLoader.get(), QStringLiteral("SetFrmFont"),
-                   {QVariant::fromValue(controls), language});
+        context.m_formResLoader = std::make_unique<FrmResLoaderClient>();
+    context.m_formResLoader->SetFrmFont(controls, language);
 }
 
 std::unique_ptr<QObject> GetFontProps()
 {
     const QString language = ensureLanguage();
-    std::unique_ptr<QObject> loader;
+    std::unique_ptr<FrmResLoaderClient> loader;
     try {
-        loader = CreateObject(ProgId::FrmResLoader);
+        loader = std::make_unique<FrmResLoaderClient>();
     } catch (const LumoError &) {
         return {};
     }
-    QObject *props = Dispatch::call(loader.get(), QStringLiteral("GetZ9FontProps"), {language}).value<QObject *>();
-    if (props && !props->parent())
-        return std::unique_ptr<QObject>(props);
-    return {};
+    return loader->GetZ9FontProps(language);
 }
 
 QString GetInstallPath()
 {
-    const std::unique_ptr<QObject> reg = CreateObject(ProgId::Reg);
-    return Dispatch::call(reg.get(), QStringLiteral("GetKeyValue"), {ProductKey, QStringLiteral("Path"), QStringLiteral("1")})
-        .toString();
+    return RegClient().GetKeyValue(ProductKey, QStringLiteral("Path"), QStringLiteral("1"));
 }
 
 QString GetCommonDir()

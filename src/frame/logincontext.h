@@ -10,6 +10,7 @@
 #include <memory>
 
 class Dictionary;
+class FrmResLoaderClient;
 
 // What the product scheme file says about the installed product, read once per process.
 struct SchemeInfo
@@ -49,7 +50,7 @@ private:
     std::unique_ptr<Dictionary> m_props;
     QPointer<QObject> m_loginObject;
     QString m_language;
-    std::unique_ptr<QObject> m_formResLoader;
+    std::unique_ptr<FrmResLoaderClient> m_formResLoader;
     SchemeInfo m_scheme;
     bool m_schemeFilled = false;
 };

@@ -1,12 +1,9 @@
 #include "netcontrol.h"
 
-#include "logincontext.h"
 #include "messages.h"
 
-#include "frame/automation/componentregistry.h"
-#include "frame/automation/dispatch.h"
-#include "frame/automation/lumoerror.h"
-#include "frame/automation/progids.h"
+#include "frame/ctlerrors.h"
+#include "frame/clients/mutexclient.h"
 
 #include <QSysInfo>
 
@@ -16,7 +13,6 @@ namespace {
 
 constexpr qint16 TaskKind = 3;
 constexpr int ComputerNameBuffer = 40;
-constexpr int TaskConflictError = LumoError::AppBase + 100;
 
 } // namespace
 
@@ -30,21 +26,9 @@ QString GetComputerName()
 
 qint32 ExecFunc(qint32 taskId, const QString &funcCode, qint16 flagA, qint16 flagB, const QVariant &extra)
 {
-    QObject *login = GetLoginObject();
-    QVariantList args{taskId, funcCode, GetComputerName(), TaskKind, flagA, flagB};
-    if (extra.isValid())
-        args.append(extra);
-    QVariant result;
-    if (login) {
-        result = Dispatch::call(login, QStringLiteral("TaskExec"), args);
-    } else {
-        const std::unique_ptr<QObject> mutex = CreateObject(ProgId::NetControlMutex);
-        args.prepend(GetPropsString());
-        result = Dispatch::call(mutex.get(), QStringLiteral("TaskExec"), args);
-    }
-    const qint32 handle = result.toInt();
+    const qint32 handle = MutexClient().TaskExec(taskId, funcCode, GetComputerName(), TaskKind, flagA, flagB, extra);
     if (handle < 1)
-        throw LumoError(TaskConflictError, Msg::TaskConflict, Msg::TaskConflictSource);
+        throw LumoError(CtlError::TaskConflict, Msg::TaskConflict, Msg::TaskConflictSource);
     return handle;
 }
 
@@ -53,10 +37,7 @@ bool CommitTask(qint32 handle)
     if (handle == 0)
         return false;
     try {
-        if (QObject *login = GetLoginObject())
-            return Dispatch::call(login, QStringLiteral("CommitTask"), {handle}).toBool();
-        const std::unique_ptr<QObject> mutex = CreateObject(ProgId::NetControlMutex);
-        return Dispatch::call(mutex.get(), QStringLiteral("CommitTask"), {GetPropsString(), handle}).toBool();
+        return MutexClient().CommitTask(handle);
     } catch (const LumoError &) {
         return false;
     }

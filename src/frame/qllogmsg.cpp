@@ -1,10 +1,9 @@
 #include "qllogmsg.h"
 
-#include "frame/automation/componentregistry.h"
-#include "frame/automation/dispatch.h"
+#include "frame/clients/logclient.h"
+
 #include "frame/automation/errobject.h"
 #include "frame/automation/lumoerror.h"
-#include "frame/automation/progids.h"
 
 #include <memory>
 
@@ -13,7 +12,7 @@ namespace {
 
 struct LogState
 {
-    std::unique_ptr<QObject> object;
+    std::unique_ptr<LogClient> client;
     bool tried = false;
 };
 
@@ -30,7 +29,7 @@ void ensureLogObject()
         return;
     log.tried = true;
     try {
-        log.object = CreateObject(ProgId::LogMsgLog);
+        log.client = std::make_unique<LogClient>();
     } catch (const LumoError &) {
         // No log service: logging stays off.
     }
@@ -41,16 +40,16 @@ void ensureLogObject()
 bool IsLogEnabled()
 {
     LogState &log = state();
-    if (!log.object)
+    if (!log.client)
         return false;
     bool enabled = false;
     try {
-        enabled = Dispatch::call(log.object.get(), QStringLiteral("IsEnabled")).toBool();
+        enabled = log.client->IsEnabled();
     } catch (const LumoError &) {
         enabled = false;
     }
     if (!enabled)
-        log.object.reset();
+        log.client.reset();
     return enabled;
 }
 
@@ -59,7 +58,7 @@ qint32 LogStart(const QString &text)
     ensureLogObject();
     if (!IsLogEnabled())
         return 0;
-    return Dispatch::call(state().object.get(), QStringLiteral("LogStart"), {text}).toInt();
+    return state().client->LogStart(text);
 }
 
 void LogEnd(qint32 handle, qint32 value)
@@ -67,7 +66,7 @@ void LogEnd(qint32 handle, qint32 value)
     const ErrState saved = ErrObject::current();
     try {
         if (IsLogEnabled())
-            Dispatch::call(state().object.get(), QStringLiteral("LogEnd"), {handle, value});
+            state().client->LogEnd(handle, value);
     } catch (const LumoError &) {
         // A failing log never disturbs the caller.
     }

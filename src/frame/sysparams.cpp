@@ -5,13 +5,13 @@
 #include "logincontext.h"
 #include "messages.h"
 
-#include "frame/automation/componentregistry.h"
+#include "frame/ctlerrors.h"
+#include "frame/clients/appconnectionclient.h"
+#include "frame/clients/gldataclient.h"
+#include "frame/clients/initialdataclient.h"
+
 #include "frame/automation/dictionary.h"
-#include "frame/automation/dispatch.h"
-#include "frame/automation/lumoerror.h"
-#include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
-#include "frame/automation/progids.h"
 
 namespace {
 
@@ -78,13 +78,9 @@ QString SysParams::toText(const QString &key)
 
 void LoadSysParams(const QString &dataProgId)
 {
-    std::unique_ptr<Dictionary> params;
-    {
-        const std::unique_ptr<QObject> data = CreateObject(dataProgId);
-        params = takeObject<Dictionary>(Dispatch::call(data.get(), QStringLiteral("FetchSysParameter"), {GetPropsString()}));
-    }
+    std::unique_ptr<Dictionary> params = InitialDataClient(dataProgId).FetchSysParameter();
     if (!params)
-        throw LumoError(LumoError::AppBase + 20, QStringLiteral("数据服务没有返回系统参数"),
+        throw LumoError(CtlError::NoSysParams, QStringLiteral("数据服务没有返回系统参数"),
                         QStringLiteral("LoadSysParams"));
     SysParams::replace(std::move(params));
     SysParams::current()->setItem(SysParam::UID, GetUserID());
@@ -95,8 +91,7 @@ void LoadSysParams(const QString &dataProgId)
 
 qint16 FetchAmountScale()
 {
-    const std::unique_ptr<QObject> connection = CreateObject(ProgId::AppConnection);
-    const auto rs = takeObject<Recordset>(Dispatch::call(connection.get(), QStringLiteral("Execute"), {AmountScaleSql}));
+    const auto rs = AppConnectionClient().Execute(AmountScaleSql);
     if (!rs || rs->atEnd())
         return 0;
     return qint16(rs->Fields(0).toInt());
@@ -104,23 +99,22 @@ qint16 FetchAmountScale()
 
 std::unique_ptr<Recordset> FetchMeasureUnits(const QString &dataProgId)
 {
-    const std::unique_ptr<QObject> data = CreateObject(dataProgId);
-    return takeObject<Recordset>(Dispatch::call(data.get(), QStringLiteral("FetchMeasureUnits"), {GetPropsString()}));
+    return InitialDataClient(dataProgId).FetchMeasureUnits();
 }
 
-QObject *glData()
+GLDataClient &glData()
 {
-    static std::unique_ptr<QObject> object;
-    if (!object)
-        object = CreateObject(ProgId::GLData);
-    return object.get();
+    static std::unique_ptr<GLDataClient> client;
+    if (!client)
+        client = std::make_unique<GLDataClient>();
+    return *client;
 }
 
 bool CheckAccess(qint32 objectType, qint32 objectId, qint32 right)
 {
     bool allowed = false;
     try {
-        allowed = Dispatch::call(glData(), QStringLiteral("AccessCheck"), {objectType, objectId, right}).toBool();
+        allowed = glData().AccessCheck(objectType, objectId, right);
     } catch (const LumoError &) {
         allowed = false;
     }

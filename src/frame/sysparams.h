@@ -9,6 +9,7 @@
 #include <memory>
 
 class Dictionary;
+class GLDataClient;
 class Recordset;
 
 // The system parameters of the account set, read at every Show through the data service and kept
@@ -55,4 +56,4 @@ LUMOICINITIAL_EXPORT std::unique_ptr<Recordset> FetchMeasureUnits(const QString 
 // The access check of the ledger service; a refusal (or a failing check) tells the user.
 LUMOICINITIAL_EXPORT bool CheckAccess(qint32 objectType, qint32 objectId, qint32 right);
 // The ledger data service, created on first use and kept for the process.
-LUMOICINITIAL_EXPORT QObject *glData();
+LUMOICINITIAL_EXPORT GLDataClient &glData();

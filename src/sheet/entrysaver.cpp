@@ -10,12 +10,11 @@
 
 #include "frame/icinitstruct.h"
 #include "frame/librarystate.h"
-#include "frame/logincontext.h"
 #include "frame/sysparams.h"
 
-#include "frame/automation/componentregistry.h"
+#include "frame/clients/initialdataclient.h"
+
 #include "frame/automation/dictionary.h"
-#include "frame/automation/dispatch.h"
 #include "frame/automation/progids.h"
 
 #include "grid/bulkupdate.h"
@@ -88,18 +87,13 @@ EntrySaver::Outcome EntrySaver::save()
     const QString script = SaveScript::build(m_changes.changedRows(), m_changes.deletedRows(), m_sheet.place(),
                                              SysParams::toInt(SysParam::CurrentPeriod));
     m_changes.clear();
-    {
-        const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
-        Dispatch::call(data.get(), QStringLiteral("UpdateINIData"), {GetPropsString(), script});
-    }
+    InitialDataClient(ProgId::MICInitialData).UpdateINIData(script);
     markSaved();
 
     // The record counter numbered by the batch dialogs goes back to the system profile.
     const qint64 held = LibraryState::instance().iniBillInterId;
     if (held != SysParams::toInt(SysParam::INIBillInterID)) {
-        const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
-        Dispatch::call(data.get(), QStringLiteral("UpdateINIData"),
-                       {GetPropsString(), SaveScript::systemProfileUpdate(held)});
+        InitialDataClient(ProgId::MICInitialData).UpdateINIData(SaveScript::systemProfileUpdate(held));
         SysParams::current()->setItem(SysParam::INIBillInterID, held);
     }
     Outcome done;

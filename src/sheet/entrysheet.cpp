@@ -6,10 +6,10 @@
 #include "frame/logincontext.h"
 #include "frame/sysparams.h"
 
-#include "frame/automation/componentregistry.h"
+#include "frame/ctlerrors.h"
+#include "frame/clients/initialdataclient.h"
+
 #include "frame/automation/dictionary.h"
-#include "frame/automation/dispatch.h"
-#include "frame/automation/lumoerror.h"
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
 #include "frame/automation/progids.h"
@@ -80,11 +80,6 @@ int EntrySheet::qtyDecimal() const
     return SysParams::toInt(SysParam::QtyDecimal);
 }
 
-std::unique_ptr<QObject> EntrySheet::dataService() const
-{
-    return CreateObject(ProgId::MICInitialData);
-}
-
 void EntrySheet::clear()
 {
     cells().setRows(1);
@@ -101,22 +96,14 @@ void EntrySheet::loadPage(int pageIndex, int pageSize)
 {
     m_useShortNumber = SysParams::toBool(UseShortNumber);
     m_colors = RowColors::fromSettings();
-    std::unique_ptr<Dictionary> page;
-    {
-        const std::unique_ptr<QObject> data = dataService();
-        page = takeObject<Dictionary>(Dispatch::call(
-            data.get(), QStringLiteral("FetchYtdInitialData"),
-            {GetPropsString(), m_place.stockId, m_place.spId, SysParams::toInt(SysParam::CurrentPeriod), pageSize,
-             qMax(1, pageIndex), filterText(FilterKey::Filter), filterText(FilterKey::ActualFilter),
-             filterText(FilterKey::VirtualFilter), filterText(FilterKey::Sort), m_useShortNumber}));
-    }
-    if (!page)
-        throw LumoError(LumoError::AppBase + 40, QStringLiteral("数据服务没有返回初始数据"),
-                        QStringLiteral("FetchYtdInitialData"));
+    const std::unique_ptr<Dictionary> page = InitialDataClient(ProgId::MICInitialData).FetchYtdInitialData(
+        m_place.stockId, m_place.spId, SysParams::toInt(SysParam::CurrentPeriod), pageSize, qMax(1, pageIndex),
+        filterText(FilterKey::Filter), filterText(FilterKey::ActualFilter), filterText(FilterKey::VirtualFilter),
+        filterText(FilterKey::Sort), m_useShortNumber);
     const std::unique_ptr<Recordset> rows = takeObject<Recordset>(page->Item(QStringLiteral("Rows")));
     m_totals = takeObject<Recordset>(page->Item(QStringLiteral("Totals")));
     if (!rows)
-        throw LumoError(LumoError::AppBase + 41, QStringLiteral("数据服务没有返回初始数据行"),
+        throw LumoError(CtlError::NoInitialDataRows, QStringLiteral("数据服务没有返回初始数据行"),
                         QStringLiteral("FetchYtdInitialData"));
     m_totalPages = page->Item(QStringLiteral("TotalPages")).toInt();
     m_recordCount = page->Item(QStringLiteral("RecordCount")).toInt();
@@ -197,18 +184,10 @@ bool EntrySheet::toggleBatchLines(int row)
         cells().setText(row, Mark, ExpandMark);
         return true;
     }
-    std::unique_ptr<Recordset> lines;
-    {
-        const std::unique_ptr<QObject> data = dataService();
-        lines = takeObject<Recordset>(Dispatch::call(
-            data.get(), QStringLiteral("FetchYtdBatManDetail"),
-            {GetPropsString(), SysParams::toInt(SysParam::CurrentPeriod), m_place.stockId, m_place.spId, info->id,
-             int(cells().number(row, AuxPropID)), int(cells().number(row, UnitID)), info->batchManaged,
-             info->shelfLifeManaged, key}));
-    }
-    if (!lines)
-        throw LumoError(LumoError::AppBase + 42, QStringLiteral("数据服务没有返回批次明细"),
-                        QStringLiteral("FetchYtdBatManDetail"));
+    const std::unique_ptr<Recordset> lines = InitialDataClient(ProgId::MICInitialData).FetchYtdBatManDetail(
+        SysParams::toInt(SysParam::CurrentPeriod), m_place.stockId, m_place.spId, info->id,
+        int(cells().number(row, AuxPropID)), int(cells().number(row, UnitID)), info->batchManaged,
+        info->shelfLifeManaged, key);
     const int count = ItemRows::insertBatchLines(cells(), row, *lines, info->qtyDecimal, qtyDecimal());
     m_kinds.insert(row + 1, count, RowKind::BatchLine);
     m_expanded.insert(key, count);

@@ -91,7 +91,6 @@ public:
 
 private:
     int qtyDecimal() const;
-    std::unique_ptr<QObject> dataService() const;
     void removeTotalsRow();
 
     SpreadGrid &m_grid;

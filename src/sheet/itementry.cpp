@@ -9,10 +9,8 @@
 #include "frame/sysparams.h"
 #include "frame/valuationmethods.h"
 
-#include "frame/automation/componentregistry.h"
-#include "frame/automation/dispatch.h"
-#include "frame/automation/lumoerror.h"
-#include "frame/automation/objectownership.h"
+#include "frame/clients/initialdataclient.h"
+
 #include "frame/automation/recordset.h"
 #include "frame/automation/progids.h"
 
@@ -24,15 +22,6 @@
 namespace {
 
 using namespace EntryCol;
-
-std::unique_ptr<Recordset> callData(const QString &member, const QVariantList &args)
-{
-    const std::unique_ptr<QObject> data = CreateObject(ProgId::MICInitialData);
-    auto rs = takeObject<Recordset>(Dispatch::call(data.get(), member, args));
-    if (!rs)
-        throw LumoError(LumoError::AppBase + 60, QStringLiteral("数据服务没有返回结果：%1").arg(member), member);
-    return rs;
-}
 
 // The item already has a row of this place: on screen (other than `row`) or saved.
 bool alreadyEntered(EntrySheet &sheet, int row, qint32 itemId, bool hasAuxClass)
@@ -50,7 +39,7 @@ bool alreadyEntered(EntrySheet &sheet, int row, qint32 itemId, bool hasAuxClass)
                             .arg(place.spId)
                             .arg(SysParams::toInt(SysParam::CurrentPeriod))
                             .arg(itemId);
-    const auto saved = callData(QStringLiteral("GetInitData"), {GetPropsString(), key});
+    const auto saved = InitialDataClient(ProgId::MICInitialData).GetInitData(key);
     // A saved row that is still on screen was found above; one deleted on screen is free again.
     for (int i = 0; i < saved->RecordCount(); ++i) {
         const QString savedKey = saved->value(i, QStringLiteral("FFieldCompose")).toString();
@@ -70,7 +59,7 @@ namespace ItemEntry {
 Outcome enterCode(EntrySheet &sheet, int row, const QString &code)
 {
     const QString trimmed = code.trimmed();
-    const auto items = callData(QStringLiteral("FetchYtdItemDetail"), {GetPropsString(), trimmed});
+    const auto items = InitialDataClient(ProgId::MICInitialData).FetchYtdItemDetail(trimmed);
     if (items->RecordCount() == 0)
         return {false, ResString(QStringLiteral("基础资料中该物料不存在，")) + Msg::LineBreak
                            + ResString(QStringLiteral("请重新输入！"))};

@@ -6,11 +6,10 @@
 #include "frame/icinitstruct.h"
 #include "frame/messages.h"
 
-#include "frame/automation/lumoerror.h"
+#include "frame/ctlerrors.h"
 
 namespace {
 
-constexpr int MalformedDeletedRow = LumoError::AppBase + 50;
 const QString DeletedRowSeparator = QStringLiteral("|");
 
 const QString InsertHead = QStringLiteral(
@@ -90,7 +89,7 @@ QStringList deleteStatements(const QString &deletedRow, const EntryPlace &place,
     const qint64 itemId = parts.size() == 2 ? parts.at(0).trimmed().toLongLong(&itemOk) : 0;
     const qint64 auxPropId = parts.size() == 2 ? parts.at(1).trimmed().toLongLong(&auxOk) : 0;
     if (!itemOk || !auxOk)
-        throw LumoError(MalformedDeletedRow, QStringLiteral("删除的行无法识别：%1").arg(deletedRow),
+        throw LumoError(CtlError::MalformedDeletedRow, QStringLiteral("删除的行无法识别：%1").arg(deletedRow),
                         QStringLiteral("SaveScript"));
 
     const QString where = QStringLiteral("Where FStockID=%1 And FSPID=%2 And FPeriod=%3 And FItemID = %4 And "

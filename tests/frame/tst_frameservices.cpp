@@ -8,11 +8,48 @@
 #include "frame/qllogmsg.h"
 #include "frame/sysparams.h"
 
+#include "frame/clients/initialdataclient.h"
+
+#include "frame/automation/componentregistry.h"
 #include "frame/automation/dictionary.h"
 #include "frame/automation/errobject.h"
 #include "frame/automation/lumoerror.h"
+#include "frame/automation/recordset.h"
 
 #include <QTest>
+
+#include <functional>
+
+using ServiceCall = std::function<void()>;
+Q_DECLARE_METATYPE(ServiceCall)
+
+namespace {
+
+const QString EmptyDataProgId = QStringLiteral("Test.EmptyData");
+
+// A data service that answers every member with nothing.
+class EmptyData : public QObject
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE QObject *FetchSysParameter(const QString &) { return nullptr; }
+    Q_INVOKABLE QObject *FetchStocks(const QString &, const QString &) { return nullptr; }
+    Q_INVOKABLE QObject *FetchYtdAccounts(const QString &, int) { return nullptr; }
+    Q_INVOKABLE QObject *FetchYtdInitialData(const QString &, int, int, int, int, int, const QString &,
+                                             const QString &, const QString &, const QString &, bool)
+    {
+        return nullptr;
+    }
+    Q_INVOKABLE QObject *FetchYtdBatManDetail(const QString &, int, int, int, int, int, int, bool, bool,
+                                              const QString &)
+    {
+        return nullptr;
+    }
+    Q_INVOKABLE QObject *FetchYtdItemDetail(const QString &, const QString &) { return nullptr; }
+    Q_INVOKABLE QObject *GetInitData(const QString &, const QString &) { return nullptr; }
+};
+
+} // namespace
 
 class TestFrameServices : public QObject
 {
@@ -25,6 +62,7 @@ private slots:
     void initTestCase()
     {
         registerFakeServices();
+        ComponentRegistry::instance().registerClass(EmptyDataProgId, [] { return new EmptyData; });
         Prompter::install(&m_prompter);
     }
 
@@ -143,6 +181,54 @@ private slots:
         QCOMPARE(SysParams::toInt(QStringLiteral("NoSuchParameter")), 0);
         QVERIFY(!SysParams::toBool(SysParam::UnderStock)); // empty counts as false
         QCOMPARE(FetchAmountScale(), qint16(2));
+    }
+
+    // Hosts and scripts tell these errors apart by number, text and source.
+    void emptyAnswerRaisesItsError_data()
+    {
+        QTest::addColumn<ServiceCall>("call");
+        QTest::addColumn<int>("number");
+        QTest::addColumn<QString>("description");
+        QTest::addColumn<QString>("source");
+
+        QTest::newRow("system parameters") << ServiceCall([] { LoadSysParams(EmptyDataProgId); }) << 533
+                                           << QStringLiteral("数据服务没有返回系统参数") << QStringLiteral("LoadSysParams");
+        QTest::newRow("stocks") << ServiceCall([] { InitialDataClient(EmptyDataProgId).FetchStocks(QString()); })
+                                << 543 << QStringLiteral("数据服务没有返回仓库") << QStringLiteral("FetchStocks");
+        QTest::newRow("accounts") << ServiceCall([] { InitialDataClient(EmptyDataProgId).FetchYtdAccounts(1); })
+                                  << 545 << QStringLiteral("数据服务没有返回科目") << QStringLiteral("FetchYtdAccounts");
+        QTest::newRow("initial data")
+            << ServiceCall([] {
+                   InitialDataClient(EmptyDataProgId).FetchYtdInitialData(1, 0, 1, 50, 1, {}, {}, {}, {}, false);
+               })
+            << 553 << QStringLiteral("数据服务没有返回初始数据") << QStringLiteral("FetchYtdInitialData");
+        QTest::newRow("batch detail")
+            << ServiceCall([] {
+                   InitialDataClient(EmptyDataProgId).FetchYtdBatManDetail(1, 1, 0, 7, 0, 1, true, false, {});
+               })
+            << 555 << QStringLiteral("数据服务没有返回批次明细") << QStringLiteral("FetchYtdBatManDetail");
+        QTest::newRow("item detail")
+            << ServiceCall([] { InitialDataClient(EmptyDataProgId).FetchYtdItemDetail(QStringLiteral("01")); })
+            << 573 << QStringLiteral("数据服务没有返回结果：FetchYtdItemDetail") << QStringLiteral("FetchYtdItemDetail");
+        QTest::newRow("saved rows")
+            << ServiceCall([] { InitialDataClient(EmptyDataProgId).GetInitData(QStringLiteral("1|0|1|7")); })
+            << 573 << QStringLiteral("数据服务没有返回结果：GetInitData") << QStringLiteral("GetInitData");
+    }
+
+    void emptyAnswerRaisesItsError()
+    {
+        QFETCH(ServiceCall, call);
+        QFETCH(int, number);
+        QFETCH(QString, description);
+        QFETCH(QString, source);
+        try {
+            call();
+            QFAIL("an empty answer must raise");
+        } catch (const LumoError &error) {
+            QCOMPARE(error.number(), number);
+            QCOMPARE(error.description(), description);
+            QCOMPARE(error.source(), source);
+        }
     }
 
     void aSecondLoadReplacesTheParameters()

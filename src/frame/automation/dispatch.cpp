@@ -23,7 +23,7 @@ const QString source = QStringLiteral("Dispatch");
 void requireObject(const QObject *object, const QString &member)
 {
     if (!object)
-        throw LumoError(LumoError::AppBase + 10, QStringLiteral("对象变量未设置：%1").arg(member), source);
+        throw LumoError(LumoError::ObjectNotSet, QStringLiteral("对象变量未设置：%1").arg(member), source);
 }
 
 // The argument converted to the parameter's type; a QVariant parameter takes it as it is.

@@ -14,6 +14,10 @@ public:
     // Numbers of our own errors start here, above the automation layer's numbers.
     static constexpr int AppBase = 513;
 
+    // Our own numbers the automation layer raises; the controls' own are in CtlError.
+    static constexpr int NoCurrentRecord = AppBase + 1;
+    static constexpr int ObjectNotSet = AppBase + 10;
+
     // Numbers the automation layer itself raises.
     static constexpr int CannotCreateObject = 429;
     static constexpr int MemberNotFound = 438;

@@ -120,7 +120,7 @@ void Recordset::MoveLast()
 int Recordset::currentRow() const
 {
     if (m_position < 0 || m_position >= m_order.size())
-        throw LumoError(LumoError::AppBase + 1, QStringLiteral("BOF 或 EOF 中有一个是“真”，或者当前记录已被删除"),
+        throw LumoError(LumoError::NoCurrentRecord, QStringLiteral("BOF 或 EOF 中有一个是“真”，或者当前记录已被删除"),
                         source);
     return m_order.at(m_position);
 }
