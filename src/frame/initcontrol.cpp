@@ -8,6 +8,7 @@
 #include "messages.h"
 #include "settingsstore.h"
 #include "statuspanels.h"
+#include "viewtoggles.h"
 
 #include "frame/automation/dispatch.h"
 #include "frame/automation/lumoerror.h"
@@ -21,19 +22,6 @@
 namespace {
 
 const QString QueryUnload = QStringLiteral("QueryUnload");
-
-// The view toggles and the settings that keep them.
-struct ViewToggle
-{
-    const char *menuKey;
-    const SettingSpec *setting;
-};
-
-const ViewToggle viewToggles[] = {
-    {"mcWToolBar", &Setting::ShowToolBar},     {"mcWTBLable", &Setting::ShowToolBarLabel},
-    {"mcWStatusBar", &Setting::ShowStateBar},  {"mcEDefault", &Setting::ShowDefaultStock},
-    {"mcVSRefresh", &Setting::ShowRefresh},
-};
 
 // Keys the grid keeps for itself: Page Up, Page Down and the arrows.
 bool isGridKey(int key)
@@ -144,17 +132,35 @@ void InitControl::dispatchCommand(const QString &key)
     }
 }
 
+void InitControl::addViewToggles()
+{
+    for (const ViewToggle &toggle : viewToggles()) {
+        BarList::Item item;
+        item.key = QString::fromLatin1(toggle.menuKey);
+        item.caption = ResString(QString::fromUtf8(toggle.caption));
+        item.menu = ResString(QString::fromUtf8(toggle.menu));
+        item.checkable = true;
+        m_barList->addItem(item);
+    }
+}
+
 void InitControl::loadViewSettings()
 {
-    for (const ViewToggle &toggle : viewToggles)
+    for (const ViewToggle &toggle : viewToggles())
         m_barList->setChecked(QString::fromLatin1(toggle.menuKey), SettingsStore::boolValue(*toggle.setting));
+    m_loadedStockListIndex = SettingsStore::intValue(Setting::StockListIndex);
     applyViewState();
 }
 
 void InitControl::saveViewSettings()
 {
-    for (const ViewToggle &toggle : viewToggles)
-        SettingsStore::setValue(*toggle.setting, m_barList->isChecked(QString::fromLatin1(toggle.menuKey)));
+    // Only the toggles this control carries: a missing one would read as off and overwrite what
+    // the user chose in the other control.
+    for (const ViewToggle &toggle : viewToggles()) {
+        const QString key = QString::fromLatin1(toggle.menuKey);
+        if (m_barList->item(key))
+            SettingsStore::setValue(*toggle.setting, m_barList->isChecked(key));
+    }
     SettingsStore::setValue(Setting::StockListIndex, stockListIndex());
 }
 

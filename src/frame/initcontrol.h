@@ -75,6 +75,8 @@ protected:
     // Keeps the host window, hands it the BarList and listens to its toolbar.
     void bindHost(QObject *parentWnd);
 
+    // Adds the view toggles' menu items, unchecked, for a control that does not declare them itself.
+    void addViewToggles();
     // View settings ("bShowToolBar", ...): loaded at Show, saved at "QueryUnload".
     void loadViewSettings();
     void saveViewSettings();
@@ -82,7 +84,8 @@ protected:
     void toggleView(const QString &menuKey);
     void applyViewState();
     virtual void applyDefaultStockSetting() {}
-    virtual int stockListIndex() const { return 0; }
+    // A control without a warehouse list hands back the position it read.
+    virtual int stockListIndex() const { return m_loadedStockListIndex; }
 
     void setStatusText(const QString &text);
     // Sends Ctrl+F4 to the host: the frame holding the control closes.
@@ -104,6 +107,7 @@ private:
     int m_pageIndex = 1;
     int m_totalPages = 0;
     bool m_isNewData = false;
+    int m_loadedStockListIndex = 0;
     QString m_propsString;
     qint32 m_taskHandle = 0;
     QPointer<QObject> m_parentWindow;
