@@ -19,6 +19,8 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 const QString QueryUnload = QStringLiteral("QueryUnload");
@@ -184,11 +186,17 @@ void InitControl::rebuildToolBar()
 {
     // A hosted control shows its buttons on the host's toolbar; alone, on its own.
     m_toolBar->setVisible(!m_parentWindow && m_barList->toolbarVisible());
-    // The toolbar owns the actions it made; clear() only takes them off.
+    // The toolbar owns the actions it made; clear() only takes them off. They go at once, since a
+    // scripted host never runs the event loop a deferred delete waits for; only the action whose
+    // click led here is still on the stack and waits for its trigger to return.
     const QList<QAction *> previous = m_toolBar->actions();
     m_toolBar->clear();
-    for (QAction *action : previous)
-        action->deleteLater();
+    for (QAction *action : previous) {
+        if (action == m_runningAction)
+            action->deleteLater();
+        else
+            delete action;
+    }
     m_toolBar->setToolButtonStyle(m_barList->toolbarLabels() ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
     for (const BarList::Item &item : m_barList->items()) {
         if (!item.visible || item.kind == BarList::ItemKind::MenuItem)
@@ -201,7 +209,13 @@ void InitControl::rebuildToolBar()
         action->setObjectName(item.key);
         action->setEnabled(item.enabled);
         const QString key = item.key;
-        connect(action, &QAction::triggered, m_barList, [this, key] { m_barList->Click(key); });
+        connect(action, &QAction::triggered, m_barList, [this, action, key] {
+            const QPointer<InitControl> self(this);
+            const QPointer<QAction> outer = std::exchange(m_runningAction, action);
+            m_barList->Click(key);
+            if (self)
+                m_runningAction = outer;
+        });
     }
 }
 

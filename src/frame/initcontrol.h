@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class BarList;
+class QAction;
 class ControlCollection;
 class QToolBar;
 class QVBoxLayout;
@@ -114,6 +115,8 @@ private:
     BarList *m_barList = nullptr;
     ControlCollection *m_controls = nullptr;
     QToolBar *m_toolBar = nullptr;
+    // The toolbar action whose trigger is running, if any.
+    QPointer<QAction> m_runningAction;
     StatusPanels *m_statusBar = nullptr;
     QVBoxLayout *m_bodyLayout = nullptr;
 };

@@ -6,6 +6,7 @@
 #include "sheet/warehousetable.h"
 
 #include "frame/barlist.h"
+#include "frame/controlcollection.h"
 #include "frame/librarystate.h"
 #include "frame/logincontext.h"
 #include "frame/prompter.h"
@@ -277,6 +278,21 @@ private slots:
         file.close();
         for (const ViewToggle &toggle : viewToggles())
             QVERIFY2(SettingsStore::boolValue(*toggle.setting) == toggle.setting->defaultValue.toBool(), toggle.menuKey);
+    }
+
+    void toolbarRebuildsKeepTheControlCount()
+    {
+        ICInitCtl control;
+        FakeHostWindow host;
+        QVERIFY(control.Show(&host, false));
+        const auto *controls = qobject_cast<ControlCollection *>(control.Controls());
+        QVERIFY(controls);
+        const int count = controls->Count();
+        for (int cycle = 0; cycle < 4; ++cycle) {
+            control.RefreshToolbar();
+            control.barList()->Click(QStringLiteral("mcWTBLable"));
+        }
+        QCOMPARE(controls->Count(), count);
     }
 
     void refreshToolbarBeforeShowDoesNothing()
