@@ -191,10 +191,10 @@ void TestBatchDialog::hiddenColumns_data()
     QTest::addColumn<QString>("caption");
 
     QTest::newRow("quantities only") << 0 << 78 << 0 << true << true << true << "批号/数量";
-    QTest::newRow("quantity and amount") << 1 << 78 << 0 << false << true << true << "批号/数量/金额";
+    QTest::newRow("quantity and amount") << 1 << 78 << 0 << false << false << true << "批号/数量/金额";
     QTest::newRow("planned cost") << 1 << 81 << 0 << false << false << true << "批号/数量/金额/材料成本差异";
     QTest::newRow("planned cost, quantities only") << 0 << 81 << 0 << true << true << true << "批号/数量";
-    QTest::newRow("with secondary unit") << 1 << 78 << 8 << false << true << false << "批号/数量/金额";
+    QTest::newRow("with secondary unit") << 1 << 78 << 8 << false << false << false << "批号/数量/金额";
 }
 
 void TestBatchDialog::hiddenColumns()
