@@ -254,7 +254,12 @@ void BatchSession::onAfterEdit(int row, int col)
     if (col == BatCol::YtdBegQty || col == BatCol::BegQty)
         apportion();
     if (BatCol::isFigure(col)) {
-        const BalanceVerdict verdict = BatchValidation::checkGroup(m_sheet.line(row), groupOf(col), m_item, rules());
+        BatchRules editRules = rules();
+        // A quantity is typed before its amount, as in the entry grid: a missing amount is judged
+        // when the line is saved.
+        if (isQuantityKind(col))
+            editRules.balance.auditChoice = 0;
+        const BalanceVerdict verdict = BatchValidation::checkGroup(m_sheet.line(row), groupOf(col), m_item, editRules);
         if (!verdict.valid) {
             // The figure stays so that it can be corrected; the save checks the line again.
             warn(verdict.message());

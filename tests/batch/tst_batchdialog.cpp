@@ -246,6 +246,8 @@ void TestBatchDialog::emptyItemNeedsAddNew()
 
     QVERIFY(grid.editCell(1, BegQty, 5));
     QCOMPARE(grid.TextMatrix(2, BegQty), QStringLiteral("5.00"));
+    // The amount is still to come: no warning of a zero amount in the middle of the pair.
+    QVERIFY(m_prompter.messages().isEmpty());
 }
 
 void TestBatchDialog::typedBatchRepeatIsRefused()
