@@ -208,12 +208,12 @@ QStringList BatchSheet::otherBatchNumbers(int row) const
     return out;
 }
 
-qint32 BatchSheet::nextBillInterId() const
+qint32 BatchSheet::highestBillInterId() const
 {
     qint32 highest = 0;
     for (int row = 1; row <= lineCount(); ++row)
         highest = std::max(highest, qint32(qRound(m_cells.number(row, BatCol::BillInterID))));
-    return highest + 1;
+    return highest;
 }
 
 void BatchSheet::setFigure(int row, int col, double value)

@@ -5,6 +5,7 @@
 #include "batch/batchsession.h"
 #include "batch/frmbatchmanager.h"
 
+#include "frame/librarystate.h"
 #include "frame/logincontext.h"
 #include "frame/settingsstore.h"
 #include "frame/sysparams.h"
@@ -76,6 +77,8 @@ void TestBatchDialog::init()
     FakeWorld::instance().reset();
     m_prompter.clear();
     setParams();
+    // The record counter starts where the parameters leave it, as when they are read.
+    LibraryState::instance().iniBillInterId = 0;
     LoginContext::instance().reset();
 }
 
