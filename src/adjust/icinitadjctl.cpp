@@ -6,6 +6,7 @@
 #include "frame/logincontext.h"
 #include "frame/netcontrol.h"
 #include "frame/sysparams.h"
+#include "frame/viewtoggles.h"
 
 #include "frame/automation/lumoerror.h"
 #include "frame/automation/recordset.h"
@@ -42,6 +43,11 @@ ICInitAdjCtl::ICInitAdjCtl(QWidget *parent)
     exit.caption = ResString(QStringLiteral("退出"));
     exit.menu = ResString(QStringLiteral("文件(&F)"));
     barList()->addItem(exit);
+    addViewToggles();
+    // The default warehouse opens in the entry control only; the setting is kept, not offered.
+    const QString defaultStock = QString::fromLatin1(ViewToggleKey::DefaultStock);
+    barList()->setVisible(defaultStock, false);
+    barList()->setEnabled(defaultStock, false);
 }
 
 ICInitAdjCtl::~ICInitAdjCtl() = default;
@@ -71,4 +77,6 @@ void ICInitAdjCtl::runCommand(const QString &key)
 {
     if (key == ExitKey)
         closeHostFrame();
+    else if (viewToggleForKey(key))
+        toggleView(key);
 }

@@ -6,6 +6,7 @@
 #include "frame/messages.h"
 
 #include "grid/gridtypes.h"
+#include "sheet/savescript.h"
 #include "sheet/sqltext.h"
 
 #include <QStringList>
@@ -106,6 +107,8 @@ QString build(const BatchScriptKey &key, const QList<BatchLine> &lines, const QL
         for (const QString &table : SerialTables)
             statements.append(SerialDelete.arg(table, ids.join(QLatin1Char(','))));
     }
+    if (key.recordCounter)
+        statements.append(SaveScript::systemProfileUpdate(*key.recordCounter).trimmed());
     return statements.join(Msg::LineBreak);
 }
 

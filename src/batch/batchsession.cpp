@@ -7,6 +7,7 @@
 #include "batch/linebalance.h"
 
 #include "frame/errorbox.h"
+#include "frame/librarystate.h"
 #include "frame/logincontext.h"
 #include "frame/messages.h"
 #include "frame/prompter.h"
@@ -20,6 +21,8 @@
 #include "grid/bulkupdate.h"
 #include "grid/cellmodel.h"
 #include "grid/numberformat.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -132,7 +135,11 @@ int BatchSession::addLine()
 {
     const std::optional<qint32> shelfLife = m_item.shelfLifeManaged ? std::optional<qint32>(m_item.kfPeriod)
                                                                     : std::nullopt;
-    const int row = m_sheet.appendLine(m_startDate, shelfLife, m_sheet.nextBillInterId());
+    // Record numbers run library-wide, across items, dialogs and controls: the line takes the next
+    // one, and never one that a line of this item already holds.
+    qint64 &counter = LibraryState::instance().iniBillInterId;
+    counter = std::max(counter, qint64(m_sheet.highestBillInterId())) + 1;
+    const int row = m_sheet.appendLine(m_startDate, shelfLife, qint32(counter));
     m_changed = true;
     m_sheet.refreshTotals();
     emit focusRequested(row, m_item.batchManaged ? BatCol::BatchNo : BatCol::YtdBegQty);
@@ -195,6 +202,9 @@ bool BatchSession::save()
         return false;
     }
     emit progressChanged(1, 1);
+    // The script wrote the counter back; the parameter follows so nobody writes it again.
+    if (Dictionary *params = SysParams::current())
+        params->setItem(SysParam::INIBillInterID, LibraryState::instance().iniBillInterId);
     m_saved = true;
     m_changed = false;
     m_deletedSerialLists.clear();
@@ -221,6 +231,9 @@ QString BatchSession::saveScript() const
     key.secUnitId = m_handover.secUnitId;
     key.secCoefficient = m_item.secCoefficient;
     key.fieldCompose = m_handover.fieldCompose;
+    const qint64 counter = LibraryState::instance().iniBillInterId;
+    if (counter != SysParams::toInt(SysParam::INIBillInterID))
+        key.recordCounter = counter;
     return BatchScript::build(key, m_sheet.lines(), m_deletedSerialLists);
 }
 
@@ -254,7 +267,12 @@ void BatchSession::onAfterEdit(int row, int col)
     if (col == BatCol::YtdBegQty || col == BatCol::BegQty)
         apportion();
     if (BatCol::isFigure(col)) {
-        const BalanceVerdict verdict = BatchValidation::checkGroup(m_sheet.line(row), groupOf(col), m_item, rules());
+        BatchRules editRules = rules();
+        // A quantity is typed before its amount, as in the entry grid: a missing amount is judged
+        // when the line is saved.
+        if (isQuantityKind(col))
+            editRules.balance.auditChoice = 0;
+        const BalanceVerdict verdict = BatchValidation::checkGroup(m_sheet.line(row), groupOf(col), m_item, editRules);
         if (!verdict.valid) {
             // The figure stays so that it can be corrected; the save checks the line again.
             warn(verdict.message());

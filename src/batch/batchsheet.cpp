@@ -84,9 +84,9 @@ void BatchSheet::build(const ItemInfo &item, const BatchSheetLook &look)
         m_cells.setColWidth(col, FigureWidth);
         const FigureKind kind = kindOf(col);
         const bool amountKind = kind == FigureKind::Amount || kind == FigureKind::Difference;
-        // Material-cost differences belong to planned cost, as the mode caption says.
+        // Amounts and differences go only where quantities alone are kept; the mode caption names
+        // differences for planned cost, but the columns stay for every item.
         m_cells.setColHidden(col, (amountKind && look.quantitiesOnly)
-                                      || (kind == FigureKind::Difference && !item.plannedCost())
                                       || (kind == FigureKind::SecQuantity && !look.secondaryShown));
     }
     // A line of an item without batch management has no batch number.
@@ -208,12 +208,12 @@ QStringList BatchSheet::otherBatchNumbers(int row) const
     return out;
 }
 
-qint32 BatchSheet::nextBillInterId() const
+qint32 BatchSheet::highestBillInterId() const
 {
     qint32 highest = 0;
     for (int row = 1; row <= lineCount(); ++row)
         highest = std::max(highest, qint32(qRound(m_cells.number(row, BatCol::BillInterID))));
-    return highest + 1;
+    return highest;
 }
 
 void BatchSheet::setFigure(int row, int col, double value)

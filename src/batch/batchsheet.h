@@ -58,8 +58,8 @@ public:
     QList<BatchLine> lines() const;
     // The batch numbers of every line except `row`.
     QStringList otherBatchNumbers(int row) const;
-    // One more than the highest sequence number of the lines.
-    qint32 nextBillInterId() const;
+    // The highest sequence number the lines hold; 0 without lines.
+    qint32 highestBillInterId() const;
 
     void setFigure(int row, int col, double value);
     void markChanged(int row);

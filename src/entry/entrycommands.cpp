@@ -6,9 +6,14 @@
 namespace {
 
 const char *const FileMenu = "文件(&F)";
-const char *const EditMenu = "编辑(&E)";
-const char *const ViewMenu = "查看(&V)";
-const char *const FormatMenu = "格式(&O)";
+const char *const EditMenu = ViewToggleMenu::Edit;
+const char *const ViewMenu = ViewToggleMenu::View;
+const char *const FormatMenu = ViewToggleMenu::Format;
+
+const char *toggleCaption(const char *menuKey)
+{
+    return viewToggleForKey(QString::fromLatin1(menuKey))->caption;
+}
 
 using C = EntryCommand;
 constexpr unsigned Built = CommandFlag::Built;
@@ -43,7 +48,7 @@ const QVector<EntryCommandSpec> &entryCommandTable()
         {C::AddNew, {EAddNew}, AddNew, "新增", EditMenu, "Ctrl+N", false, "list-add", Built | Entry | Changes | Node},
         {C::Delete, {EDelete}, Delete, "删除", EditMenu, "Ctrl+Del", false, "list-remove", Built | Entry | Changes | Node},
         {C::Sum, {ESum}, Sum, "汇总", EditMenu, "", false, "x-office-spreadsheet", Built | Entry | Node},
-        {C::DefaultStock, {DefaultStock}, {}, "启动时打开默认仓库", EditMenu, "", true, "", Built | Node},
+        {C::DefaultStock, {DefaultStock}, {}, toggleCaption(ViewToggleKey::DefaultStock), EditMenu, "", true, "", Built | Node},
         {C::Find, {EFind}, Find, "查找", EditMenu, "Ctrl+F", false, "edit-find", Entry | Rows},
         {C::Filter, {EFilter}, Filter, "过滤", EditMenu, "", false, "view-filter", 0},
         {C::Sort, {ESort}, Sort, "排序", EditMenu, "", false, "view-sort-ascending", 0},
@@ -56,10 +61,10 @@ const QVector<EntryCommandSpec> &entryCommandTable()
         {C::Refresh, {VRefresh}, Refresh, "刷新", ViewMenu, "F5", false, "view-refresh", Built},
         {C::OrgWidth, {OrgWidth}, {}, "恢复默认列宽", ViewMenu, "", false, "", Built},
         {C::Tree, {VTree}, TreeView, "仓库树", ViewMenu, "", false, "view-list-tree", Built},
-        {C::AutoRefresh, {AutoRefresh}, {}, "自动刷新", ViewMenu, "", true, "", Built},
-        {C::ToolBar, {ToolBar}, {}, "工具栏", FormatMenu, "", true, "", Built},
-        {C::ToolBarLabel, {ToolBarLabel}, {}, "工具栏标签", FormatMenu, "", true, "", Built},
-        {C::StatusBar, {StatusBar}, {}, "状态栏", FormatMenu, "", true, "", Built},
+        {C::AutoRefresh, {AutoRefresh}, {}, toggleCaption(ViewToggleKey::AutoRefresh), ViewMenu, "", true, "", Built},
+        {C::ToolBar, {ToolBar}, {}, toggleCaption(ViewToggleKey::ToolBar), FormatMenu, "", true, "", Built},
+        {C::ToolBarLabel, {ToolBarLabel}, {}, toggleCaption(ViewToggleKey::ToolBarLabel), FormatMenu, "", true, "", Built},
+        {C::StatusBar, {StatusBar}, {}, toggleCaption(ViewToggleKey::StatusBar), FormatMenu, "", true, "", Built},
     };
     return table;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frame/lumoicinitial_global.h"
+#include "frame/viewtoggles.h"
 
 #include <QString>
 #include <QVector>
@@ -49,7 +50,7 @@ inline const QString EDelete = QStringLiteral("mcEDelete");
 inline const QString Delete = QStringLiteral("Delete");
 inline const QString ESum = QStringLiteral("mcESum");
 inline const QString Sum = QStringLiteral("Sum");
-inline const QString DefaultStock = QStringLiteral("mcEDefault");
+inline const QString DefaultStock = QString::fromLatin1(ViewToggleKey::DefaultStock);
 inline const QString EFind = QStringLiteral("mcEFind");
 inline const QString Find = QStringLiteral("Find");
 inline const QString EFilter = QStringLiteral("mcEFilter");
@@ -72,10 +73,10 @@ inline const QString Refresh = QStringLiteral("Refresh");
 inline const QString OrgWidth = QStringLiteral("mcVOrgWidth");
 inline const QString VTree = QStringLiteral("mcVTree");
 inline const QString TreeView = QStringLiteral("TreeView");
-inline const QString AutoRefresh = QStringLiteral("mcVSRefresh");
-inline const QString ToolBar = QStringLiteral("mcWToolBar");
-inline const QString ToolBarLabel = QStringLiteral("mcWTBLable");
-inline const QString StatusBar = QStringLiteral("mcWStatusBar");
+inline const QString AutoRefresh = QString::fromLatin1(ViewToggleKey::AutoRefresh);
+inline const QString ToolBar = QString::fromLatin1(ViewToggleKey::ToolBar);
+inline const QString ToolBarLabel = QString::fromLatin1(ViewToggleKey::ToolBarLabel);
+inline const QString StatusBar = QString::fromLatin1(ViewToggleKey::StatusBar);
 inline const QString Separator2 = QStringLiteral("SP2");
 inline const QString Separator3 = QStringLiteral("SP3");
 } // namespace EntryKeys

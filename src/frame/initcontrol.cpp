@@ -10,6 +10,7 @@
 #include "settingsstore.h"
 #include "statuspanels.h"
 #include "sysparams.h"
+#include "viewtoggles.h"
 
 #include "frame/automation/dispatch.h"
 #include "frame/automation/lumoerror.h"
@@ -21,22 +22,11 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 const QString QueryUnload = QStringLiteral("QueryUnload");
-
-// The view toggles and the settings that keep them.
-struct ViewToggle
-{
-    const char *menuKey;
-    const SettingSpec *setting;
-};
-
-const ViewToggle viewToggles[] = {
-    {"mcWToolBar", &Setting::ShowToolBar},     {"mcWTBLable", &Setting::ShowToolBarLabel},
-    {"mcWStatusBar", &Setting::ShowStateBar},  {"mcEDefault", &Setting::ShowDefaultStock},
-    {"mcVSRefresh", &Setting::ShowRefresh},
-};
 
 // Keys the grid keeps for itself: Page Up, Page Down and the arrows.
 bool isGridKey(int key)
@@ -172,17 +162,35 @@ void InitControl::dispatchCommand(const QString &key)
     }
 }
 
+void InitControl::addViewToggles()
+{
+    for (const ViewToggle &toggle : viewToggles()) {
+        BarList::Item item;
+        item.key = QString::fromLatin1(toggle.menuKey);
+        item.caption = ResString(QString::fromUtf8(toggle.caption));
+        item.menu = ResString(QString::fromUtf8(toggle.menu));
+        item.checkable = true;
+        m_barList->addItem(item);
+    }
+}
+
 void InitControl::loadViewSettings()
 {
-    for (const ViewToggle &toggle : viewToggles)
+    for (const ViewToggle &toggle : viewToggles())
         m_barList->setChecked(QString::fromLatin1(toggle.menuKey), SettingsStore::boolValue(*toggle.setting));
+    m_loadedStockListIndex = SettingsStore::intValue(Setting::StockListIndex);
     applyViewState();
 }
 
 void InitControl::saveViewSettings()
 {
-    for (const ViewToggle &toggle : viewToggles)
-        SettingsStore::setValue(*toggle.setting, m_barList->isChecked(QString::fromLatin1(toggle.menuKey)));
+    // Only the toggles this control carries: a missing one would read as off and overwrite what
+    // the user chose in the other control.
+    for (const ViewToggle &toggle : viewToggles()) {
+        const QString key = QString::fromLatin1(toggle.menuKey);
+        if (m_barList->item(key))
+            SettingsStore::setValue(*toggle.setting, m_barList->isChecked(key));
+    }
     SettingsStore::setValue(Setting::StockListIndex, stockListIndex());
 }
 
@@ -206,11 +214,17 @@ void InitControl::rebuildToolBar()
 {
     // A hosted control shows its buttons on the host's toolbar; alone, on its own.
     m_toolBar->setVisible(!m_parentWindow && m_barList->toolbarVisible());
-    // The toolbar owns the actions it made; clear() only takes them off.
+    // The toolbar owns the actions it made; clear() only takes them off. They go at once, since a
+    // scripted host never runs the event loop a deferred delete waits for; only the action whose
+    // click led here is still on the stack and waits for its trigger to return.
     const QList<QAction *> previous = m_toolBar->actions();
     m_toolBar->clear();
-    for (QAction *action : previous)
-        action->deleteLater();
+    for (QAction *action : previous) {
+        if (action == m_runningAction)
+            action->deleteLater();
+        else
+            delete action;
+    }
     m_toolBar->setToolButtonStyle(m_barList->toolbarLabels() ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
     for (const BarList::Item &item : m_barList->items()) {
         if (!item.visible || item.kind == BarList::ItemKind::MenuItem)
@@ -223,7 +237,13 @@ void InitControl::rebuildToolBar()
         action->setObjectName(item.key);
         action->setEnabled(item.enabled);
         const QString key = item.key;
-        connect(action, &QAction::triggered, m_barList, [this, key] { m_barList->Click(key); });
+        connect(action, &QAction::triggered, m_barList, [this, action, key] {
+            const QPointer<InitControl> self(this);
+            const QPointer<QAction> outer = std::exchange(m_runningAction, action);
+            m_barList->Click(key);
+            if (self)
+                m_runningAction = outer;
+        });
     }
 }
 

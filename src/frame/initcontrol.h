@@ -9,6 +9,7 @@
 #include <memory>
 
 class BarList;
+class QAction;
 class ControlCollection;
 class Recordset;
 class QToolBar;
@@ -90,6 +91,8 @@ protected:
     // Keeps the host window, hands it the BarList and listens to its toolbar.
     void bindHost(QObject *parentWnd);
 
+    // Adds the view toggles' menu items, unchecked, for a control that does not declare them itself.
+    void addViewToggles();
     // View settings ("bShowToolBar", ...): loaded at Show, saved at "QueryUnload".
     void loadViewSettings();
     void saveViewSettings();
@@ -97,7 +100,8 @@ protected:
     void toggleView(const QString &menuKey);
     void applyViewState();
     virtual void applyDefaultStockSetting() {}
-    virtual int stockListIndex() const { return 0; }
+    // A control without a warehouse list hands back the position it read.
+    virtual int stockListIndex() const { return m_loadedStockListIndex; }
 
     // Sends Ctrl+F4 to the host: the frame holding the control closes.
     void closeHostFrame();
@@ -118,12 +122,15 @@ private:
     int m_pageIndex = 1;
     int m_totalPages = 0;
     bool m_isNewData = false;
+    int m_loadedStockListIndex = 0;
     QString m_propsString;
     qint32 m_taskHandle = 0;
     QPointer<QObject> m_parentWindow;
     BarList *m_barList = nullptr;
     ControlCollection *m_controls = nullptr;
     QToolBar *m_toolBar = nullptr;
+    // The toolbar action whose trigger is running, if any.
+    QPointer<QAction> m_runningAction;
     StatusPanels *m_statusBar = nullptr;
     QVBoxLayout *m_bodyLayout = nullptr;
     std::unique_ptr<Recordset> m_units;

@@ -19,7 +19,17 @@ QVariant SettingsStore::value(const SettingSpec &setting)
 bool SettingsStore::boolValue(const SettingSpec &setting)
 {
     const QVariant v = value(setting);
-    return v.typeId() == QMetaType::QString ? (v.toString() == QLatin1String("true") || v.toInt() != 0) : v.toBool();
+    if (v.typeId() != QMetaType::QString)
+        return v.toBool();
+    // A value that is neither a truth word nor a number was not written by us: the default holds.
+    const QString text = v.toString().trimmed();
+    if (text.compare(QLatin1String("true"), Qt::CaseInsensitive) == 0)
+        return true;
+    if (text.compare(QLatin1String("false"), Qt::CaseInsensitive) == 0)
+        return false;
+    bool numeric = false;
+    const int number = text.toInt(&numeric);
+    return numeric ? number != 0 : setting.defaultValue.toBool();
 }
 
 int SettingsStore::intValue(const SettingSpec &setting)

@@ -369,6 +369,43 @@ private slots:
         QCOMPARE(lines, 0);
     }
 
+    void newLinesContinueTheRecordNumber_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+
+    void newLinesContinueTheRecordNumber()
+    {
+        const auto counter = [this] {
+            return SqlRun::scalar(m_scratch->db(), QStringLiteral("SELECT FValue FROM t_SystemProfile "
+                                                                  "WHERE FCategory='IC' AND FKey='INIBillInterID'"))
+                .toInt();
+        };
+        const int before = counter();
+        for (const int itemId : {ComponentKit, EpoxyGlue}) {
+            const auto dialog = openItem(ShelfB, itemId);
+            QVERIFY(dialog);
+            SpreadGrid &grid = *dialog->grid();
+            QVERIFY(dialog->pressButton(QStringLiteral("AddNew")));
+            const int line = grid.row();
+            QVERIFY(grid.editCell(line, BatchNo, QStringLiteral("N1")));
+            if (itemId == EpoxyGlue)
+                QVERIFY(grid.editCell(line, KFDate, demoDay(3, 1)));
+            QVERIFY(grid.editCell(line, BegQty, 1));
+            QVERIFY(grid.editCell(line, BegBal, 10));
+            QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+            QVERIFY2(dialog->SavedBatMan(), qPrintable(lastMessage()));
+        }
+        QSqlQuery query = SqlRun::exec(m_scratch->db(), QStringLiteral("SELECT FBillInterID FROM ICInvInitial "
+                                                                       "WHERE FBatchNo='N1' ORDER BY FBillInterID"));
+        QList<int> numbers;
+        while (query.next())
+            numbers.append(query.value(0).toInt());
+        QCOMPARE(numbers, (QList<int>{before + 1, before + 2}));
+        QCOMPARE(counter(), before + 2);
+    }
+
     void closePrompt_data()
     {
         addBackendColumn();

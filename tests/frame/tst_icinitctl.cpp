@@ -1,16 +1,19 @@
 #include "fakeservices.h"
 
+#include "adjust/icinitadjctl.h"
 #include "entry/icinitctl.h"
 #include "sheet/navtree.h"
 #include "sheet/warehousetable.h"
 
 #include "frame/barlist.h"
+#include "frame/controlcollection.h"
 #include "frame/librarystate.h"
 #include "frame/logincontext.h"
 #include "frame/prompter.h"
 #include "frame/settingsstore.h"
 #include "frame/statuspanels.h"
 #include "frame/sysparams.h"
+#include "frame/viewtoggles.h"
 
 #include "frame/automation/dictionary.h"
 #include "frame/automation/pelmreg.h"
@@ -21,6 +24,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -87,8 +91,8 @@ private slots:
         LoginContext::instance().reset();
         m_prompter.clear();
         useDemoStocks();
-        for (const SettingSpec *setting : {&Setting::ShowToolBar, &Setting::ShowStateBar, &Setting::ShowDefaultStock})
-            SettingsStore::setValue(*setting, setting->defaultValue);
+        for (const ViewToggle &toggle : viewToggles())
+            SettingsStore::setValue(*toggle.setting, toggle.setting->defaultValue);
     }
 
     void treeKeysFollowTheWarehouseTable()
@@ -235,6 +239,60 @@ private slots:
         QVERIFY(control.Show(&host, false));
         QVERIFY(!control.barList()->isChecked(QStringLiteral("mcWStatusBar")));
         QVERIFY(control.statusPanels()->isHidden());
+    }
+
+    void adjustmentControlKeepsTheEntryViewSettings()
+    {
+        for (const ViewToggle &toggle : viewToggles())
+            SettingsStore::setValue(*toggle.setting, !toggle.setting->defaultValue.toBool());
+        {
+            ICInitAdjCtl adjust;
+            FakeHostWindow host;
+            QVERIFY(adjust.Show(&host, false));
+            adjust.barList()->Click(QStringLiteral("mcWTBLable")); // clicked twice: as it was
+            adjust.barList()->Click(QStringLiteral("mcWTBLable"));
+            adjust.NotifyMessage(QStringLiteral("QueryUnload"), {});
+        }
+        ICInitCtl control;
+        FakeHostWindow host;
+        QVERIFY(control.Show(&host, false));
+        for (const ViewToggle &toggle : viewToggles())
+            QVERIFY2(control.barList()->isChecked(QLatin1String(toggle.menuKey)) != toggle.setting->defaultValue.toBool(),
+                     toggle.menuKey);
+    }
+
+    void unreadableViewSettingsGiveTheDefaults_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("no values") << QByteArray("[General]\nbShowToolBar=\nbShowStateBar=\nbShowRefresh=\n");
+        QTest::newRow("garbage") << QByteArray("[General]\nbShowToolBar=%%\nbShowStateBar=x\nbShowRefresh=yes?\n");
+    }
+
+    void unreadableViewSettingsGiveTheDefaults()
+    {
+        QFETCH(QByteArray, content);
+        QFile file(QSettings(QStringLiteral("Lumo"), Setting::StoreName).fileName());
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(content);
+        file.close();
+        for (const ViewToggle &toggle : viewToggles())
+            QVERIFY2(SettingsStore::boolValue(*toggle.setting) == toggle.setting->defaultValue.toBool(), toggle.menuKey);
+    }
+
+    void toolbarRebuildsKeepTheControlCount()
+    {
+        ICInitCtl control;
+        FakeHostWindow host;
+        QVERIFY(control.Show(&host, false));
+        const auto *controls = qobject_cast<ControlCollection *>(control.Controls());
+        QVERIFY(controls);
+        const int count = controls->Count();
+        for (int cycle = 0; cycle < 4; ++cycle) {
+            control.RefreshToolbar();
+            control.barList()->Click(QStringLiteral("mcWTBLable"));
+        }
+        QCOMPARE(controls->Count(), count);
     }
 
     void refreshToolbarBeforeShowDoesNothing()
