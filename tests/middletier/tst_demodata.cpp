@@ -22,16 +22,22 @@ int count(const QSqlDatabase &db, const QString &sql)
 
 } // namespace
 
-void TestDemoData::coversWhatTheControlsShow_data()
+// Every case runs on each backend; one that cannot be reached here is skipped.
+void TestDemoData::initTestCase_data()
 {
     addBackendColumn();
     addBackendRows();
 }
 
+void TestDemoData::init()
+{
+    QFETCH_GLOBAL(QString, backend);
+    REQUIRE_BACKEND(backend);
+}
+
 void TestDemoData::coversWhatTheControlsShow()
 {
-    QFETCH(QString, backend);
-    REQUIRE_BACKEND(backend);
+    QFETCH_GLOBAL(QString, backend);
     ScratchAccountSet scratch(backend);
     const QSqlDatabase db = scratch.db();
 
@@ -93,16 +99,9 @@ void TestDemoData::coversWhatTheControlsShow()
     QVERIFY(!(SqlRun::scalar(db, rights.arg(17)).toLongLong() & 32768));
 }
 
-void TestDemoData::linesKeepTheBalanceRule_data()
-{
-    addBackendColumn();
-    addBackendRows();
-}
-
 void TestDemoData::linesKeepTheBalanceRule()
 {
-    QFETCH(QString, backend);
-    REQUIRE_BACKEND(backend);
+    QFETCH_GLOBAL(QString, backend);
     ScratchAccountSet scratch(backend);
     // year start = opening + issued - received, for quantities, amounts and secondary quantities
     QSqlQuery lines = SqlRun::exec(
@@ -125,16 +124,9 @@ void TestDemoData::linesKeepTheBalanceRule()
     QVERIFY(checked > 20);
 }
 
-void TestDemoData::ledgerAgreesOnSomeAccountsOnly_data()
-{
-    addBackendColumn();
-    addBackendRows();
-}
-
 void TestDemoData::ledgerAgreesOnSomeAccountsOnly()
 {
-    QFETCH(QString, backend);
-    REQUIRE_BACKEND(backend);
+    QFETCH_GLOBAL(QString, backend);
     ScratchAccountSet scratch(backend);
     QSqlQuery accounts = SqlRun::exec(
         scratch.db(),
@@ -153,16 +145,9 @@ void TestDemoData::ledgerAgreesOnSomeAccountsOnly()
     QCOMPARE(count(scratch.db(), QStringLiteral("SELECT count(*) FROM t_Account WHERE FDC=-1")), 2);
 }
 
-void TestDemoData::generatesVolume_data()
-{
-    addBackendColumn();
-    addBackendRows();
-}
-
 void TestDemoData::generatesVolume()
 {
-    QFETCH(QString, backend);
-    REQUIRE_BACKEND(backend);
+    QFETCH_GLOBAL(QString, backend);
     ScratchAccountSet scratch(backend);
     const QSqlDatabase db = scratch.db();
     const SqlDialect &dialect = SqlDialect::of(db);
@@ -185,16 +170,9 @@ void TestDemoData::generatesVolume()
     QVERIFY(count(db, QStringLiteral("SELECT FItemID FROM t_Stock WHERE FNumber='88'")) > 3);
 }
 
-void TestDemoData::bulkInsertCrossesStatementBoundaries_data()
-{
-    addBackendColumn();
-    addBackendRows();
-}
-
 void TestDemoData::bulkInsertCrossesStatementBoundaries()
 {
-    QFETCH(QString, backend);
-    REQUIRE_BACKEND(backend);
+    QFETCH_GLOBAL(QString, backend);
     ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
     const QSqlDatabase db = scratch.db();
     // 1234 rows of four columns: several full statements and a shorter last one.

@@ -8,14 +8,12 @@ class TestDemoData : public QObject
     Q_OBJECT
 
 private slots:
-    void coversWhatTheControlsShow_data();
+    void initTestCase_data();
+    void init();
+
     void coversWhatTheControlsShow();
-    void linesKeepTheBalanceRule_data();
     void linesKeepTheBalanceRule();
-    void ledgerAgreesOnSomeAccountsOnly_data();
     void ledgerAgreesOnSomeAccountsOnly();
-    void generatesVolume_data();
     void generatesVolume();
-    void bulkInsertCrossesStatementBoundaries_data();
     void bulkInsertCrossesStatementBoundaries();
 };

@@ -62,16 +62,22 @@ qint64 endedProcessId()
 
 } // namespace
 
-void TestTaskMutex::registersAndCommits_data()
+// Every case runs on each backend; one that cannot be reached here is skipped.
+void TestTaskMutex::initTestCase_data()
 {
     addBackendColumn();
     addBackendRows();
 }
 
+void TestTaskMutex::init()
+{
+    QFETCH_GLOBAL(QString, backend);
+    REQUIRE_BACKEND(backend);
+}
+
 void TestTaskMutex::registersAndCommits()
 {
-    QFETCH(QString, backend);
-    REQUIRE_BACKEND(backend);
+    QFETCH_GLOBAL(QString, backend);
     ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
     const int handle = taskExec(scratch, EntryTask);
     QVERIFY(handle > 0);
@@ -102,16 +108,9 @@ void TestTaskMutex::registersAndCommits()
     QCOMPARE(tasks->Fields(QStringLiteral("FCommitted")).toInt(), 0);
 }
 
-void TestTaskMutex::refusesLiveTaskOfAnotherSession_data()
-{
-    addBackendColumn();
-    addBackendRows();
-}
-
 void TestTaskMutex::refusesLiveTaskOfAnotherSession()
 {
-    QFETCH(QString, backend);
-    REQUIRE_BACKEND(backend);
+    QFETCH_GLOBAL(QString, backend);
     ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
     // Another user on this computer, in a running process.
     insertTask(scratch, EntryTask, 17, QSysInfo::machineHostName(), AlwaysRunning);
@@ -131,16 +130,9 @@ void TestTaskMutex::refusesLiveTaskOfAnotherSession()
     QCOMPARE(taskCount(third), 1);
 }
 
-void TestTaskMutex::clearsTasksOfEndedProcesses_data()
-{
-    addBackendColumn();
-    addBackendRows();
-}
-
 void TestTaskMutex::clearsTasksOfEndedProcesses()
 {
-    QFETCH(QString, backend);
-    REQUIRE_BACKEND(backend);
+    QFETCH_GLOBAL(QString, backend);
     ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
     const qint64 ended = endedProcessId();
     QVERIFY(ended > 0);
@@ -158,7 +150,8 @@ void TestTaskMutex::clearsTasksOfEndedProcesses()
 
 void TestTaskMutex::commitsOnlyOwnHandles()
 {
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite, ScratchAccountSet::Content::Created);
+    QFETCH_GLOBAL(QString, backend);
+    ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
     QVERIFY(!call(QStringLiteral("CommitTask"), {scratch.propsString(), 4711}).toBool());
     insertTask(scratch, EntryTask, 17, QSysInfo::machineHostName(), AlwaysRunning);
     const int foreign = SqlRun::scalar(scratch.db(), QStringLiteral("SELECT FTaskHandle FROM t_TaskMutex")).toInt();
@@ -168,7 +161,8 @@ void TestTaskMutex::commitsOnlyOwnHandles()
 
 void TestTaskMutex::releaseFreesTheTask()
 {
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite, ScratchAccountSet::Content::Created);
+    QFETCH_GLOBAL(QString, backend);
+    ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
     insertTask(scratch, EntryTask, 17, QStringLiteral("OTHER-PC"), AlwaysRunning);
     const int foreign = SqlRun::scalar(scratch.db(), QStringLiteral("SELECT FTaskHandle FROM t_TaskMutex")).toInt();
     QCOMPARE(taskExec(scratch, EntryTask), 0);

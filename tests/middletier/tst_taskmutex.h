@@ -8,11 +8,11 @@ class TestTaskMutex : public QObject
     Q_OBJECT
 
 private slots:
-    void registersAndCommits_data();
+    void initTestCase_data();
+    void init();
+
     void registersAndCommits();
-    void refusesLiveTaskOfAnotherSession_data();
     void refusesLiveTaskOfAnotherSession();
-    void clearsTasksOfEndedProcesses_data();
     void clearsTasksOfEndedProcesses();
     void commitsOnlyOwnHandles();
     void releaseFreesTheTask();
