@@ -30,6 +30,39 @@ const QString AuxPropID = QStringLiteral("AuxPropID");
 const QString AuxClassID = QStringLiteral("AuxClassID");
 } // namespace Key
 
+// The fields the initial data and the item look-up name differently.
+struct ItemFieldNames
+{
+    const char *name;
+    const char *batchManaged;
+    const char *shelfLifeManaged;
+};
+
+ItemInfo readRecord(const Recordset &rs, int row, const ItemFieldNames &names)
+{
+    const auto v = [&rs, row](const char *field) { return rs.value(row, QLatin1String(field)); };
+    ItemInfo info;
+    info.id = v("FItemID").toInt();
+    info.shortNumber = v("FShortNumber").toString();
+    info.number = v("FNumber").toString();
+    info.name = v(names.name).toString();
+    info.model = v("FModel").toString();
+    info.batchManaged = v(names.batchManaged).toInt() != 0;
+    info.shelfLifeManaged = v(names.shelfLifeManaged).toInt() != 0;
+    info.track = v("FTrack").toInt();
+    info.planPrice = v("FPlanPrice").toDouble();
+    info.unitId = v("FUnitID").toInt();
+    info.qtyDecimal = v("FQtyDecimal").toInt();
+    info.priceDecimal = v("FPriceDecimal").toInt();
+    info.kfPeriod = v("FKFPeriod").toInt();
+    info.secUnitId = v("FSecUnitID").toInt();
+    info.secCoefficient = v("FSecCoefficient").toDouble();
+    info.auxPropId = v("FAuxPropID").toInt();
+    info.auxClassId = v("FAuxClassID").toInt();
+    info.auxClassName = v("FAuxClassName").toString();
+    return info;
+}
+
 } // namespace
 
 QString ItemInfo::title() const
@@ -56,51 +89,12 @@ bool ItemInfo::refusesRepeatedBatchOnEntry() const
 
 ItemInfo ItemInfo::fromRecord(const Recordset &rs, int row)
 {
-    const auto v = [&rs, row](const char *field) { return rs.value(row, QLatin1String(field)); };
-    ItemInfo info;
-    info.id = v("FItemID").toInt();
-    info.shortNumber = v("FShortNumber").toString();
-    info.number = v("FNumber").toString();
-    info.name = v("FItemName").toString();
-    info.model = v("FModel").toString();
-    info.batchManaged = v("FBM").toInt() != 0;
-    info.shelfLifeManaged = v("FKF").toInt() != 0;
-    info.track = v("FTrack").toInt();
-    info.planPrice = v("FPlanPrice").toDouble();
-    info.unitId = v("FUnitID").toInt();
-    info.qtyDecimal = v("FQtyDecimal").toInt();
-    info.priceDecimal = v("FPriceDecimal").toInt();
-    info.kfPeriod = v("FKFPeriod").toInt();
-    info.secUnitId = v("FSecUnitID").toInt();
-    info.secCoefficient = v("FSecCoefficient").toDouble();
-    info.auxPropId = v("FAuxPropID").toInt();
-    info.auxClassId = v("FAuxClassID").toInt();
-    info.auxClassName = v("FAuxClassName").toString();
-    return info;
+    return readRecord(rs, row, {"FItemName", "FBM", "FKF"});
 }
 
 ItemInfo ItemInfo::fromItemRecord(const Recordset &rs, int row)
 {
-    const auto v = [&rs, row](const char *field) { return rs.value(row, QLatin1String(field)); };
-    ItemInfo info;
-    info.id = v("FItemID").toInt();
-    info.shortNumber = v("FShortNumber").toString();
-    info.number = v("FNumber").toString();
-    info.name = v("FName").toString();
-    info.model = v("FModel").toString();
-    info.batchManaged = v("FBatchManager").toInt() != 0;
-    info.shelfLifeManaged = v("FISKFPeriod").toInt() != 0;
-    info.track = v("FTrack").toInt();
-    info.planPrice = v("FPlanPrice").toDouble();
-    info.unitId = v("FUnitID").toInt();
-    info.qtyDecimal = v("FQtyDecimal").toInt();
-    info.priceDecimal = v("FPriceDecimal").toInt();
-    info.kfPeriod = v("FKFPeriod").toInt();
-    info.secUnitId = v("FSecUnitID").toInt();
-    info.secCoefficient = v("FSecCoefficient").toDouble();
-    info.auxClassId = v("FAuxClassID").toInt();
-    info.auxClassName = v("FAuxClassName").toString();
-    return info;
+    return readRecord(rs, row, {"FName", "FBatchManager", "FISKFPeriod"});
 }
 
 ItemInfo ItemInfo::fromItemKey(const Dictionary &key)
