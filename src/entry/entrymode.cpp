@@ -9,32 +9,30 @@
 #include "sheet/entrysheet.h"
 #include "sheet/itementry.h"
 #include "sheet/navtree.h"
-#include "sheet/pagebar.h"
 #include "sheet/balancecheck.h"
+#include "sheet/pagebar.h"
+
 #include "frame/barlist.h"
 #include "frame/errorbox.h"
 #include "frame/librarystate.h"
 #include "frame/logincontext.h"
 #include "frame/messages.h"
-#include "frame/netcontrol.h"
-#include "frame/qllogmsg.h"
 #include "frame/settingsstore.h"
 #include "frame/sysparams.h"
+
 #include "frame/clients/initialdataclient.h"
-#include "frame/ctlerrors.h"
+
 #include "frame/automation/dictionary.h"
 #include "frame/automation/lumoerror.h"
 #include "frame/automation/recordset.h"
 #include "frame/automation/progids.h"
+
 #include "grid/cellmodel.h"
 #include "grid/spreadconsole.h"
 #include "grid/spreadgrid.h"
+
 #include <QComboBox>
 #include <QElapsedTimer>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QSplitter>
-#include <QVBoxLayout>
 
 namespace {
 
