@@ -19,6 +19,7 @@ Dictionary *fetch(const QSqlDatabase &db, const Request &request)
                                            request.useShortNumber, SqlDialect::of(db));
     qint64 recordCount = 0;
     QVector<QVariant> sums(ItemRowFields::figureFields().size(), 0.0);
+    QVariant qtyDecimal;
     if (sql) {
         const script::BoundSql totals = sql->totals();
         QSqlQuery query = SqlRun::exec(db, totals.sql, totals.values);
@@ -27,6 +28,10 @@ Dictionary *fetch(const QSqlDatabase &db, const Request &request)
             for (qsizetype f = 0; f < sums.size(); ++f)
                 sums[f] = PlaceTotals::rounded(query.value(int(f) + 1).toDouble());
         }
+        const script::BoundSql precision = sql->precision();
+        QSqlQuery decimals = SqlRun::exec(db, precision.sql, precision.values);
+        if (decimals.next())
+            qtyDecimal = decimals.value(0);
     }
 
     std::unique_ptr<Recordset> rows;
@@ -38,7 +43,7 @@ Dictionary *fetch(const QSqlDatabase &db, const Request &request)
         rows = std::make_unique<Recordset>(ItemRowFields::rowFields());
     }
     return PagedResult::make(std::move(rows), window.totalPages(recordCount), recordCount,
-                             PagedResult::totals(db, sums));
+                             PagedResult::totals(db, sums, qtyDecimal));
 }
 
 } // namespace InitialDataQuery

@@ -129,3 +129,11 @@ script::BoundSql InitialDataSql::totals() const
     sql.values = values + values;
     return sql;
 }
+
+script::BoundSql InitialDataSql::precision() const
+{
+    return {QStringLiteral("SELECT max(i.FQtyDecimal) FROM t_ICItem i WHERE i.FItemID IN "
+                           "(SELECT v.FItemID FROM ICInvInitial v WHERE %1)")
+                .arg(PlaceCondition),
+            placeValues()};
+}

@@ -42,6 +42,9 @@ public:
     script::BoundSql page(const PageWindow &window) const;
     // One row: the number of item rows, then the twelve sums (ItemRowFields::figureFields()).
     script::BoundSql totals() const;
+    // One value: the highest quantity precision of the items the place holds (null for none), so
+    // that the totals row hides none of the digits its rows show.
+    script::BoundSql precision() const;
 
 private:
     InitialDataSql(const PlacePeriod &place, const DialogFilter::Applied &applied, bool groupsFirst,

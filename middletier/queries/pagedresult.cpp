@@ -14,12 +14,12 @@ const QStringList &totalFields()
     return fields;
 }
 
-std::unique_ptr<Recordset> totals(const QSqlDatabase &db, const QVector<QVariant> &sums)
+std::unique_ptr<Recordset> totals(const QSqlDatabase &db, const QVector<QVariant> &sums, const QVariant &qtyDecimal)
 {
     auto record = std::make_unique<Recordset>(totalFields());
     if (!sums.isEmpty()) {
         QVector<QVariant> row = sums;
-        row.append(profileValue(db, QStringLiteral("QtyDecimal")));
+        row.append(qtyDecimal.isNull() ? profileValue(db, QStringLiteral("QtyDecimal")) : qtyDecimal);
         record->appendRow(std::move(row));
     }
     record->MoveFirst();

@@ -64,7 +64,8 @@ public:
     //   number first), then by auxiliary property;
     // - "TotalPages" (0 when no row is selected), "RecordCount" (item rows of all pages);
     // - "Totals": one record with the twelve FInit* sums over the whole place and filter, and
-    //   FQtyDecimal (the system parameter QtyDecimal).
+    //   FQtyDecimal (the highest quantity precision of the place's items; the system parameter
+    //   QtyDecimal when it holds none).
     // PageIndex counts from 1; a page after the last gives no rows. PageSize or PageIndex below
     // 1 raises DataError::BadPage.
     Q_INVOKABLE QObject *FetchYtdInitialData(const QString &PropsString, int StockID, int SPID, int Period, int PageSize,

@@ -267,9 +267,16 @@ void EntryMode::onCellButtonClick(int row, int col)
 {
     if (col != EntryCol::Batch || !m_sheet->isItemRow(row))
         return;
-    // The batch lines hang on the item row's saved key: a new or changed row is saved first.
-    if (m_ctl.barList()->isEnabled(EntryKeys::Save) && !SaveData())
-        return;
+    // Pending edits are saved only on the user's Yes; otherwise they stay pending. A new row
+    // has no saved key to hang lines on, so it opens the dialog only once saved.
+    if (m_ctl.barList()->isEnabled(EntryKeys::Save)) {
+        if (askYesNo(Msg::AskSave)) {
+            if (!SaveData())
+                return;
+        } else if (m_sheet->isNewRow(row)) {
+            return;
+        }
+    }
     const std::unique_ptr<frmBatchManager> dialog = batchDialogFor(row);
     if (!dialog)
         return;
@@ -277,7 +284,11 @@ void EntryMode::onCellButtonClick(int row, int col)
     if (!dialog->SavedBatMan())
         return;
     try {
-        loadRows(m_ctl.mlngPageIndex());
+        // Only the item's own row follows its new lines; a row whose lines were all deleted
+        // leaves the page, which is reloaded when nothing else is pending.
+        if (!m_sheet->refreshItemRow(row) && !m_ctl.barList()->isEnabled(EntryKeys::Save))
+            loadRows(m_ctl.mlngPageIndex());
+        showPages();
     } catch (const LumoError &error) {
         reportProcedureError(QStringLiteral("FillBatManDetailByRs"), error);
     }
@@ -322,8 +333,9 @@ bool EntryMode::SaveData()
             saved = true;
             setSaveEnabled(false);
             m_ctl.setMBlsIsNewData(false);
-            m_sheet->refreshTotals();
             m_ctl.RefreshToolbar();
+            m_sheet->refetchTotals();
+            showPages();
         }
     } catch (const LumoError &error) {
         reportProcedureError(QStringLiteral("SaveData"), error);

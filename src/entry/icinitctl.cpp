@@ -240,19 +240,20 @@ int ICInitCtl::stockListIndex() const
 
 void ICInitCtl::tvICInit_NodeClick(const QString &key)
 {
+    const int index = m_tree->nodeTag(key);
+    if (m_currentNode < 0)
+        m_currentNode = index;
+    // The save question (and the filter, once the dialog exists) come before the load is logged;
+    // a cancel leaves the tree on the node whose rows are still shown.
+    if (!confirmLeave()) {
+        m_tree->selectNode(currentNodeKey());
+        return;
+    }
     const qint32 logHandle = LogStart(NodeClickLog);
     try {
-        const int index = m_tree->nodeTag(key);
-        if (m_currentNode < 0)
-            m_currentNode = index;
         if (isEntryMode() && (index < 0 || index >= warehouseTable().size()))
             throw LumoError(CtlError::SubscriptOutOfRange, QStringLiteral("下标越界：%1").arg(index),
                             QStringLiteral("tvICInit_NodeClick"));
-        if (!confirmLeave()) {
-            m_tree->selectNode(currentNodeKey());
-            LogEnd(logHandle, 0);
-            return;
-        }
         m_currentNode = index;
         m_entry->loadRows(1);
         if (isEntryMode())

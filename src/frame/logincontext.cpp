@@ -26,6 +26,21 @@ const QString OnlyLanguage = QStringLiteral("chs");
 const QString SchemeFile = QStringLiteral("LumoBaseScheme.ini");
 const QString SchemeSection = QStringLiteral("Version");
 constexpr int OverflowError = 6;
+// Header and footer lines of a print object, and the font they get without one of its own.
+constexpr int PrintLines = 10;
+const QString DefaultPrintFont = QStringLiteral("宋体");
+constexpr int DefaultPrintCharset = 134;
+
+// A member's value; null when the object or the member is missing.
+QVariant memberValue(QObject *object, const QString &member, const QVariantList &args = {})
+{
+    return object && Dispatch::hasMember(object, member) ? Dispatch::call(object, member, args) : QVariant();
+}
+
+QObject *childObject(QObject *object, const QString &member, const QVariantList &args = {})
+{
+    return memberValue(object, member, args).value<QObject *>();
+}
 
 // Product names for a scheme file that names none.
 QString builtInProductName(qint32 appType)
@@ -175,6 +190,24 @@ std::unique_ptr<QObject> GetFontProps()
         return {};
     }
     return loader->GetZ9FontProps(language);
+}
+
+void SetPrintFonts(QObject *printObject)
+{
+    QObject *font = childObject(printObject, QStringLiteral("Font"));
+    const QString name = memberValue(font, QStringLiteral("Name")).toString();
+    const QVariant charset = memberValue(font, QStringLiteral("Charset"));
+    QObject *printer = childObject(printObject, QStringLiteral("Printer"));
+    for (int line = 0; line < PrintLines; ++line) {
+        for (const QString &part : {QStringLiteral("Header"), QStringLiteral("Footer")}) {
+            QObject *lineFont = childObject(childObject(printer, part, {line}), QStringLiteral("Font"));
+            if (!lineFont)
+                continue;
+            Dispatch::setProperty(lineFont, QStringLiteral("Name"), name.isEmpty() ? DefaultPrintFont : name);
+            Dispatch::setProperty(lineFont, QStringLiteral("Charset"),
+                                  charset.isNull() ? QVariant(DefaultPrintCharset) : charset);
+        }
+    }
 }
 
 QString GetInstallPath()

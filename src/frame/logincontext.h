@@ -76,6 +76,10 @@ LUMOICINITIAL_EXPORT QString ResString(const QString &text);
 LUMOICINITIAL_EXPORT void LoadFormStrings(QObject *form, std::unique_ptr<QObject> &options, const QString &resourceSet);
 LUMOICINITIAL_EXPORT void SetFormFont(QObject *controls);
 LUMOICINITIAL_EXPORT std::unique_ptr<QObject> GetFontProps();
+// Gives the header and footer lines 0 to 9 of the print object's printer (members Header(i) and
+// Footer(i), each with a Font) the print object's own font name and character set, "宋体" and
+// 134 where it has none.
+LUMOICINITIAL_EXPORT void SetPrintFonts(QObject *printObject);
 
 LUMOICINITIAL_EXPORT QString GetInstallPath();
 LUMOICINITIAL_EXPORT QString GetCommonDir();

@@ -92,21 +92,28 @@ void EntrySheet::clear()
     m_recordCount = 0;
 }
 
-void EntrySheet::loadPage(int pageIndex, int pageSize)
+std::unique_ptr<Recordset> EntrySheet::fetchPage(int pageIndex)
 {
-    m_useShortNumber = SysParams::toBool(UseShortNumber);
-    m_colors = RowColors::fromSettings();
     const std::unique_ptr<Dictionary> page = InitialDataClient(ProgId::MICInitialData).FetchYtdInitialData(
-        m_place.stockId, m_place.spId, SysParams::toInt(SysParam::CurrentPeriod), pageSize, qMax(1, pageIndex),
+        m_place.stockId, m_place.spId, SysParams::toInt(SysParam::CurrentPeriod), m_pageSize, qMax(1, pageIndex),
         filterText(FilterKey::Filter), filterText(FilterKey::ActualFilter), filterText(FilterKey::VirtualFilter),
         filterText(FilterKey::Sort), m_useShortNumber);
-    const std::unique_ptr<Recordset> rows = takeObject<Recordset>(page->Item(QStringLiteral("Rows")));
+    std::unique_ptr<Recordset> rows = takeObject<Recordset>(page->Item(QStringLiteral("Rows")));
     m_totals = takeObject<Recordset>(page->Item(QStringLiteral("Totals")));
     if (!rows)
         throw LumoError(CtlError::NoInitialDataRows, QStringLiteral("数据服务没有返回初始数据行"),
                         QStringLiteral("FetchYtdInitialData"));
     m_totalPages = page->Item(QStringLiteral("TotalPages")).toInt();
     m_recordCount = page->Item(QStringLiteral("RecordCount")).toInt();
+    return rows;
+}
+
+void EntrySheet::loadPage(int pageIndex, int pageSize)
+{
+    m_useShortNumber = SysParams::toBool(UseShortNumber);
+    m_colors = RowColors::fromSettings();
+    m_pageSize = pageSize;
+    const std::unique_ptr<Recordset> rows = fetchPage(pageIndex);
     m_pageIndex = m_totalPages == 0 ? 0 : qBound(1, pageIndex, m_totalPages);
 
     BulkUpdate bulk(cells());
@@ -243,6 +250,37 @@ void EntrySheet::removeTotalsRow()
     }
 }
 
+void EntrySheet::refetchTotals()
+{
+    // Several pages are summed by the service; after a save its sums are fetched again.
+    if (m_totalPages > 1 && m_pageIndex == m_totalPages)
+        fetchPage(m_pageIndex);
+    refreshTotals();
+}
+
+bool EntrySheet::refreshItemRow(int row)
+{
+    if (!isItemRow(row) || isNewRow(row) || m_pageIndex == 0)
+        return false;
+    const QString key = cells().text(row, FieldCompose);
+    const bool expanded = isExpanded(row);
+    if (expanded)
+        toggleBatchLines(row);
+    const std::unique_ptr<Recordset> rows = fetchPage(m_pageIndex);
+    bool found = false;
+    for (int record = 0; record < rows->RecordCount() && !found; ++record) {
+        if (rows->value(record, QStringLiteral("FFieldCompose")).toString() != key)
+            continue;
+        ItemRows::writeItemRow(cells(), row, *rows, record, m_useShortNumber, qtyDecimal(), m_colors);
+        setItemInfo(ItemInfo::fromRecord(*rows, record));
+        found = true;
+    }
+    if (found && expanded)
+        toggleBatchLines(row);
+    refreshTotals();
+    return found;
+}
+
 void EntrySheet::refreshTotals()
 {
     removeTotalsRow();
@@ -250,6 +288,9 @@ void EntrySheet::refreshTotals()
         return;
     double sums[EntryCol::Count] = {};
     const auto &groups = ItemRows::groups();
+    // The service gives the precision with the sums: the records' own, not the account set's.
+    const bool hasTotals = m_totals && m_totals->RecordCount() > 0;
+    const QVariant totalsDecimals = hasTotals ? m_totals->value(0, QStringLiteral("FQtyDecimal")) : QVariant();
     if (m_totalPages <= 1) {
         for (int row = 1; row < m_kinds.size(); ++row) {
             if (m_kinds.at(row) != RowKind::Item && m_kinds.at(row) != RowKind::NewItem)
@@ -259,7 +300,7 @@ void EntrySheet::refreshTotals()
                     sums[col] += cells().number(row, col);
             }
         }
-    } else if (m_totals && m_totals->RecordCount() > 0) {
+    } else if (hasTotals) {
         static const char *const fields[4][3] = {{"FInitYtdBegQty", "FInitYtdBegBal", "FInitYtdBegDiff"},
                                                  {"FInitYtdReceive", "FInitYtdDebit", "FInitYtdReceiveDiff"},
                                                  {"FInitYtdSend", "FInitYtdCredit", "FInitYtdSendDiff"},
@@ -279,4 +320,6 @@ void EntrySheet::refreshTotals()
             cells().setValue(row, col, sums[col]);
     }
     cells().setRowStyle(row, CellStyle().setBackColor(m_colors.sum));
+    if (!totalsDecimals.isNull())
+        ItemRows::setQuantityDecimals(cells(), row, totalsDecimals.toInt(), qtyDecimal());
 }

@@ -80,6 +80,11 @@ public:
     // The grand-total row: on the last page only, summed from the grid for one page, from the
     // whole place's totals for several.
     void refreshTotals();
+    // The same after the place's rows were written: the whole place's totals are fetched again.
+    void refetchTotals();
+    // Rewrites one loaded item row, and the totals, from the database (after the batch dialog
+    // wrote its lines), leaving every other row as it is; false when the row is not found.
+    bool refreshItemRow(int row);
     // The row of the grand total; 0 when none is shown.
     int totalsRow() const;
 
@@ -91,6 +96,8 @@ public:
 
 private:
     int qtyDecimal() const;
+    // Fetches page `pageIndex` of the place: answers its rows, keeps its totals and page counts.
+    std::unique_ptr<Recordset> fetchPage(int pageIndex);
     void removeTotalsRow();
 
     SpreadGrid &m_grid;
@@ -98,6 +105,7 @@ private:
     EntryPlace m_place;
     int m_amountScale = 2;
     int m_pageIndex = 0;
+    int m_pageSize = 1;
     int m_totalPages = 0;
     int m_recordCount = 0;
     bool m_useShortNumber = false;

@@ -58,14 +58,6 @@ void setFigures(CellModel &cells, int row, const Recordset &rs, int record, cons
     }
 }
 
-void setQuantityDecimals(CellModel &cells, int row, int qtyDecimal, int defaultQtyDecimal)
-{
-    if (qtyDecimal == defaultQtyDecimal)
-        return;
-    for (int col : quantityColumns)
-        cells.setCellStyle(row, col, CellStyle().setDecimals(qtyDecimal));
-}
-
 } // namespace
 
 RowColors RowColors::fromSettings()
@@ -152,6 +144,14 @@ void writeItemRow(CellModel &cells, int row, const Recordset &items, int record,
     cells.setValue(row, KFPeriod, info.shelfLifeManaged ? QVariant(info.kfPeriod) : QVariant());
     cells.setText(row, FieldCompose, v("FFieldCompose").toString());
     cells.setText(row, Flag, QString());
+}
+
+void setQuantityDecimals(CellModel &cells, int row, int qtyDecimal, int defaultQtyDecimal)
+{
+    if (qtyDecimal == defaultQtyDecimal)
+        return;
+    for (int col : quantityColumns)
+        cells.setCellStyle(row, col, CellStyle().setDecimals(qtyDecimal));
 }
 
 bool isFigureColumn(int col)

@@ -53,6 +53,9 @@ struct ItemTexts
 LUMOICINITIAL_EXPORT void writeItem(CellModel &cells, int row, const ItemInfo &info, const ItemTexts &texts,
                                     bool useShortNumber, int defaultQtyDecimal, const RowColors &colors);
 
+// The quantity cells of a row with `qtyDecimal` places where the column has another default.
+LUMOICINITIAL_EXPORT void setQuantityDecimals(CellModel &cells, int row, int qtyDecimal, int defaultQtyDecimal);
+
 // Replaces the data rows with one item row per record and rebuilds the per-item information.
 LUMOICINITIAL_EXPORT void fillItemRows(CellModel &cells, const Recordset &items, bool useShortNumber,
                                        int defaultQtyDecimal, const RowColors &colors, QHash<int, ItemInfo> &infos);
