@@ -7,6 +7,8 @@
 #include "scratchaccountset.h"
 #include "servicecalls.h"
 
+#include "batch/batchlayout.h"
+#include "batch/frmbatchmanager.h"
 #include "sheet/entrygridlayout.h"
 #include "sheet/entrysheet.h"
 #include "entry/entrycommands.h"
@@ -33,6 +35,7 @@
 #include <QSqlRecord>
 #include <QStandardPaths>
 #include <QTest>
+#include <QTimer>
 
 namespace {
 
@@ -65,6 +68,28 @@ public:
     }
 };
 
+// The trace log and the questions, in the order they happen.
+QStringList events;
+
+class RecordingLog : public QObject
+{
+    Q_OBJECT
+public:
+    Q_INVOKABLE bool IsEnabled() { return true; }
+    Q_INVOKABLE int LogStart(const QString &) { events.append(QStringLiteral("log start")); return 1; }
+    Q_INVOKABLE void LogEnd(int, int) { events.append(QStringLiteral("log end")); }
+};
+
+class RecordingPrompter : public ScriptedPrompter
+{
+public:
+    Answer ask(const Message &message) override
+    {
+        events.append(message.text);
+        return ScriptedPrompter::ask(message);
+    }
+};
+
 using Edit = std::pair<int, double>;
 using Edits = QList<Edit>;
 
@@ -77,7 +102,7 @@ class TestEntryControl : public QObject
     Q_OBJECT
 
 private:
-    ScriptedPrompter m_prompter;
+    RecordingPrompter m_prompter;
     std::unique_ptr<ScratchAccountSet> m_set;
     std::unique_ptr<ICInitCtl> m_control;
 
@@ -197,6 +222,7 @@ private slots:
         QStandardPaths::setTestModeEnabled(true);
         Prompter::install(&m_prompter);
         ComponentRegistry::instance().registerClass(ProgId::MICInitialData, [] { return new CountingInitialData; });
+        ComponentRegistry::instance().registerClass(ProgId::LogMsgLog, [] { return new RecordingLog; });
     }
 
     // Every case runs on each backend; one that cannot be reached here is skipped.
@@ -297,6 +323,18 @@ private slots:
         m_control->PageCommand(QStringLiteral("LASTPAGE"));
         QCOMPARE(m_control->pageLabel(), QStringLiteral("3/3"));
         QCOMPARE(codes(), QStringList({"3.02.002", "3.02.002"}));
+    }
+
+    // The save question comes before the load is logged; a No drops the edit and loads the node.
+    void nodeClickAsksBeforeItLogs()
+    {
+        clickNode(RawMaterials, 2);
+        QVERIFY(grid().editCell(1, EntryCol::BegQty, 3100.0));
+        events.clear();
+        m_prompter.queueAnswer(Prompter::Answer::No);
+        clickNode(SemiFinished);
+        QCOMPARE(events, QStringList({AskToSave, QStringLiteral("log start"), QStringLiteral("log end")}));
+        QCOMPARE(codes(), QStringList({"2.01.001", "2.01.002"}));
     }
 
     void balanceRules_data()
@@ -506,6 +544,56 @@ private slots:
         QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("FStockID=5 AND FSPID=3")), 3);
         QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("NOT (FStockID=5 AND FSPID=3)")), others);
         QCOMPARE(codes(), QStringList({"3.01.001", "3.02.001", "3.02.001"}));
+    }
+
+    void batchCellKeepsOtherEditsPendingUnlessTold_data()
+    {
+        QTest::addColumn<bool>("save");
+        QTest::newRow("no") << false;
+        QTest::newRow("yes") << true;
+    }
+
+    // The batch cell opens the dialog; another row's pending edit is saved only on a Yes, and the
+    // item's own row shows what the dialog wrote while the other row keeps what was typed.
+    void batchCellKeepsOtherEditsPendingUnlessTold()
+    {
+        QFETCH(bool, save);
+        clickNode(RawMaterials, 2);
+        const int steel = rowOf(RoundSteelCode);
+        const int batchRow = 3;
+        QCOMPARE(grid().TextMatrix(batchRow, EntryCol::Mark), QStringLiteral("+"));
+        QVERIFY(grid().editCell(steel, EntryCol::BegQty, 3100.0));
+        const QString steelKey = grid().TextMatrix(steel, EntryCol::FieldCompose);
+        const QString batchKey = grid().TextMatrix(batchRow, EntryCol::FieldCompose);
+        m_prompter.queueAnswer(save ? Prompter::Answer::Yes : Prompter::Answer::No);
+        bool dialogSaved = false;
+        QTimer::singleShot(0, this, [&dialogSaved] {
+            auto *dialog = qobject_cast<frmBatchManager *>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            const double amount = dialog->grid()->number(1, BatCol::BegBal);
+            dialogSaved = dialog->grid()->editCell(1, BatCol::BegBal, amount + 1)
+                          && dialog->pressButton(QStringLiteral("Save")) && dialog->SavedBatMan();
+            dialog->reject();
+        });
+        const double storedBatchBal = scalar(QStringLiteral("SELECT sum(FBegBal) FROM ICInvInitial "
+                                                             "WHERE FFieldCompose=?"), {batchKey}).toDouble();
+        emit grid().cellButtonClick(batchRow, EntryCol::Batch);
+        QVERIFY(dialogSaved);
+        QVERIFY(!m_prompter.messages().isEmpty());
+        QCOMPARE(m_prompter.messages().first().text, AskToSave);
+        QCOMPARE(grid().number(batchRow, EntryCol::BegBal), storedBatchBal + 1);
+        QCOMPARE(grid().TextMatrix(batchRow, EntryCol::Flag), QString());
+        QCOMPARE(grid().number(steel, EntryCol::BegQty), 3100.0);
+        QCOMPARE(grid().TextMatrix(steel, EntryCol::Flag), save ? QString() : QStringLiteral("1"));
+        const auto storedSteel = [&] {
+            return scalar(QStringLiteral("SELECT FAuxBegQty FROM ICInvInitial WHERE FFieldCompose=?"), {steelKey})
+                .toDouble();
+        };
+        QCOMPARE(storedSteel(), save ? 3100.0 : 3000.0);
+        // The pending edit is still there to save.
+        QVERIFY(m_control->SaveData());
+        QCOMPARE(storedSteel(), 3100.0);
     }
 
     void savingWithoutChangesSendsNothing()

@@ -16,6 +16,7 @@
 
 #include "frame/automation/dictionary.h"
 
+#include "grid/spreadconsole.h"
 #include "grid/spreadgrid.h"
 
 #include <QLocale>
@@ -97,8 +98,9 @@ void TestTotalsOnAccountSet::onlyTheLastPageSumsThePlace()
     REQUIRE_BACKEND(backend);
     ScratchAccountSet scratch(backend);
     addTwoItemRows(scratch);
-    // Quantities with three places, amounts with the home currency's two.
-    setParameter(scratch, QStringLiteral("QtyDecimal"), 3);
+    // One item counts in thousandths while the account set keeps two places: the grand total
+    // shows the records' three, amounts the home currency's two.
+    SqlRun::exec(scratch.db(), QStringLiteral("UPDATE t_ICItem SET FQtyDecimal=3 WHERE FItemID=?"), {CopperWire});
     ICInitCtl control;
     QVERIFY(show(control, scratch));
     control.setMlngPerPageSize(2);
@@ -131,6 +133,18 @@ void TestTotalsOnAccountSet::onlyTheLastPageSumsThePlace()
     }
     // The secondary quantities are not summed.
     QCOMPARE(grid.TextMatrix(row, EntryCol::BegAuxQty), QString());
+
+    // A row deleted and saved on the last page leaves the place's sums, at once.
+    SpreadConsole::moveToCell(*control.grid(), 1, EntryCol::Number);
+    QVERIFY(control.DeleteCurrentRow());
+    QVERIFY(control.SaveData());
+    const QVector<double> after = sumsOfPlace(scratch, ShelfBId);
+    QVERIFY(after != sums);
+    QCOMPARE(control.pageLabel(), QStringLiteral("5/5"));
+    const int totalsAfter = grid.rows() - 1;
+    QCOMPARE(totalsRows(grid), QList<int>{totalsAfter});
+    for (int i = 0; i < columns.size(); ++i)
+        QCOMPARE(grid.number(totalsAfter, columns.at(i)), after.at(i));
 }
 
 void TestTotalsOnAccountSet::onePageSumsTheGridWithEmptyCellsAsZero_data()

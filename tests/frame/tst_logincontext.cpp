@@ -12,6 +12,43 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+// A print object as the print control offers it: its own font, and a printer with header and
+// footer lines that each have a font.
+class PrintFont : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString Name MEMBER name)
+    Q_PROPERTY(int Charset MEMBER charset)
+public:
+    QString name;
+    int charset = 0;
+};
+
+class PrintLine : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QObject *Font READ font)
+public:
+    QObject *font() { return &m_font; }
+    PrintFont m_font;
+};
+
+class PrintObject : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QObject *Font READ font)
+    Q_PROPERTY(QObject *Printer READ printer)
+public:
+    QObject *font() { return hasFont ? &m_font : nullptr; }
+    QObject *printer() { return this; }
+    Q_INVOKABLE QObject *Header(int line) { return &headers[line]; }
+    Q_INVOKABLE QObject *Footer(int line) { return &footers[line]; }
+    bool hasFont = true;
+    PrintFont m_font;
+    PrintLine headers[10];
+    PrintLine footers[10];
+};
+
 class TestLoginContext : public QObject
 {
     Q_OBJECT
@@ -116,6 +153,33 @@ private slots:
         QCOMPARE(ReadIniString(file, QStringLiteral("Version"), QStringLiteral("Missing"), QStringLiteral("d")), QStringLiteral("d"));
         QCOMPARE(ReadIniString(dir.filePath(QStringLiteral("none.ini")), QStringLiteral("V"), QStringLiteral("K"), QStringLiteral("0")),
                  QStringLiteral("0"));
+    }
+
+    void printLinesTakeThePrintObjectsFont_data()
+    {
+        QTest::addColumn<bool>("hasFont");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("charset");
+        QTest::newRow("own font") << true << QStringLiteral("黑体") << 1;
+        QTest::newRow("no font") << false << QStringLiteral("宋体") << 134;
+    }
+
+    void printLinesTakeThePrintObjectsFont()
+    {
+        QFETCH(bool, hasFont);
+        QFETCH(QString, name);
+        QFETCH(int, charset);
+        PrintObject print;
+        print.hasFont = hasFont;
+        print.m_font.name = QStringLiteral("黑体");
+        print.m_font.charset = 1;
+        SetPrintFonts(&print);
+        for (const PrintLine *lines : {print.headers, print.footers}) {
+            for (int line = 0; line < 10; ++line) {
+                QCOMPARE(lines[line].m_font.name, name);
+                QCOMPARE(lines[line].m_font.charset, charset);
+            }
+        }
     }
 
     void installPathComesFromTheEnvironment()
