@@ -1,7 +1,6 @@
 // The script module's suites in one executable.
 #include "suiterunner.h"
 #include "tst_filterparser.h"
-#include "tst_readstatement.h"
 #include "tst_scriptexecutor.h"
 #include "tst_scriptparser.h"
 
@@ -10,5 +9,5 @@
 int main(int argc, char *argv[])
 {
     QCoreApplication app(argc, argv);
-    return runSuites<ScriptParserTest, ReadStatementTest, ScriptExecutorTest, FilterParserTest>(argc, argv);
+    return runSuites<ScriptParserTest, ScriptExecutorTest, FilterParserTest>(argc, argv);
 }

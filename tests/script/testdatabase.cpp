@@ -6,43 +6,31 @@
 #include <QSqlRecord>
 #include <QUrl>
 
-namespace {
-
-int connectionCounter = 0;
-
-} // namespace
-
-QString TestDatabase::postgresUri()
-{
-    return qEnvironmentVariable("LUMO_TEST_PG");
-}
-
 TestDatabase::TestDatabase(const QString &backend)
 {
-    ++connectionCounter;
-    m_connection = QStringLiteral("script-test-%1").arg(connectionCounter);
-    if (backend == QLatin1String(postgresql)) {
+    static int counter = 0;
+    m_connection = QStringLiteral("script-test-%1").arg(++counter);
+    const bool postgres = backend == QLatin1String(postgresql);
+    QSqlDatabase db = QSqlDatabase::addDatabase(postgres ? QStringLiteral("QPSQL") : QStringLiteral("QSQLITE"),
+                                                m_connection);
+    if (postgres) {
         const QUrl uri(postgresUri());
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), m_connection);
         db.setHostName(uri.host());
         db.setPort(uri.port(5432));
         db.setUserName(uri.userName());
         db.setPassword(uri.password());
         db.setDatabaseName(uri.path().mid(1));
-        if (!db.open()) {
-            m_error = db.lastError().text();
-            return;
-        }
-        m_schema = QStringLiteral("lumo_script_%1_%2").arg(QCoreApplication::applicationPid()).arg(connectionCounter);
-        exec({QStringLiteral("CREATE SCHEMA %1").arg(m_schema), QStringLiteral("SET search_path TO %1").arg(m_schema)});
-        return;
+    } else {
+        db.setDatabaseName(m_dir.filePath(QStringLiteral("account.db")));
     }
-    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connection);
-    db.setDatabaseName(m_dir.filePath(QStringLiteral("account.db")));
-    if (!db.open())
+    if (!db.open()) {
         m_error = db.lastError().text();
-    else
+    } else if (postgres) {
+        m_schema = QStringLiteral("lumo_script_%1_%2").arg(QCoreApplication::applicationPid()).arg(counter);
+        exec({QStringLiteral("CREATE SCHEMA %1").arg(m_schema), QStringLiteral("SET search_path TO %1").arg(m_schema)});
+    } else {
         exec({QStringLiteral("PRAGMA synchronous = OFF")}); // a throwaway file need not survive a crash
+    }
 }
 
 TestDatabase::~TestDatabase()
@@ -54,11 +42,6 @@ TestDatabase::~TestDatabase()
         database.close();
     }
     QSqlDatabase::removeDatabase(m_connection);
-}
-
-QSqlDatabase TestDatabase::db() const
-{
-    return QSqlDatabase::database(m_connection, false);
 }
 
 bool TestDatabase::exec(const QStringList &statements)
@@ -75,16 +58,14 @@ bool TestDatabase::exec(const QStringList &statements)
 
 QStringList TestDatabase::rows(const QString &select) const
 {
-    QStringList result;
     QSqlQuery query(db());
     if (!query.exec(select))
         return {QLatin1String("query failed: ") + query.lastError().text()};
+    QStringList result;
     while (query.next()) {
         QStringList fields;
-        for (int i = 0; i < query.record().count(); ++i) {
-            const QVariant value = query.value(i);
-            fields.append(value.isNull() ? QStringLiteral("NULL") : value.toString());
-        }
+        for (int i = 0; i < query.record().count(); ++i)
+            fields.append(query.isNull(i) ? QStringLiteral("NULL") : query.value(i).toString());
         result.append(fields.join(QLatin1String(", ")));
     }
     return result;

@@ -16,7 +16,7 @@ public:
     static constexpr const char *postgresql = "postgresql";
 
     // The server for the PostgreSQL runs; empty when the environment names none.
-    static QString postgresUri();
+    static QString postgresUri() { return qEnvironmentVariable("LUMO_TEST_PG"); }
 
     explicit TestDatabase(const QString &backend);
     ~TestDatabase();
@@ -25,7 +25,7 @@ public:
 
     bool isOpen() const { return m_error.isEmpty(); }
     QString error() const { return m_error; }
-    QSqlDatabase db() const;
+    QSqlDatabase db() const { return QSqlDatabase::database(m_connection, false); }
     const SqlDialect &dialect() const { return SqlDialect::of(db()); }
 
     // Runs each statement; false (with error()) at the first that fails.

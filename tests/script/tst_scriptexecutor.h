@@ -20,14 +20,9 @@ private slots:
 
     void writesWhatTheScriptSays_data();
     void writesWhatTheScriptSays();
-    void failingStatementRollsEverythingBack_data();
-    void failingStatementRollsEverythingBack();
-    void refusedScriptWritesNothing_data();
-    void refusedScriptWritesNothing();
-    void blankScriptIsNoOp_data();
-    void blankScriptIsNoOp();
+    void failedScriptWritesNothing_data();
+    void failedScriptWritesNothing();
     void sameShapeIsPreparedOnce();
-    void readStatementsRunOnBackend();
 
 private:
     QStringList snapshot() const;

@@ -2,8 +2,8 @@
 
 #include <QObject>
 
-// Parsing scripts without a database: the bound SQL and typed values of each statement shape,
-// statement numbering, and the reasons a statement is refused.
+// Parsing scripts and read statements without a database: the bound SQL and typed values of each
+// statement shape, statement numbering, and the reasons a statement is refused.
 class ScriptParserTest : public QObject
 {
     Q_OBJECT
@@ -14,5 +14,6 @@ private slots:
     void statementsAreNumberedAndQuoted();
     void refusals_data();
     void refusals();
-    void blankScriptHasNoStatements();
+    void readStatementRefusals_data();
+    void readStatementRefusals();
 };
