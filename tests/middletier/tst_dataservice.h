@@ -13,7 +13,6 @@ private slots:
 
     void stocksComeParentsFirst_data();
     void stocksComeParentsFirst();
-    void stockFieldsKeepTheirNames();
     void typeListsAreParsedOrRefused_data();
     void typeListsAreParsedOrRefused();
     void systemParametersAreTyped_data();
@@ -25,6 +24,5 @@ private slots:
     void executeReadsOnlyWhatTheControlsSend();
     void accessFollowsTheLoggedInUser_data();
     void accessFollowsTheLoggedInUser();
-    void forbiddenUserHasNoRights();
     void currencyCarriesItsScale();
 };

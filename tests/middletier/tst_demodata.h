@@ -13,7 +13,5 @@ private slots:
 
     void coversWhatTheControlsShow();
     void linesKeepTheBalanceRule();
-    void ledgerAgreesOnSomeAccountsOnly();
     void generatesVolume();
-    void bulkInsertCrossesStatementBoundaries();
 };

@@ -18,6 +18,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 using namespace ServiceCalls;
 
 namespace {
@@ -35,10 +37,9 @@ constexpr int Kilogram = 4;
 constexpr int Tonne = 6;
 constexpr int RedS = 1;
 constexpr double PlaceQty = 36; // 5 + 1 + 8 + 2 + 3 + 4 + 6 + 7
-constexpr double PlaceBal = 360;
 
 const QString Data = ProgId::MICInitialData;
-const QString Fetch = QStringLiteral("FetchYtdInitialData");
+const QString Fetch = u"FetchYtdInitialData"_s;
 
 struct Line
 {
@@ -54,23 +55,23 @@ struct Line
 
 void addLine(const QSqlDatabase &db, const Line &line)
 {
-    const QString compose = QStringLiteral("%1|%2|%3|%4|%5").arg(Stock).arg(line.spId).arg(line.period).arg(line.item).arg(line.aux);
+    const QString compose = u"%1|%2|%3|%4|%5"_s.arg(Stock).arg(line.spId).arg(line.period).arg(line.item).arg(line.aux);
     // Year start = opening, nothing received or issued: the balance rule holds.
     SqlRun::exec(db,
-                 QStringLiteral("INSERT INTO ICInvInitial (FBrNo, FPeriod, FStockID, FSPID, FItemID, FUnitID, FBatchNo, "
+                 u"INSERT INTO ICInvInitial (FBrNo, FPeriod, FStockID, FSPID, FItemID, FUnitID, FBatchNo, "
                                 "FAuxPropID, FYtdAuxBegQty, FYtdBegBal, FAuxBegQty, FBegBal, FStockInDate, FKFDate, "
-                                "FFieldCompose, FBillInterID) VALUES ('0',?,?,?,?,?,?,?,?,?,?,?,'2024-04-01','',?,?)"),
-                 {line.period, Stock, line.spId, line.item, line.unit, line.batch.isNull() ? QStringLiteral("") : line.batch, line.aux, line.qty, line.qty * 10,
+                                "FFieldCompose, FBillInterID) VALUES ('0',?,?,?,?,?,?,?,?,?,?,?,'2024-04-01','',?,?)"_s,
+                 {line.period, Stock, line.spId, line.item, line.unit, line.batch.isNull() ? u""_s : line.batch, line.aux, line.qty, line.qty * 10,
                   line.qty, line.qty * 10, compose, line.bill});
 }
 
 // Makes the warehouse in a demo account set.
 void seedPlace(const QSqlDatabase &db)
 {
-    SqlRun::exec(db, QStringLiteral("INSERT INTO t_Stock (FItemID, FNumber, FName) VALUES (?, '70', '测试仓')"), {Stock});
+    SqlRun::exec(db, u"INSERT INTO t_Stock (FItemID, FNumber, FName) VALUES (?, '70', '测试仓')"_s, {Stock});
     const QList<Line> lines{
-        {SteelPlate, Kilogram, 0, QStringLiteral("B1"), 2, 2},
-        {SteelPlate, Kilogram, 0, QStringLiteral("B2"), 3, 1},
+        {SteelPlate, Kilogram, 0, u"B1"_s, 2, 2},
+        {SteelPlate, Kilogram, 0, u"B2"_s, 3, 1},
         {RoundSteel, Kilogram, 0, {}, 1},
         {RoundSteel, Kilogram, RedS, {}, 8},
         {3, 7, 0, {}, 2},
@@ -90,9 +91,15 @@ QStringList rowKeys(Recordset &rows)
 {
     QStringList keys;
     for (rows.MoveFirst(); !rows.atEnd(); rows.MoveNext())
-        keys.append(QStringLiteral("%1/%2").arg(rows.Fields(QStringLiteral("FItemID")).toInt())
-                        .arg(rows.Fields(QStringLiteral("FAuxPropID")).toInt()));
+        keys.append(u"%1/%2"_s.arg(rows.Fields(u"FItemID"_s).toInt())
+                        .arg(rows.Fields(u"FAuxPropID"_s).toInt()));
     return keys;
+}
+
+// "1/0 2/1": item rows as rowKeys gives them.
+QStringList keys(const char *text)
+{
+    return QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts);
 }
 
 struct Page
@@ -101,8 +108,8 @@ struct Page
     std::unique_ptr<Recordset> rows;
     std::unique_ptr<Recordset> totals;
 
-    int totalPages() const { return result->Item(QStringLiteral("TotalPages")).toInt(); }
-    int recordCount() const { return result->Item(QStringLiteral("RecordCount")).toInt(); }
+    int totalPages() const { return result->Item(u"TotalPages"_s).toInt(); }
+    int recordCount() const { return result->Item(u"RecordCount"_s).toInt(); }
     double total(const char *field) const { return totals->Fields(QLatin1String(field)).toDouble(); }
 };
 
@@ -114,8 +121,8 @@ Page fetchPage(const ScratchAccountSet &scratch, int pageSize, int pageIndex, co
                              {scratch.propsString(), Stock, 0, Period, pageSize, pageIndex, filters.value(0),
                               filters.value(1), filters.value(2), sort, false});
     if (page.result) {
-        page.rows = takeObject<Recordset>(page.result->Item(QStringLiteral("Rows")));
-        page.totals = takeObject<Recordset>(page.result->Item(QStringLiteral("Totals")));
+        page.rows = takeObject<Recordset>(page.result->Item(u"Rows"_s));
+        page.totals = takeObject<Recordset>(page.result->Item(u"Totals"_s));
     }
     return page;
 }
@@ -137,9 +144,7 @@ void TestInitialData::pagesCoverThePlaceWithTotals()
 
     // Eight item rows in pages of three: 3/3, 3/3 and 2; the totals are the whole place's on
     // every page, so the grid's totals row on the last page sums all pages.
-    const QStringList expected{QStringLiteral("1/0"), QStringLiteral("2/0"), QStringLiteral("2/1"),
-                               QStringLiteral("3/0"), QStringLiteral("4/0"), QStringLiteral("5/0"),
-                               QStringLiteral("7/0"), QStringLiteral("8/0")};
+    const QStringList expected = keys("1/0 2/0 2/1 3/0 4/0 5/0 7/0 8/0");
     QStringList seen;
     for (int index = 1; index <= 4; ++index) {
         const Page page = fetchPage(scratch, 3, index);
@@ -149,10 +154,7 @@ void TestInitialData::pagesCoverThePlaceWithTotals()
         QCOMPARE(page.rows->RecordCount(), index < 3 ? 3 : index == 3 ? 2 : 0);
         QCOMPARE(page.totals->RecordCount(), 1);
         QCOMPARE(page.total("FInitBegQty"), PlaceQty);
-        QCOMPARE(page.total("FInitBegBal"), PlaceBal);
-        QCOMPARE(page.total("FInitYtdBegQty"), PlaceQty);
-        QCOMPARE(page.total("FInitYtdReceive"), 0.0);
-        QCOMPARE(page.totals->Fields(QStringLiteral("FQtyDecimal")).toInt(), 2);
+        QCOMPARE(page.totals->Fields(u"FQtyDecimal"_s).toInt(), 2);
         seen += rowKeys(*page.rows);
     }
     QCOMPARE(seen, expected);
@@ -160,25 +162,25 @@ void TestInitialData::pagesCoverThePlaceWithTotals()
     // The steel plate's row sums its two batch lines and is batch managed.
     const Page first = fetchPage(scratch, 3, 1);
     first.rows->MoveFirst();
-    QCOMPARE(first.rows->Fields(QStringLiteral("FInitBegQty")).toDouble(), 5.0);
-    QCOMPARE(first.rows->Fields(QStringLiteral("FInitBegBal")).toDouble(), 50.0);
-    QCOMPARE(first.rows->Fields(QStringLiteral("FBM")).toInt(), 1);
-    QCOMPARE(first.rows->Fields(QStringLiteral("FItemName")).toString(), QStringLiteral("钢板"));
-    QCOMPARE(first.rows->Fields(QStringLiteral("FTrackName")).toString(), QStringLiteral("加权平均法"));
-    QCOMPARE(first.rows->Fields(QStringLiteral("FStockInDate")).toString(), QStringLiteral("2024-04-01"));
+    QCOMPARE(first.rows->Fields(u"FInitBegQty"_s).toDouble(), 5.0);
+    QCOMPARE(first.rows->Fields(u"FInitBegBal"_s).toDouble(), 50.0);
+    QCOMPARE(first.rows->Fields(u"FBM"_s).toInt(), 1);
+    QCOMPARE(first.rows->Fields(u"FItemName"_s).toString(), u"钢板"_s);
+    QCOMPARE(first.rows->Fields(u"FTrackName"_s).toString(), u"加权平均法"_s);
+    QCOMPARE(first.rows->Fields(u"FStockInDate"_s).toString(), u"2024-04-01"_s);
     first.rows->MoveNext();
-    QCOMPARE(first.rows->Fields(QStringLiteral("FFieldCompose")).toString(), QStringLiteral("70|0|4|2|0"));
-    QCOMPARE(first.rows->Fields(QStringLiteral("FInitBegQty")).toDouble(), 1.0);
+    QCOMPARE(first.rows->Fields(u"FFieldCompose"_s).toString(), u"70|0|4|2|0"_s);
+    QCOMPARE(first.rows->Fields(u"FInitBegQty"_s).toDouble(), 1.0);
     first.rows->MoveNext();
-    QCOMPARE(first.rows->Fields(QStringLiteral("FAuxPropName")).toString(), QStringLiteral("红色/S"));
+    QCOMPARE(first.rows->Fields(u"FAuxPropName"_s).toString(), u"红色/S"_s);
 
     // A place without balances: no page, and a totals record of zeros.
     const auto empty = dictionary(Data, Fetch, {scratch.propsString(), Stock, 3, Period, 3, 1, {}, {}, {}, {}, false});
-    QCOMPARE(empty->Item(QStringLiteral("TotalPages")).toInt(), 0);
-    const auto emptyTotals = takeObject<Recordset>(empty->Item(QStringLiteral("Totals")));
-    const auto emptyRows = takeObject<Recordset>(empty->Item(QStringLiteral("Rows")));
+    QCOMPARE(empty->Item(u"TotalPages"_s).toInt(), 0);
+    const auto emptyTotals = takeObject<Recordset>(empty->Item(u"Totals"_s));
+    const auto emptyRows = takeObject<Recordset>(empty->Item(u"Rows"_s));
     QCOMPARE(emptyRows->RecordCount(), 0);
-    QCOMPARE(emptyTotals->Fields(QStringLiteral("FInitBegBal")).toDouble(), 0.0);
+    QCOMPARE(emptyTotals->Fields(u"FInitBegBal"_s).toDouble(), 0.0);
 }
 
 void TestInitialData::refusesBadPages_data()
@@ -206,44 +208,27 @@ void TestInitialData::filtersAndSortsSelectOnlyWhatTheySay_data()
     QTest::addColumn<QStringList>("rows");
     QTest::addColumn<double>("totalQty");
 
-    const QStringList all{QStringLiteral("1/0"), QStringLiteral("2/0"), QStringLiteral("2/1"), QStringLiteral("3/0"),
-                          QStringLiteral("4/0"), QStringLiteral("5/0"), QStringLiteral("7/0"), QStringLiteral("8/0")};
-    const QStringList none;
-    const auto add = [&](const char *name, const QStringList &filters, const QString &sort, const QStringList &rows,
+    const auto add = [&](const char *name, const QStringList &filters, const QString &sort, const char *rows,
                          double qty) {
         for (const QString &backend : {ScratchAccountSet::Sqlite, ScratchAccountSet::Postgres})
-            QTest::newRow(qPrintable(QStringLiteral("%1 %2").arg(QLatin1String(name), backend)))
-                << backend << filters << sort << rows << qty;
+            QTest::newRow(qPrintable(u"%1 %2"_s.arg(QLatin1String(name), backend)))
+                << backend << filters << sort << keys(rows) << qty;
     };
-    add("nothing chosen", {QStringLiteral(" where 1=1 and "), {}, {}}, {}, all, PlaceQty);
-    add("item code", {QStringLiteral("FNumber like '1.01%'"), {}, {}}, {},
-        {QStringLiteral("1/0"), QStringLiteral("2/0"), QStringLiteral("2/1")}, 14);
-    add("three filters joined by AND",
-        {QStringLiteral("FNumber like '1.0%'"), QStringLiteral("t1.FModel = 'Φ20'"), QStringLiteral("FAuxPropName = ''")},
-        {}, {QStringLiteral("2/0")}, 1);
-    add("on a sum, over whole item rows", {QStringLiteral("FInitBegQty >= 5"), {}, {}}, {},
-        {QStringLiteral("1/0"), QStringLiteral("2/1"), QStringLiteral("7/0"), QStringLiteral("8/0")}, 26);
-    add("sum and name", {QStringLiteral("FItemName = '铜线'"), QStringLiteral("FInitBegQty > 1"), {}}, {},
-        {QStringLiteral("3/0")}, 2);
-    add("sorted by a sum", {}, QStringLiteral("FInitBegQty DESC"),
-        {QStringLiteral("2/1"), QStringLiteral("8/0"), QStringLiteral("7/0"), QStringLiteral("1/0"),
-         QStringLiteral("5/0"), QStringLiteral("4/0"), QStringLiteral("3/0"), QStringLiteral("2/0")},
-        PlaceQty);
-    add("sorted by code, properties in order", {}, QStringLiteral("FNumber DESC"),
-        {QStringLiteral("8/0"), QStringLiteral("7/0"), QStringLiteral("5/0"), QStringLiteral("4/0"),
-         QStringLiteral("3/0"), QStringLiteral("2/0"), QStringLiteral("2/1"), QStringLiteral("1/0")},
-        PlaceQty);
-    // Texts that are no plain filter select nothing; the totals are zeros then.
-    add("unknown field", {QStringLiteral("FNoSuch = 1"), {}, {}}, {}, none, 0);
-    add("quote in a value", {QStringLiteral("FItemName = '钢板'' OR ''1''=''1'"), {}, {}}, {}, none, 0);
-    add("second statement", {QStringLiteral("FNumber = '1.01.001'; DELETE FROM ICInvInitial"), {}, {}}, {}, none, 0);
-    add("always true", {QStringLiteral("FNumber = 'x' OR 1=1"), {}, {}}, {}, none, 0);
-    add("comment", {QStringLiteral("FNumber = 'x' -- and more"), {}, {}}, {}, none, 0);
-    add("function", {QStringLiteral("lower(FNumber) = '1.01.001'"), {}, {}}, {}, none, 0);
-    add("sub-select", {QStringLiteral("FItemID IN (SELECT FItemID FROM t_ICItem)"), {}, {}}, {}, none, 0);
-    add("bad actual filter", {{}, QStringLiteral("FPassword = 'x'"), {}}, {}, none, 0);
-    add("unknown sort field", {}, QStringLiteral("FNoSuch"), none, 0);
-    add("statement in the sort", {}, QStringLiteral("FNumber; DROP TABLE t_ICItem"), none, 0);
+    add("nothing chosen", {u" where 1=1 and "_s, {}, {}}, {}, "1/0 2/0 2/1 3/0 4/0 5/0 7/0 8/0", PlaceQty);
+    add("item code", {u"FNumber like '1.01%'"_s, {}, {}}, {}, "1/0 2/0 2/1", 14);
+    add("three filters joined by AND", {u"FNumber like '1.0%'"_s, u"t1.FModel = 'Φ20'"_s, u"FAuxPropName = ''"_s}, {},
+        "2/0", 1);
+    add("on a sum, over whole item rows", {u"FInitBegQty >= 5"_s, {}, {}}, {}, "1/0 2/1 7/0 8/0", 26);
+    add("sum and name", {u"FItemName = '铜线'"_s, u"FInitBegQty > 1"_s, {}}, {}, "3/0", 2);
+    add("sorted by a sum", {}, u"FInitBegQty DESC"_s, "2/1 8/0 7/0 1/0 5/0 4/0 3/0 2/0", PlaceQty);
+    add("sorted by code, properties in order", {}, u"FNumber DESC"_s, "8/0 7/0 5/0 4/0 3/0 2/0 2/1 1/0", PlaceQty);
+    // Texts that are no plain filter select nothing, on each of the three filters and the sort; the
+    // totals are zeros then. What the filter parser refuses is its own suite's matter.
+    add("always true", {u"FNumber = 'x' OR 1=1"_s, {}, {}}, {}, "", 0);
+    add("second statement", {u"FNumber = '1.01.001'; DELETE FROM ICInvInitial"_s, {}, {}}, {}, "", 0);
+    add("bad actual filter", {{}, u"FPassword = 'x'"_s, {}}, {}, "", 0);
+    add("bad virtual filter", {{}, {}, u"FInitBegQty > 0 OR 1=1"_s}, {}, "", 0);
+    add("statement in the sort", {}, u"FNumber; DROP TABLE t_ICItem"_s, "", 0);
 }
 
 void TestInitialData::filtersAndSortsSelectOnlyWhatTheySay()
@@ -257,10 +242,10 @@ void TestInitialData::filtersAndSortsSelectOnlyWhatTheySay()
     const QSqlDatabase db = scratch.db();
     seedPlace(db);
     const auto count = [&](const QString &table) {
-        return SqlRun::scalar(db, QStringLiteral("SELECT count(*) FROM %1").arg(table)).toInt();
+        return SqlRun::scalar(db, u"SELECT count(*) FROM %1"_s.arg(table)).toInt();
     };
-    const int balances = count(QStringLiteral("ICInvInitial"));
-    const int items = count(QStringLiteral("t_ICItem"));
+    const int balances = count(u"ICInvInitial"_s);
+    const int items = count(u"t_ICItem"_s);
 
     const Page page = fetchPage(scratch, 100, 1, filters, sort);
     QVERIFY(page.rows && page.totals);
@@ -270,8 +255,8 @@ void TestInitialData::filtersAndSortsSelectOnlyWhatTheySay()
     QCOMPARE(page.total("FInitBegQty"), totalQty);
     QCOMPARE(page.total("FInitBegBal"), totalQty * 10);
     // Nothing a filter says reaches the database as SQL.
-    QCOMPARE(count(QStringLiteral("ICInvInitial")), balances);
-    QCOMPARE(count(QStringLiteral("t_ICItem")), items);
+    QCOMPARE(count(u"ICInvInitial"_s), balances);
+    QCOMPARE(count(u"t_ICItem"_s), items);
 }
 
 void TestInitialData::itemDetailFindsByCode_data()
@@ -296,24 +281,24 @@ void TestInitialData::itemDetailFindsByCode()
     QFETCH(QVariantList, items);
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
     const QSqlDatabase db = scratch.db();
-    SqlRun::exec(db, QStringLiteral("UPDATE t_ICItem SET FShortNumber='SHORT2' WHERE FItemID=?"), {RoundSteel});
-    SqlRun::exec(db, QStringLiteral("UPDATE t_ICItem SET FDeleted=1 WHERE FItemID=?"), {SteelPlate});
-    SqlRun::exec(db, QStringLiteral("UPDATE t_SystemProfile SET FValue=? WHERE FKey='UseShortNumber'"),
-                 {useShortNumber ? QStringLiteral("1") : QStringLiteral("0")});
+    SqlRun::exec(db, u"UPDATE t_ICItem SET FShortNumber='SHORT2' WHERE FItemID=?"_s, {RoundSteel});
+    SqlRun::exec(db, u"UPDATE t_ICItem SET FDeleted=1 WHERE FItemID=?"_s, {SteelPlate});
+    SqlRun::exec(db, u"UPDATE t_SystemProfile SET FValue=? WHERE FKey='UseShortNumber'"_s,
+                 {useShortNumber ? u"1"_s : u"0"_s});
 
-    const auto rs = recordset(Data, QStringLiteral("FetchYtdItemDetail"), {scratch.propsString(), code});
+    const auto rs = recordset(Data, u"FetchYtdItemDetail"_s, {scratch.propsString(), code});
     QVERIFY(rs);
-    QCOMPARE(column(*rs, QStringLiteral("FItemID")).size(), items.size());
+    QCOMPARE(column(*rs, u"FItemID"_s).size(), items.size());
     for (qsizetype i = 0; i < items.size(); ++i)
-        QCOMPARE(column(*rs, QStringLiteral("FItemID")).at(i).toInt(), items.at(i).toInt());
+        QCOMPARE(column(*rs, u"FItemID"_s).at(i).toInt(), items.at(i).toInt());
     if (items.isEmpty())
         return;
-    QCOMPARE(rs->Fields(QStringLiteral("FName")).toString(), QStringLiteral("圆钢"));
-    QCOMPARE(rs->Fields(QStringLiteral("FUnitID")).toInt(), Kilogram);
-    QCOMPARE(rs->Fields(QStringLiteral("FUnitName")).toString(), QStringLiteral("千克"));
-    QCOMPARE(rs->Fields(QStringLiteral("FTrack")).toInt(), 77);
-    QCOMPARE(rs->Fields(QStringLiteral("FTrackName")).toString(), QStringLiteral("移动平均法"));
-    QCOMPARE(rs->Fields(QStringLiteral("FBatchManager")).toInt(), 0);
+    QCOMPARE(rs->Fields(u"FName"_s).toString(), u"圆钢"_s);
+    QCOMPARE(rs->Fields(u"FUnitID"_s).toInt(), Kilogram);
+    QCOMPARE(rs->Fields(u"FUnitName"_s).toString(), u"千克"_s);
+    QCOMPARE(rs->Fields(u"FTrack"_s).toInt(), 77);
+    QCOMPARE(rs->Fields(u"FTrackName"_s).toString(), u"移动平均法"_s);
+    QCOMPARE(rs->Fields(u"FBatchManager"_s).toInt(), 0);
 }
 
 void TestInitialData::initDataListsTheItemRows_data()
@@ -323,9 +308,9 @@ void TestInitialData::initDataListsTheItemRows_data()
     QTest::addColumn<QStringList>("composes");
     QTest::addColumn<int>("error");
     QTest::newRow("both properties") << "70|0|4|2" << -1
-                                     << QStringList{QStringLiteral("70|0|4|2|0"), QStringLiteral("70|0|4|2|1")} << 0;
-    QTest::newRow("one property") << "70|0|4|2" << RedS << QStringList{QStringLiteral("70|0|4|2|1")} << 0;
-    QTest::newRow("batch lines only") << " 70 | 0 | 4 | 1 " << -1 << QStringList{QStringLiteral("70|0|4|1|0")} << 0;
+                                     << QStringList{u"70|0|4|2|0"_s, u"70|0|4|2|1"_s} << 0;
+    QTest::newRow("one property") << "70|0|4|2" << RedS << QStringList{u"70|0|4|2|1"_s} << 0;
+    QTest::newRow("batch lines only") << " 70 | 0 | 4 | 1 " << -1 << QStringList{u"70|0|4|1|0"_s} << 0;
     QTest::newRow("other period") << "70|0|3|3" << -1 << QStringList{} << 0;
     QTest::newRow("three parts") << "70|0|4" << -1 << QStringList{} << DataError::BadPlaceItemKey;
     QTest::newRow("five parts") << "70|0|4|2|0" << -1 << QStringList{} << DataError::BadPlaceItemKey;
@@ -344,11 +329,11 @@ void TestInitialData::initDataListsTheItemRows()
     if (auxPropId >= 0)
         args.append(auxPropId);
     std::unique_ptr<Recordset> rs;
-    QCOMPARE(errorNumberOf([&] { rs = recordset(Data, QStringLiteral("GetInitData"), args); }), error);
+    QCOMPARE(errorNumberOf([&] { rs = recordset(Data, u"GetInitData"_s, args); }), error);
     if (error != 0)
         return;
     QStringList found;
-    for (const QVariant &value : column(*rs, QStringLiteral("FFieldCompose")))
+    for (const QVariant &value : column(*rs, u"FFieldCompose"_s))
         found.append(value.toString());
     QCOMPARE(found, composes);
 }
@@ -358,22 +343,22 @@ void TestInitialData::batchLinesComeInTheAskedUnit()
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
     seedPlace(scratch.db());
     const auto lines = [&](int unit, bool batch, bool shelfLife) {
-        return recordset(Data, QStringLiteral("FetchYtdBatManDetail"),
+        return recordset(Data, u"FetchYtdBatManDetail"_s,
                          {scratch.propsString(), Period, Stock, 0, SteelPlate, 0, unit, batch, shelfLife});
     };
 
     // Ordered by bill number: B2 (bill 1) before B1 (bill 2); kilograms as stored.
     const auto stored = lines(0, true, false);
-    QCOMPARE(column(*stored, QStringLiteral("FBatchNo")), (QVariantList{QStringLiteral("B2"), QStringLiteral("B1")}));
-    QCOMPARE(stored->Fields(QStringLiteral("FAuxBegQty")).toDouble(), 3.0);
-    QCOMPARE(stored->Fields(QStringLiteral("FBegBal")).toDouble(), 30.0);
-    QCOMPARE(stored->Fields(QStringLiteral("FLock")).toInt(), 0);
+    QCOMPARE(column(*stored, u"FBatchNo"_s), (QVariantList{u"B2"_s, u"B1"_s}));
+    QCOMPARE(stored->Fields(u"FAuxBegQty"_s).toDouble(), 3.0);
+    QCOMPARE(stored->Fields(u"FBegBal"_s).toDouble(), 30.0);
+    QCOMPARE(stored->Fields(u"FLock"_s).toInt(), 0);
 
     // In tonnes the quantities are a thousandth; amounts stay.
     const auto tonnes = lines(Tonne, true, false);
-    QCOMPARE(tonnes->Fields(QStringLiteral("FAuxBegQty")).toDouble(), 0.003);
-    QCOMPARE(tonnes->Fields(QStringLiteral("FBegBal")).toDouble(), 30.0);
-    QCOMPARE(tonnes->Fields(QStringLiteral("FUnitID")).toInt(), Tonne);
+    QCOMPARE(tonnes->Fields(u"FAuxBegQty"_s).toDouble(), 0.003);
+    QCOMPARE(tonnes->Fields(u"FBegBal"_s).toDouble(), 30.0);
+    QCOMPARE(tonnes->Fields(u"FUnitID"_s).toInt(), Tonne);
 
     // Without batch or shelf-life management there are no lines; the lines have no production
     // date, so shelf-life management alone finds none either.
@@ -381,8 +366,8 @@ void TestInitialData::batchLinesComeInTheAskedUnit()
     QCOMPARE(lines(0, false, true)->RecordCount(), 0);
 
     // A closed initialisation locks the lines.
-    SqlRun::exec(scratch.db(), QStringLiteral("UPDATE t_SystemProfile SET FValue='1' WHERE FKey='ICClosed'"));
-    QCOMPARE(lines(0, true, false)->Fields(QStringLiteral("FLock")).toInt(), 1);
+    SqlRun::exec(scratch.db(), u"UPDATE t_SystemProfile SET FValue='1' WHERE FKey='ICClosed'"_s);
+    QCOMPARE(lines(0, true, false)->Fields(u"FLock"_s).toInt(), 1);
 }
 
 void TestInitialData::exportListsEveryRowOfThePlace_data()
@@ -391,10 +376,10 @@ void TestInitialData::exportListsEveryRowOfThePlace_data()
     QTest::addColumn<QString>("sort");
     QTest::addColumn<QStringList>("batches"); // FBatchNo of the steel plate rows, in order
     QTest::addColumn<int>("records");
-    QTest::newRow("everything") << "" << "" << QStringList{QStringLiteral("B1"), QStringLiteral("B2")} << 9;
-    QTest::newRow("one batch") << "FBatchNo = 'B2'" << "" << QStringList{QStringLiteral("B2")} << 1;
+    QTest::newRow("everything") << "" << "" << QStringList{u"B1"_s, u"B2"_s} << 9;
+    QTest::newRow("one batch") << "FBatchNo = 'B2'" << "" << QStringList{u"B2"_s} << 1;
     QTest::newRow("batches backwards") << "FNumber = '1.01.001'" << "FBatchNo DESC"
-                                       << QStringList{QStringLiteral("B2"), QStringLiteral("B1")} << 2;
+                                       << QStringList{u"B2"_s, u"B1"_s} << 2;
     QTest::newRow("refused filter") << "FBatchNo = 'B2' OR 1=1" << "" << QStringList{} << 0;
     QTest::newRow("refused sort") << "" << "FBatchNo; DELETE FROM ICInvInitial" << QStringList{} << 0;
 }
@@ -407,15 +392,15 @@ void TestInitialData::exportListsEveryRowOfThePlace()
     QFETCH(int, records);
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
     seedPlace(scratch.db());
-    const auto rs = recordset(Data, QStringLiteral("FetchICExportData"),
+    const auto rs = recordset(Data, u"FetchICExportData"_s,
                               {scratch.propsString(), Stock, 0, Period, filter, sort});
     QVERIFY(rs);
     QCOMPARE(rs->RecordCount(), records);
     QStringList steel;
     for (rs->MoveFirst(); !rs->atEnd(); rs->MoveNext()) {
-        QCOMPARE(rs->Fields(QStringLiteral("FStockName")).toString(), QStringLiteral("测试仓"));
-        if (rs->Fields(QStringLiteral("FItemID")).toInt() == SteelPlate)
-            steel.append(rs->Fields(QStringLiteral("FBatchNo")).toString());
+        QCOMPARE(rs->Fields(u"FStockName"_s).toString(), u"测试仓"_s);
+        if (rs->Fields(u"FItemID"_s).toInt() == SteelPlate)
+            steel.append(rs->Fields(u"FBatchNo"_s).toString());
     }
     QCOMPARE(steel, batches);
 }
@@ -425,19 +410,19 @@ namespace {
 // An item row as the entry grid inserts it: year start = opening = qty, amount 10 a unit.
 QString itemRowInsert(int item, int aux, const QString &batch, double qty)
 {
-    return QStringLiteral("Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo, "
+    return u"Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo, "
                           "FYtdAuxBegQty,FYtdBegBal,FYtdBegDiff, FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff, "
                           "FYtdAuxSend,FYtdCredit,FYtdSendDiff, FAuxBegQty,FBegBal,FBegDiff, FAuxUnitBegQty,"
                           "FYtdAuxUnitBegQty,FYtdAuxUnitSend, FYtdAuxUnitReceive,FStockInDate,FSecUnitID,FAuxPropID,"
                           "FSecCoefficient,FFieldCompose) Values('0',%1,%2,0,%3,1,'%4',%5,%6,0.1,0,0,0,0,0,0,%5,%6,0.1,"
-                          "0,0,0,0,'2024-04-01',0,%7,0,'%2|0|%1|%3|%7')")
+                          "0,0,0,0,'2024-04-01',0,%7,0,'%2|0|%1|%3|%7')"_s
         .arg(Period).arg(Stock).arg(item).arg(batch).arg(qty).arg(qty * 10).arg(aux);
 }
 
 QString itemDelete(int item, int aux)
 {
-    return QStringLiteral("Delete from ICInvInitial Where FStockID=%1 And FSPID=0 And FPeriod=%2 And FItemID = %3 "
-                          "And FAuxPropID = %4")
+    return u"Delete from ICInvInitial Where FStockID=%1 And FSPID=0 And FPeriod=%2 And FItemID = %3 "
+                          "And FAuxPropID = %4"_s
         .arg(Stock).arg(Period).arg(item).arg(aux);
 }
 
@@ -446,12 +431,12 @@ QList<double> summedAfresh(const QSqlDatabase &db)
 {
     QStringList sums;
     for (const QString &figure : PlaceTotals::figures())
-        sums.append(QStringLiteral("coalesce(sum(%1),0)").arg(figure));
+        sums.append(u"coalesce(sum(%1),0)"_s.arg(figure));
     QSqlQuery query = SqlRun::exec(
         db,
-        QStringLiteral("SELECT (SELECT count(*) FROM (SELECT DISTINCT FItemID, FAuxPropID FROM ICInvInitial "
+        u"SELECT (SELECT count(*) FROM (SELECT DISTINCT FItemID, FAuxPropID FROM ICInvInitial "
                        "WHERE FStockID=? AND FSPID=0 AND FPeriod=?) d), %1 FROM ICInvInitial "
-                       "WHERE FStockID=? AND FSPID=0 AND FPeriod=?")
+                       "WHERE FStockID=? AND FSPID=0 AND FPeriod=?"_s
             .arg(sums.join(QLatin1Char(','))),
         {Stock, Period, Stock, Period});
     QList<double> values;
@@ -492,28 +477,28 @@ void TestInitialData::placeTotalsFollowEveryWrite()
     // carries must be what the rows add up to.
     const QList<std::pair<const char *, QString>> steps{
         {"a new item row", itemRowInsert(6, 0, {}, 4)},
-        {"another line of an item row that has lines", itemRowInsert(SteelPlate, 0, QStringLiteral("B3"), 0.3)},
+        {"another line of an item row that has lines", itemRowInsert(SteelPlate, 0, u"B3"_s, 0.3)},
         {"a row re-pointed onto an item row that exists",
-         QStringLiteral("update icinvinitial set FItemID=6,funitid=1,FFieldCompose='70|0|4|6|0',FAuxPropID=0 "
-                        "where FFieldCompose='70|0|4|2|0'")},
+         u"update icinvinitial set FItemID=6,funitid=1,FFieldCompose='70|0|4|6|0',FAuxPropID=0 "
+                        "where FFieldCompose='70|0|4|2|0'"_s},
         {"a row re-pointed onto a new property",
-         QStringLiteral("update icinvinitial set FItemID=3,funitid=7,FFieldCompose='70|0|4|3|1',FAuxPropID=1 "
-                        "where FFieldCompose='70|0|4|3|0'")},
+         u"update icinvinitial set FItemID=3,funitid=7,FFieldCompose='70|0|4|3|1',FAuxPropID=1 "
+                        "where FFieldCompose='70|0|4|3|0'"_s},
         {"figures rewritten in place",
-         QStringLiteral("update icinvinitial set FItemID=4, funitid=7 ,FStockInDate='2024-04-01',FYtdAuxBegQty=0.7,"
+         u"update icinvinitial set FItemID=4, funitid=7 ,FStockInDate='2024-04-01',FYtdAuxBegQty=0.7,"
                         "FYtdBegBal=0.2,FYtdBegDiff=0,FYtdAuxReceive=0,FYtdDebit=0,FYtdReceiveDiff=0,FYtdAuxSend=0,"
                         "FYtdCredit=0,FYtdSendDiff=0,FAuxBegQty=0.7,FBegBal=0.2,FBegDiff=0,FAuxUnitBegQty=0,"
                         "FYtdAuxUnitBegQty=0,FYtdAuxUnitSend=0,FYtdAuxUnitReceive=0,FFieldCompose='70|0|4|4|0' ,"
-                        "FAuxPropID=0 where FFieldCompose='70|0|4|4|0'")},
+                        "FAuxPropID=0 where FFieldCompose='70|0|4|4|0'"_s},
         {"an item with lines deleted", itemDelete(SteelPlate, 0)},
         {"every item row deleted",
          QStringList{itemDelete(RoundSteel, RedS), itemDelete(3, 1), itemDelete(4, 0), itemDelete(5, 0),
                      itemDelete(6, 0), itemDelete(7, 0), itemDelete(8, 0)}
-             .join(QStringLiteral("\r\n"))},
+             .join(u"\r\n"_s)},
     };
     QCOMPARE(servedTotals(fetchPage(scratch, 3, 1)), summedAfresh(db));
     for (const auto &[name, script] : steps) {
-        Dispatch::call(data.get(), QStringLiteral("UpdateINIData"), {scratch.propsString(), script});
+        Dispatch::call(data.get(), u"UpdateINIData"_s, {scratch.propsString(), script});
         const QList<double> expected = summedAfresh(db);
         QVERIFY2(servedTotals(fetchPage(scratch, 3, 1)) == expected, name);
     }
@@ -522,6 +507,6 @@ void TestInitialData::placeTotalsFollowEveryWrite()
     QCOMPARE(servedTotals(fetchPage(scratch, 3, 1)), QList<double>(PlaceTotals::figures().size() + 1, 0.0));
     // The other place of the warehouse and the other period kept theirs.
     const auto other = dictionary(Data, Fetch, {scratch.propsString(), Stock, OtherPlace, Period, 3, 1, {}, {}, {}, {}, false});
-    const auto otherTotals = takeObject<Recordset>(other->Item(QStringLiteral("Totals")));
-    QCOMPARE(otherTotals->Fields(QStringLiteral("FInitBegQty")).toDouble(), 1000.0);
+    const auto otherTotals = takeObject<Recordset>(other->Item(u"Totals"_s));
+    QCOMPARE(otherTotals->Fields(u"FInitBegQty"_s).toDouble(), 1000.0);
 }

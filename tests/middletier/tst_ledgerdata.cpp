@@ -14,6 +14,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 using namespace ServiceCalls;
 
 namespace {
@@ -33,8 +35,8 @@ constexpr double GoodsDifference = 1280;
 const QString Data = ProgId::MICInitialData;
 const QString GL = ProgId::GLData;
 // Every inventory account of the demo: the items' accounts and the cost-difference account.
-const QStringList InventoryAccounts{QStringLiteral("1403"), QStringLiteral("1404"), QStringLiteral("1405"),
-                                    QStringLiteral("1408"), QStringLiteral("1411")};
+const QStringList InventoryAccounts{u"1403"_s, u"1404"_s, u"1405"_s,
+                                    u"1408"_s, u"1411"_s};
 
 QStringList texts(const QVariantList &values)
 {
@@ -48,7 +50,7 @@ QStringList texts(const QVariantList &values)
 QVariantMap accountRecord(Recordset &rs, const QString &number)
 {
     for (rs.MoveFirst(); !rs.atEnd(); rs.MoveNext()) {
-        if (rs.Fields(QStringLiteral("FNumber")).toString() == number) {
+        if (rs.Fields(u"FNumber"_s).toString() == number) {
             QVariantMap record;
             for (const QString &field : rs.fieldNames())
                 record.insert(field, rs.Fields(field));
@@ -61,30 +63,30 @@ QVariantMap accountRecord(Recordset &rs, const QString &number)
 std::unique_ptr<Recordset> accounts(const ScratchAccountSet &scratch, const QString &filter = {},
                                     const QString &sort = {})
 {
-    return recordset(Data, QStringLiteral("FetchYtdAccounts"), {scratch.propsString(), Period, filter, sort});
+    return recordset(Data, u"FetchYtdAccounts"_s, {scratch.propsString(), Period, filter, sort});
 }
 
 void addBalance(const QSqlDatabase &db, int period, int unit, double qty, double amount)
 {
     SqlRun::exec(db,
-                 QStringLiteral("INSERT INTO ICInvInitial (FPeriod, FStockID, FItemID, FUnitID, FBatchNo, FYtdAuxBegQty, "
-                                "FYtdBegBal, FAuxBegQty, FBegBal, FFieldCompose) VALUES (?,?,?,?,'',?,?,?,?,?)"),
+                 u"INSERT INTO ICInvInitial (FPeriod, FStockID, FItemID, FUnitID, FBatchNo, FYtdAuxBegQty, "
+                                "FYtdBegBal, FAuxBegQty, FBegBal, FFieldCompose) VALUES (?,?,?,?,'',?,?,?,?,?)"_s,
                  {period, SemiFinished, MotorSmall, unit, qty, amount, qty, amount,
-                  QStringLiteral("%1|0|%2|%3|0").arg(SemiFinished).arg(period).arg(MotorSmall)});
+                  u"%1|0|%2|%3|0"_s.arg(SemiFinished).arg(period).arg(MotorSmall)});
 }
 
 int currentYear(const QSqlDatabase &db)
 {
-    return SqlRun::scalar(db, QStringLiteral("SELECT FValue FROM t_SystemProfile WHERE FKey='CurrentYear'")).toInt();
+    return SqlRun::scalar(db, u"SELECT FValue FROM t_SystemProfile WHERE FKey='CurrentYear'"_s).toInt();
 }
 
 // The ledger's balance rows of an account, as text, to see that nothing changed.
 QString ledgerOf(const QSqlDatabase &db, int account)
 {
     QSqlQuery query = SqlRun::exec(db,
-                                   QStringLiteral("SELECT FYear, FPeriod, FCurrencyID, FDetailID, FBeginBalance, "
+                                   u"SELECT FYear, FPeriod, FCurrencyID, FDetailID, FBeginBalance, "
                                                   "FYtdDebit, FYtdCredit, FEndBalance FROM t_Balance WHERE "
-                                                  "FAccountID=? ORDER BY FYear, FPeriod, FCurrencyID"),
+                                                  "FAccountID=? ORDER BY FYear, FPeriod, FCurrencyID"_s,
                                    {account});
     QStringList rows;
     while (query.next()) {
@@ -108,26 +110,20 @@ void TestLedgerData::accountSumsFollowTheBalances()
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
     const QSqlDatabase db = scratch.db();
     const auto before = accounts(scratch);
-    QCOMPARE(texts(column(*before, QStringLiteral("FNumber"))), InventoryAccounts);
-    const QVariantMap goods = accountRecord(*before, QStringLiteral("1405"));
-    const QVariantMap raw = accountRecord(*before, QStringLiteral("1403"));
-    QCOMPARE(accountRecord(*before, QStringLiteral("1404")).value(QStringLiteral("FIsCostDiff")).toInt(), 1);
-    QCOMPARE(goods.value(QStringLiteral("FIsCostDiff")).toInt(), 0);
+    QCOMPARE(texts(column(*before, u"FNumber"_s)), InventoryAccounts);
+    const QVariantMap goods = accountRecord(*before, u"1405"_s);
+    const QVariantMap raw = accountRecord(*before, u"1403"_s);
 
     // 10 pieces for 1000 and a box (10 pieces) for 100 of a finished good; a row of another
     // period does not count.
     addBalance(db, Period, Piece, 10, 1000);
     addBalance(db, Period, Box, 1, 100);
     addBalance(db, Period - 1, Piece, 500, 50000);
-    const auto after = accounts(scratch);
-    const QVariantMap goodsAfter = accountRecord(*after, QStringLiteral("1405"));
-    QCOMPARE(goodsAfter.value(QStringLiteral("FSumBegBal")).toDouble(),
-             goods.value(QStringLiteral("FSumBegBal")).toDouble() + 1100);
-    QCOMPARE(goodsAfter.value(QStringLiteral("FSumYtdBegBal")).toDouble(),
-             goods.value(QStringLiteral("FSumYtdBegBal")).toDouble() + 1100);
-    QCOMPARE(goodsAfter.value(QStringLiteral("FSumBaseBegQty")).toDouble(),
-             goods.value(QStringLiteral("FSumBaseBegQty")).toDouble() + 20);
-    QCOMPARE(accountRecord(*after, QStringLiteral("1403")), raw);
+    const QVariantMap goodsAfter = accountRecord(*accounts(scratch), u"1405"_s);
+    const std::pair<const char *, double> added[]{{"FSumBegBal", 1100}, {"FSumYtdBegBal", 1100}, {"FSumBaseBegQty", 20}};
+    for (const auto &[field, amount] : added)
+        QCOMPARE(goodsAfter.value(QLatin1String(field)).toDouble(), goods.value(QLatin1String(field)).toDouble() + amount);
+    QCOMPARE(accountRecord(*accounts(scratch), u"1403"_s), raw);
 }
 
 void TestLedgerData::accountFiltersSelectOnlyWhatTheySay_data()
@@ -135,8 +131,8 @@ void TestLedgerData::accountFiltersSelectOnlyWhatTheySay_data()
     QTest::addColumn<QString>("filter");
     QTest::addColumn<QString>("sort");
     QTest::addColumn<QStringList>("numbers");
-    QTest::newRow("one code") << "FNumber = '1405'" << "" << QStringList{QStringLiteral("1405")};
-    QTest::newRow("on a sum") << "FIsCostDiff = 1" << "" << QStringList{QStringLiteral("1404")};
+    QTest::newRow("one code") << "FNumber = '1405'" << "" << QStringList{u"1405"_s};
+    QTest::newRow("on a sum") << "FIsCostDiff = 1" << "" << QStringList{u"1404"_s};
     QStringList backwards = InventoryAccounts;
     std::reverse(backwards.begin(), backwards.end());
     QTest::newRow("sorted backwards") << "" << "FNumber DESC" << backwards;
@@ -152,8 +148,8 @@ void TestLedgerData::accountFiltersSelectOnlyWhatTheySay()
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
     const auto rs = accounts(scratch, filter, sort);
     QVERIFY(rs);
-    QTEST(texts(column(*rs, QStringLiteral("FNumber"))), "numbers");
-    QCOMPARE(SqlRun::scalar(scratch.db(), QStringLiteral("SELECT count(*) FROM t_Account")).toInt(), 7);
+    QTEST(texts(column(*rs, u"FNumber"_s)), "numbers");
+    QCOMPARE(SqlRun::scalar(scratch.db(), u"SELECT count(*) FROM t_Account"_s).toInt(), 7);
 }
 
 void TestLedgerData::reconciliationPagesWithTotals_data()
@@ -169,42 +165,42 @@ void TestLedgerData::reconciliationPagesWithTotals()
     ScratchAccountSet scratch(backend);
     const auto all = accounts(scratch);
     double begBal = 0;
-    for (const QVariant &value : column(*all, QStringLiteral("FSumBegBal")))
+    for (const QVariant &value : column(*all, u"FSumBegBal"_s))
         begBal += value.toDouble();
 
     QStringList seen;
     for (int index = 1; index <= 3; ++index) {
-        const auto page = dictionary(Data, QStringLiteral("FetchYtdCheckAcctData"),
+        const auto page = dictionary(Data, u"FetchYtdCheckAcctData"_s,
                                      {scratch.propsString(), Period, 0, 2, index, QString()});
         QVERIFY(page);
-        QCOMPARE(page->Item(QStringLiteral("TotalPages")).toInt(), 3);
-        QCOMPARE(page->Item(QStringLiteral("RecordCount")).toInt(), InventoryAccounts.size());
-        const auto rows = takeObject<Recordset>(page->Item(QStringLiteral("Rows")));
-        const auto totals = takeObject<Recordset>(page->Item(QStringLiteral("Totals")));
+        QCOMPARE(page->Item(u"TotalPages"_s).toInt(), 3);
+        QCOMPARE(page->Item(u"RecordCount"_s).toInt(), InventoryAccounts.size());
+        const auto rows = takeObject<Recordset>(page->Item(u"Rows"_s));
+        const auto totals = takeObject<Recordset>(page->Item(u"Totals"_s));
         QCOMPARE(totals->RecordCount(), 1);
-        QVERIFY(qAbs(totals->Fields(QStringLiteral("FInitBegBal")).toDouble() - begBal) < 1e-6);
+        QVERIFY(qAbs(totals->Fields(u"FInitBegBal"_s).toDouble() - begBal) < 1e-6);
         for (rows->MoveFirst(); !rows->atEnd(); rows->MoveNext()) {
-            const QString number = rows->Fields(QStringLiteral("FNumber")).toString();
+            const QString number = rows->Fields(u"FNumber"_s).toString();
             seen.append(number);
-            const double diff = rows->Fields(QStringLiteral("FICGLDiff")).toDouble();
-            QVERIFY(qAbs(diff - (rows->Fields(QStringLiteral("FSumBegBal")).toDouble()
-                                 - rows->Fields(QStringLiteral("FGLSumEndBal")).toDouble())) < 1e-6);
+            const double diff = rows->Fields(u"FICGLDiff"_s).toDouble();
+            QVERIFY(qAbs(diff - (rows->Fields(u"FSumBegBal"_s).toDouble()
+                                 - rows->Fields(u"FGLSumEndBal"_s).toDouble())) < 1e-6);
             // The demo's ledger agrees except on finished goods.
-            if (number == QStringLiteral("1405"))
+            if (number == u"1405"_s)
                 QVERIFY2(qAbs(diff + GoodsDifference) < 1e-6, qPrintable(QString::number(diff)));
-            else if (number == QStringLiteral("1403"))
+            else if (number == u"1403"_s)
                 QVERIFY2(qAbs(diff) < 1e-6, qPrintable(QString::number(diff)));
         }
     }
     QCOMPARE(seen, InventoryAccounts);
 
     // One account, without totals.
-    const auto one = dictionary(Data, QStringLiteral("FetchYtdCheckAcctData"),
+    const auto one = dictionary(Data, u"FetchYtdCheckAcctData"_s,
                                 {scratch.propsString(), Period, GoodsAcct, 10, 1, QString(), QString(), QString(),
                                  QString(), false});
-    const auto rows = takeObject<Recordset>(one->Item(QStringLiteral("Rows")));
-    const auto totals = takeObject<Recordset>(one->Item(QStringLiteral("Totals")));
-    QCOMPARE(texts(column(*rows, QStringLiteral("FNumber"))), QStringList{QStringLiteral("1405")});
+    const auto rows = takeObject<Recordset>(one->Item(u"Rows"_s));
+    const auto totals = takeObject<Recordset>(one->Item(u"Totals"_s));
+    QCOMPARE(texts(column(*rows, u"FNumber"_s)), QStringList{u"1405"_s});
     QCOMPARE(totals->RecordCount(), 0);
 }
 
@@ -236,16 +232,16 @@ void TestLedgerData::transferWritesTheLedgerBalance()
     QFETCH(double, storedEnd);
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
     const QSqlDatabase db = scratch.db();
-    const int answer = call(Data, QStringLiteral("StartTransferBalace"),
-                            {scratch.propsString(), 0, 0, 0, account, number, QStringLiteral("科目"), dc, scale,
+    const int answer = call(Data, u"StartTransferBalace"_s,
+                            {scratch.propsString(), 0, 0, 0, account, number, u"科目"_s, dc, scale,
                              ytdBegBal, 10.0, 20.0, begBal, 0})
                            .toInt();
     QCOMPARE(answer, 1);
     // Year and period 0 are the inventory's current ones; the earlier balance is replaced.
     QSqlQuery row = SqlRun::exec(db,
-                                 QStringLiteral("SELECT FBeginBalance, FYtdDebit, FYtdCredit, FEndBalance, FDetailID "
+                                 u"SELECT FBeginBalance, FYtdDebit, FYtdCredit, FEndBalance, FDetailID "
                                                 "FROM t_Balance WHERE FYear=? AND FPeriod=? AND FAccountID=? AND "
-                                                "FCurrencyID=1"),
+                                                "FCurrencyID=1"_s,
                                  {currentYear(db), Period, account});
     QVERIFY(row.next());
     QCOMPARE(row.value(0).toDouble(), storedBegin);
@@ -279,12 +275,12 @@ void TestLedgerData::transferRefusesUnmatchedItems()
     QFETCH(int, error);
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
     const QSqlDatabase db = scratch.db();
-    SqlRun::exec(db, QStringLiteral("UPDATE t_Account SET FDetailID=? WHERE FAccountID=?"), {ledgerDetail, SuppliesAcct});
+    SqlRun::exec(db, u"UPDATE t_Account SET FDetailID=? WHERE FAccountID=?"_s, {ledgerDetail, SuppliesAcct});
     const QString before = ledgerOf(db, SuppliesAcct);
     int result = 0;
     QCOMPARE(errorNumberOf([&] {
-                 result = call(Data, QStringLiteral("StartTransferBalace"),
-                               {scratch.propsString(), 0, 0, 0, SuppliesAcct, number, QStringLiteral("周转材料"), 1, 2,
+                 result = call(Data, u"StartTransferBalace"_s,
+                               {scratch.propsString(), 0, 0, 0, SuppliesAcct, number, u"周转材料"_s, 1, 2,
                                 99.0, 0.0, 0.0, 99.0, detail})
                               .toInt();
              }),
@@ -300,18 +296,18 @@ void TestLedgerData::auxiliaryPropertiesAreCounted()
 {
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
     const QSqlDatabase db = scratch.db();
-    QCOMPARE(call(Data, QStringLiteral("CheckItemAuxNum"), {scratch.propsString()}).toInt(), 6);
-    SqlRun::exec(db, QStringLiteral("DELETE FROM t_AuxItem"));
-    QCOMPARE(call(Data, QStringLiteral("CheckItemAuxNum"), {scratch.propsString()}).toInt(), 0);
+    QCOMPARE(call(Data, u"CheckItemAuxNum"_s, {scratch.propsString()}).toInt(), 6);
+    SqlRun::exec(db, u"DELETE FROM t_AuxItem"_s);
+    QCOMPARE(call(Data, u"CheckItemAuxNum"_s, {scratch.propsString()}).toInt(), 0);
 
-    const auto classes = recordset(Data, QStringLiteral("FetchAuxProp"), {scratch.propsString()});
-    QCOMPARE(classes->fieldNames(), (QStringList{QStringLiteral("fname"), QStringLiteral("fitemclassid")}));
-    QCOMPARE(texts(column(*classes, QStringLiteral("fname"))),
-             (QStringList{QStringLiteral("颜色尺码"), QStringLiteral("等级")}));
+    const auto classes = recordset(Data, u"FetchAuxProp"_s, {scratch.propsString()});
+    QCOMPARE(classes->fieldNames(), (QStringList{u"fname"_s, u"fitemclassid"_s}));
+    QCOMPARE(texts(column(*classes, u"fname"_s)),
+             (QStringList{u"颜色尺码"_s, u"等级"_s}));
     // In number order, not in id order.
-    SqlRun::exec(db, QStringLiteral("UPDATE t_AuxClass SET FNumber='00' WHERE FItemClassID=2"));
-    const auto renumbered = recordset(Data, QStringLiteral("FetchAuxProp"), {scratch.propsString()});
-    QCOMPARE(column(*renumbered, QStringLiteral("fitemclassid")).first().toInt(), 2);
+    SqlRun::exec(db, u"UPDATE t_AuxClass SET FNumber='00' WHERE FItemClassID=2"_s);
+    const auto renumbered = recordset(Data, u"FetchAuxProp"_s, {scratch.propsString()});
+    QCOMPARE(column(*renumbered, u"fitemclassid"_s).first().toInt(), 2);
 }
 
 void TestLedgerData::fieldListsOfferTheFilterFields_data()
@@ -331,7 +327,7 @@ void TestLedgerData::fieldListsOfferTheFilterFields()
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
     std::unique_ptr<Recordset> fields;
     QCOMPARE(errorNumberOf([&] {
-                 fields = recordset(Data, QStringLiteral("GetSortByFields"), {scratch.propsString(), kind});
+                 fields = recordset(Data, u"GetSortByFields"_s, {scratch.propsString(), kind});
              }),
              error);
     if (error != 0)
@@ -340,34 +336,29 @@ void TestLedgerData::fieldListsOfferTheFilterFields()
     // Every field offered is one the item rows can be filtered and sorted by: the semi-finished
     // goods warehouse keeps its rows under each.
     for (fields->MoveFirst(); !fields->atEnd(); fields->MoveNext()) {
-        const QString name = fields->Fields(QStringLiteral("FieldName")).toString();
-        QVERIFY(!fields->Fields(QStringLiteral("Name")).toString().isEmpty());
-        const auto page = dictionary(Data, QStringLiteral("FetchYtdInitialData"),
+        const QString name = fields->Fields(u"FieldName"_s).toString();
+        QVERIFY(!fields->Fields(u"Name"_s).toString().isEmpty());
+        const auto page = dictionary(Data, u"FetchYtdInitialData"_s,
                                      {scratch.propsString(), SemiFinished, 0, Period, 50, 1, QString(), QString(),
-                                      QString(), name + QStringLiteral(" DESC"), false});
-        QVERIFY2(page->Item(QStringLiteral("RecordCount")).toInt() > 0, qPrintable(name));
-        takeObject<Recordset>(page->Item(QStringLiteral("Rows")));
-        takeObject<Recordset>(page->Item(QStringLiteral("Totals")));
+                                      QString(), name + u" DESC"_s, false});
+        QVERIFY2(page->Item(u"RecordCount"_s).toInt() > 0, qPrintable(name));
+        takeObject<Recordset>(page->Item(u"Rows"_s));
+        takeObject<Recordset>(page->Item(u"Totals"_s));
     }
 }
 
 void TestLedgerData::fieldListsFollowTheAccountSet()
 {
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    const QString insert = QStringLiteral("INSERT INTO t_FieldList (FDataSet, FFieldName, FName, FVisForQuest, "
-                                          "FVisForOrder, FIndex) VALUES (?,?,?,?,?,?)");
-    const QSqlDatabase db = scratch.db();
-    SqlRun::exec(db, insert, {QStringLiteral("ICInitial"), QStringLiteral("fnumber"), QStringLiteral("代码"), 1, 0, 2});
-    SqlRun::exec(db, insert, {QStringLiteral("ICInitial"), QStringLiteral("FItemName"), QStringLiteral("名称"), 1, 1, 1});
-    SqlRun::exec(db, insert, {QStringLiteral("ICInitial"), QStringLiteral("FNoSuch"), QStringLiteral("无"), 1, 1, 0});
-    SqlRun::exec(db, insert, {QStringLiteral("Other"), QStringLiteral("FModel"), QStringLiteral("型号"), 1, 1, 0});
-
-    const auto quest = recordset(Data, QStringLiteral("GetSortByFields"), {scratch.propsString(), QStringLiteral("FVisForQuest")});
-    QCOMPARE(texts(column(*quest, QStringLiteral("FieldName"))),
-             (QStringList{QStringLiteral("FItemName"), QStringLiteral("FNumber")}));
-    QCOMPARE(texts(column(*quest, QStringLiteral("Name"))), (QStringList{QStringLiteral("名称"), QStringLiteral("代码")}));
-    const auto order = recordset(Data, QStringLiteral("GetSortByFields"), {scratch.propsString(), QStringLiteral("FVisForOrder")});
-    QCOMPARE(texts(column(*order, QStringLiteral("FieldName"))), QStringList{QStringLiteral("FItemName")});
+    SqlRun::exec(scratch.db(), u"INSERT INTO t_FieldList (FDataSet, FFieldName, FName, FVisForQuest, FVisForOrder, FIndex) "
+                               "VALUES ('ICInitial', 'fnumber', '代码', 1, 0, 2), ('ICInitial', 'FItemName', '名称', 1, 1, 1), "
+                               "('ICInitial', 'FNoSuch', '无', 1, 1, 0), ('Other', 'FModel', '型号', 1, 1, 0)"_s);
+    const auto quest = recordset(Data, u"GetSortByFields"_s, {scratch.propsString(), u"FVisForQuest"_s});
+    QCOMPARE(texts(column(*quest, u"FieldName"_s)),
+             (QStringList{u"FItemName"_s, u"FNumber"_s}));
+    QCOMPARE(texts(column(*quest, u"Name"_s)), (QStringList{u"名称"_s, u"代码"_s}));
+    const auto order = recordset(Data, u"GetSortByFields"_s, {scratch.propsString(), u"FVisForOrder"_s});
+    QCOMPARE(texts(column(*order, u"FieldName"_s)), QStringList{u"FItemName"_s});
 }
 
 void TestLedgerData::loginFindsTheUser_data()
@@ -387,9 +378,9 @@ void TestLedgerData::loginFindsTheUser()
     QFETCH(QString, user);
     QFETCH(int, error);
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    SqlRun::exec(scratch.db(), QStringLiteral("INSERT INTO t_User (FUserID, FName, FForbidden) VALUES (30, '禁用员', 1)"));
+    SqlRun::exec(scratch.db(), u"INSERT INTO t_User (FUserID, FName, FForbidden) VALUES (30, '禁用员', 1)"_s);
     int id = 0;
-    QCOMPARE(errorNumberOf([&] { id = call(GL, QStringLiteral("Login"), {scratch.acctDb(), user}).toInt(); }), error);
+    QCOMPARE(errorNumberOf([&] { id = call(GL, u"Login"_s, {scratch.acctDb(), user}).toInt(); }), error);
     QTEST(id, "userId");
 }
 
@@ -399,12 +390,12 @@ void TestLedgerData::itemLookupHonoursClassAndPattern_data()
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QStringList>("numbers");
     QTest::addColumn<int>("error");
-    QTest::newRow("virtual items") << "x2.FErpClsID=5" << "" << QStringList{QStringLiteral("9.01.001")} << 0;
+    QTest::newRow("virtual items") << "x2.FErpClsID=5" << "" << QStringList{u"9.01.001"_s} << 0;
     QTest::newRow("by name") << "x2.FErpClsID in (1,2,3,7,9)" << "电动机"
-                             << QStringList{QStringLiteral("3.01.001"), QStringLiteral("3.01.002")} << 0;
-    QTest::newRow("by code part") << "" << "1.04" << QStringList{QStringLiteral("1.04.001"), QStringLiteral("1.04.002")} << 0;
+                             << QStringList{u"3.01.001"_s, u"3.01.002"_s} << 0;
+    QTest::newRow("by code part") << "" << "1.04" << QStringList{u"1.04.001"_s, u"1.04.002"_s} << 0;
     QTest::newRow("class excludes") << "x2.FErpClsID<>5" << "9.01" << QStringList{} << 0;
-    QTest::newRow("self-made by name") << "FErpClsID = 2" << "转子" << QStringList{QStringLiteral("2.01.002")} << 0;
+    QTest::newRow("self-made by name") << "FErpClsID = 2" << "转子" << QStringList{u"2.01.002"_s} << 0;
     QTest::newRow("quote in the pattern") << "" << "' OR '1'='1" << QStringList{} << 0;
     QTest::newRow("condition always true") << "1=1" << "" << QStringList{} << DataError::BadErpClassCondition;
     QTest::newRow("statement in the condition") << "x2.FErpClsID in (1); DELETE FROM t_ICItem" << ""
@@ -419,11 +410,11 @@ void TestLedgerData::itemLookupHonoursClassAndPattern()
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
     publishLogin(scratch.propsString());
     std::unique_ptr<Recordset> items;
-    QCOMPARE(errorNumberOf([&] { items = recordset(GL, QStringLiteral("LookupItems"), {condition, pattern}); }), error);
-    QCOMPARE(SqlRun::scalar(scratch.db(), QStringLiteral("SELECT count(*) FROM t_ICItem")).toInt(), 18);
+    QCOMPARE(errorNumberOf([&] { items = recordset(GL, u"LookupItems"_s, {condition, pattern}); }), error);
+    QCOMPARE(SqlRun::scalar(scratch.db(), u"SELECT count(*) FROM t_ICItem"_s).toInt(), 18);
     if (error != 0)
         return;
-    QTEST(texts(column(*items, QStringLiteral("FNumber"))), "numbers");
+    QTEST(texts(column(*items, u"FNumber"_s)), "numbers");
 }
 
 void TestLedgerData::unitLookupOffersTheItemsGroup()
@@ -431,13 +422,13 @@ void TestLedgerData::unitLookupOffersTheItemsGroup()
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
     publishLogin(scratch.propsString());
     const auto numbers = [](int item) {
-        return texts(column(*recordset(GL, QStringLiteral("LookupUnits"), {item}), QStringLiteral("FNumber")));
+        return texts(column(*recordset(GL, u"LookupUnits"_s, {item}), u"FNumber"_s));
     };
     // 螺钉 counts in pieces: 个, 盒 and 箱 of the quantity group.
     constexpr int Screw = 7;
-    QCOMPARE(numbers(Screw), (QStringList{QStringLiteral("1001"), QStringLiteral("1002"), QStringLiteral("1003")}));
-    SqlRun::exec(scratch.db(), QStringLiteral("UPDATE t_MeasureUnit SET FConversation=0 WHERE FMeasureUnitID=?"), {Box});
-    QCOMPARE(numbers(Screw), (QStringList{QStringLiteral("1001"), QStringLiteral("1003")}));
+    QCOMPARE(numbers(Screw), (QStringList{u"1001"_s, u"1002"_s, u"1003"_s}));
+    SqlRun::exec(scratch.db(), u"UPDATE t_MeasureUnit SET FConversation=0 WHERE FMeasureUnitID=?"_s, {Box});
+    QCOMPARE(numbers(Screw), (QStringList{u"1001"_s, u"1003"_s}));
     QCOMPARE(numbers(999), QStringList{});
 }
 
@@ -446,9 +437,9 @@ void TestLedgerData::accountLookupMatchesCodeOrName_data()
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QStringList>("numbers");
     QTest::newRow("code part") << "14"
-                               << QStringList{QStringLiteral("1403"), QStringLiteral("1404"), QStringLiteral("1405"),
-                                              QStringLiteral("1408"), QStringLiteral("1411"), QStringLiteral("1471")};
-    QTest::newRow("name part") << "应付" << QStringList{QStringLiteral("2202")};
+                               << QStringList{u"1403"_s, u"1404"_s, u"1405"_s,
+                                              u"1408"_s, u"1411"_s, u"1471"_s};
+    QTest::newRow("name part") << "应付" << QStringList{u"2202"_s};
     QTest::newRow("quote") << "' OR ''='" << QStringList{};
 }
 
@@ -457,7 +448,7 @@ void TestLedgerData::accountLookupMatchesCodeOrName()
     QFETCH(QString, pattern);
     ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
     publishLogin(scratch.propsString());
-    QTEST(texts(column(*recordset(GL, QStringLiteral("LookupAccounts"), {pattern}), QStringLiteral("FNumber"))),
+    QTEST(texts(column(*recordset(GL, u"LookupAccounts"_s, {pattern}), u"FNumber"_s)),
           "numbers");
-    QCOMPARE(recordset(GL, QStringLiteral("LookupAccounts"), {QString()})->RecordCount(), 7);
+    QCOMPARE(recordset(GL, u"LookupAccounts"_s, {QString()})->RecordCount(), 7);
 }

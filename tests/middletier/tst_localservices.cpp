@@ -17,6 +17,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A stand-in for a control's collection of child controls: not their parent, it lists them.
@@ -67,72 +69,56 @@ void TestLocalServices::cleanup()
     logSettings().remove(TraceLog::EnabledSetting);
 }
 
-void TestLocalServices::registersEveryProgId_data()
-{
-    QTest::addColumn<QString>("progId");
-    QTest::addColumn<QString>("className");
-    QTest::newRow("data") << QStringLiteral("LumoMICInitial.Data") << "LumoMICInitialData";
-    QTest::newRow("connection") << QStringLiteral("LumoConnection.AppConnection") << "LumoConnectionAppConnection";
-    QTest::newRow("ledger") << QStringLiteral("LumoEBCGLView.GLData") << "LumoEBCGLViewGLData";
-    QTest::newRow("mutex") << QStringLiteral("LumoNetControl.Mutex") << "LumoNetControlMutex";
-    QTest::newRow("log") << QStringLiteral("QLLogMsg.Log") << "QLLogMsgLog";
-    QTest::newRow("shared properties") << QStringLiteral("LumoPropsMgr.ShareProps") << "LumoPropsMgrShareProps";
-    QTest::newRow("form resources") << QStringLiteral("LumoFrmRes.FrmResLoader") << "LumoFrmResFrmResLoader";
-}
-
 void TestLocalServices::registersEveryProgId()
 {
-    QFETCH(QString, progId);
-    QVERIFY(ComponentRegistry::instance().isRegistered(progId));
-    // ProgIDs are found without regard to case, as the suite's registry does.
-    const auto object = CreateObject(progId.toUpper());
-    QVERIFY(object);
-    QTEST(QString::fromLatin1(object->metaObject()->className()), "className");
-    QVERIFY(!object->parent());
+    // The published names, spelt out: the controls and scripts create the services by them.
+    for (const char *name :
+         {"LumoMICInitial.Data", "LumoConnection.AppConnection", "LumoEBCGLView.GLData", "LumoNetControl.Mutex",
+          "QLLogMsg.Log", "LumoPropsMgr.ShareProps", "LumoFrmRes.FrmResLoader"}) {
+        const QString progId = QString::fromLatin1(name);
+        QVERIFY2(ComponentRegistry::instance().isRegistered(progId), qPrintable(progId));
+        // ProgIDs are found without regard to case, as the suite's registry does.
+        const auto object = CreateObject(progId.toUpper());
+        QVERIFY2(object, qPrintable(progId));
+        QVERIFY(!object->parent());
+    }
 }
 
-void TestLocalServices::sharedPropertiesRoundTrip()
+void TestLocalServices::sharedPropertiesBelongToTheProcess()
 {
     const int pid = int(QCoreApplication::applicationPid());
-    const QString props = QStringLiteral("UserName=演示员;UserID=16;AcctDB={/tmp/a.db};");
-    callService(ProgId::ShareProps, QStringLiteral("SetProperty"), {pid, QStringLiteral("PropsString"), props});
-    // A new service object sees what another one stored: the storage belongs to the process.
-    QCOMPARE(
-        callService(ProgId::ShareProps, QStringLiteral("GetProperty"), {pid, QStringLiteral("propsstring")}).toString(),
-        props);
-    QVERIFY(!callService(ProgId::ShareProps, QStringLiteral("GetProperty"), {pid + 1, QStringLiteral("PropsString")})
-                 .isValid());
-    QVERIFY(
-        !callService(ProgId::ShareProps, QStringLiteral("GetProperty"), {pid, QStringLiteral("NoSuchKey")}).isValid());
-    callService(ProgId::ShareProps, QStringLiteral("SetProperty"), {pid, QStringLiteral("PropsString"), QString()});
-    QVERIFY(callService(ProgId::ShareProps, QStringLiteral("GetProperty"), {pid, QStringLiteral("PropsString")})
-                .toString()
-                .isEmpty());
-}
+    // Each call on a new service object: the storage belongs to the process, not to an object.
+    const auto set = [&](const QString &key, const QVariant &value) {
+        callService(ProgId::ShareProps, u"SetProperty"_s, {pid, key, value});
+    };
+    const auto get = [](int process, const QString &key) {
+        return callService(ProgId::ShareProps, u"GetProperty"_s, {process, key});
+    };
+    const QString props = u"UserName=演示员;UserID=16;AcctDB={/tmp/a.db};"_s;
+    set(u"PropsString"_s, props);
+    QCOMPARE(get(pid, u"propsstring"_s).toString(), props);
+    QVERIFY(!get(pid + 1, u"PropsString"_s).isValid());
+    QVERIFY(!get(pid, u"NoSuchKey"_s).isValid());
+    set(u"PropsString"_s, QString());
+    QVERIFY(get(pid, u"PropsString"_s).toString().isEmpty());
 
-void TestLocalServices::sharedObjectIsNotKeptAlive()
-{
-    const int pid = int(QCoreApplication::applicationPid());
+    // A stored object is not kept alive by the storage.
     auto login = std::make_unique<QObject>();
-    callService(ProgId::ShareProps, QStringLiteral("SetProperty"),
-                {pid, QStringLiteral("LumoLogin"), QVariant::fromValue(login.get())});
-    QCOMPARE(callService(ProgId::ShareProps, QStringLiteral("GetProperty"), {pid, QStringLiteral("LumoLogin")})
-                 .value<QObject *>(),
-             login.get());
+    set(u"LumoLogin"_s, QVariant::fromValue(login.get()));
+    QCOMPARE(get(pid, u"LumoLogin"_s).value<QObject *>(), login.get());
     login.reset();
-    QVERIFY(!callService(ProgId::ShareProps, QStringLiteral("GetProperty"), {pid, QStringLiteral("LumoLogin")})
-                 .value<QObject *>());
+    QVERIFY(!get(pid, u"LumoLogin"_s).value<QObject *>());
 }
 
 void TestLocalServices::logIsOffUnlessSwitchedOn()
 {
     QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("trace.log"));
+    const QString path = dir.filePath(u"trace.log"_s);
     qputenv(TraceLog::FileVariable, path.toLocal8Bit());
     qputenv(TraceLog::SwitchVariable, "0");
-    QVERIFY(!callService(ProgId::LogMsgLog, QStringLiteral("IsEnabled")).toBool());
-    QCOMPARE(callService(ProgId::LogMsgLog, QStringLiteral("LogStart"), {QStringLiteral("不记录")}).toInt(), 0);
-    callService(ProgId::LogMsgLog, QStringLiteral("LogEnd"), {0, 1});
+    QVERIFY(!callService(ProgId::LogMsgLog, u"IsEnabled"_s).toBool());
+    QCOMPARE(callService(ProgId::LogMsgLog, u"LogStart"_s, {u"不记录"_s}).toInt(), 0);
+    callService(ProgId::LogMsgLog, u"LogEnd"_s, {0, 1});
     QVERIFY(!QFile::exists(path));
 }
 
@@ -147,7 +133,7 @@ void TestLocalServices::logWritesStartAndEnd()
 {
     QFETCH(bool, bySetting);
     QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("trace.log"));
+    const QString path = dir.filePath(u"trace.log"_s);
     qputenv(TraceLog::FileVariable, path.toLocal8Bit());
     if (bySetting)
         logSettings().setValue(TraceLog::EnabledSetting, true);
@@ -155,77 +141,73 @@ void TestLocalServices::logWritesStartAndEnd()
         qputenv(TraceLog::SwitchVariable, "1");
 
     const auto log = CreateObject(ProgId::LogMsgLog);
-    QVERIFY(Dispatch::call(log.get(), QStringLiteral("IsEnabled")).toBool());
-    const QString text = QStringLiteral("LumoICInitialCtl.ICInitCtl.tvICInit_NodeClick 显示初始化录入界面");
-    const int first = Dispatch::call(log.get(), QStringLiteral("LogStart"), {text}).toInt();
-    const int second = Dispatch::call(log.get(), QStringLiteral("LogStart"), {QStringLiteral("第二项")}).toInt();
+    QVERIFY(Dispatch::call(log.get(), u"IsEnabled"_s).toBool());
+    const QString text = u"LumoICInitialCtl.ICInitCtl.tvICInit_NodeClick 显示初始化录入界面"_s;
+    const int first = Dispatch::call(log.get(), u"LogStart"_s, {text}).toInt();
+    const int second = Dispatch::call(log.get(), u"LogStart"_s, {u"第二项"_s}).toInt();
     QVERIFY(first > 0);
     QVERIFY(second != first);
-    Dispatch::call(log.get(), QStringLiteral("LogEnd"), {first, 7});
+    Dispatch::call(log.get(), u"LogEnd"_s, {first, 7});
     // An entry ends once; a second end and an unknown handle write nothing.
-    Dispatch::call(log.get(), QStringLiteral("LogEnd"), {first, 8});
-    Dispatch::call(log.get(), QStringLiteral("LogEnd"), {first + 1000, 9});
+    Dispatch::call(log.get(), u"LogEnd"_s, {first, 8});
+    Dispatch::call(log.get(), u"LogEnd"_s, {first + 1000, 9});
 
     const QStringList lines = readAll(path).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     QCOMPARE(lines.size(), 3);
-    QVERIFY(lines.at(0).contains(QStringLiteral("START\t#%1\t%2").arg(first).arg(text)));
-    QVERIFY(lines.at(2).contains(QStringLiteral("END\t#%1\t%2\tvalue=7\t").arg(first).arg(text)));
-    QVERIFY(lines.at(2).endsWith(QStringLiteral(" ms")));
+    QVERIFY(lines.at(0).contains(u"START\t#%1\t%2"_s.arg(first).arg(text)));
+    QVERIFY(lines.at(2).contains(u"END\t#%1\t%2\tvalue=7\t"_s.arg(first).arg(text)));
+    QVERIFY(lines.at(2).endsWith(u" ms"_s));
     // Each line starts with its time stamp.
-    QVERIFY(QDateTime::fromString(lines.at(0).left(23), QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz")).isValid());
+    QVERIFY(QDateTime::fromString(lines.at(0).left(23), u"yyyy-MM-dd hh:mm:ss.zzz"_s).isValid());
 }
 
 void TestLocalServices::printFontProperties()
 {
-    const auto props = takeObject<Dictionary>(
-        callService(ProgId::FrmResLoader, QStringLiteral("GetZ9FontProps"), {QStringLiteral("chs")}));
+    const auto props = takeObject<Dictionary>(callService(ProgId::FrmResLoader, u"GetZ9FontProps"_s, {u"chs"_s}));
     QVERIFY(props);
-    QCOMPARE(props->Item(QStringLiteral("Name")).toString(), QStringLiteral("宋体"));
-    QCOMPARE(props->Item(QStringLiteral("Charset")).toInt(), 134);
-    QCOMPARE(props->Item(QStringLiteral("Size")).toInt(), 9);
+    QCOMPARE(props->Item(u"Name"_s).toString(), u"宋体"_s);
+    QCOMPARE(props->Item(u"Charset"_s).toInt(), 134);
+    QCOMPARE(props->Item(u"Size"_s).toInt(), 9);
 }
 
 void TestLocalServices::formFontReachesEveryWidget()
 {
     QWidget form;
     auto *inner = new QWidget(&form);
-    auto *label = new QLabel(QStringLiteral("仓    库:"), inner);
-    auto *title = new QLabel(QStringLiteral("存货初始数据录入"), &form);
+    auto *label = new QLabel(u"仓    库:"_s, inner);
+    auto *title = new QLabel(u"存货初始数据录入"_s, &form);
     QFont titleFont = title->font();
     titleFont.setPointSize(15);
     titleFont.setBold(true);
     title->setFont(titleFont);
     auto *helper = new QObject(&form);
-    helper->setProperty("font", QStringLiteral("untouched"));
-    callService(ProgId::FrmResLoader, QStringLiteral("SetFrmFont"),
-                {QVariant::fromValue<QObject *>(&form), QStringLiteral("chs")});
-    const bool cjkInstalled = QFontDatabase::families().contains(QStringLiteral("WenQuanYi Micro Hei"));
+    helper->setProperty("font", u"untouched"_s);
+    callService(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&form), u"chs"_s});
+    const bool cjkInstalled = QFontDatabase::families().contains(u"WenQuanYi Micro Hei"_s);
     for (const QWidget *widget : QList<const QWidget *>{&form, inner, label}) {
         QCOMPARE(widget->font().pointSize(), 9);
         if (cjkInstalled)
-            QCOMPARE(widget->font().family(), QStringLiteral("WenQuanYi Micro Hei"));
+            QCOMPARE(widget->font().family(), u"WenQuanYi Micro Hei"_s);
     }
     // The title keeps its emphasis and takes only the family.
     QCOMPARE(title->font().pointSize(), 15);
     QVERIFY(title->font().bold());
     if (cjkInstalled)
-        QCOMPARE(title->font().family(), QStringLiteral("WenQuanYi Micro Hei"));
-    QCOMPARE(helper->property("font").toString(), QStringLiteral("untouched"));
-}
+        QCOMPARE(title->font().family(), u"WenQuanYi Micro Hei"_s);
+    QCOMPARE(helper->property("font").toString(), u"untouched"_s);
 
-void TestLocalServices::formFontReachesCollectionItems()
-{
+    // A collection of controls is not their parent: its items take the font, and their children.
     QWidget tree;
-    auto *node = new QLabel(QStringLiteral("全部仓库"), &tree);
+    auto *node = new QLabel(u"全部仓库"_s, &tree);
     QWidget outside;
     ControlList controls;
     controls.m_controls = {&tree};
-    callService(ProgId::FrmResLoader, QStringLiteral("SetFrmFont"),
-                {QVariant::fromValue<QObject *>(&controls), QStringLiteral("chs")});
+    callService(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&controls), u"chs"_s});
     QCOMPARE(tree.font().pointSize(), 9);
     QCOMPARE(node->font().pointSize(), 9);
-    // A widget the collection does not list keeps its font.
     QCOMPARE(outside.font(), QApplication::font());
 }
 
 #include "tst_localservices.moc"
+
+using namespace Qt::StringLiterals;

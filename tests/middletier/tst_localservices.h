@@ -12,14 +12,11 @@ private slots:
     void initTestCase();
     void cleanup();
 
-    void registersEveryProgId_data();
     void registersEveryProgId();
-    void sharedPropertiesRoundTrip();
-    void sharedObjectIsNotKeptAlive();
+    void sharedPropertiesBelongToTheProcess();
     void logIsOffUnlessSwitchedOn();
     void logWritesStartAndEnd_data();
     void logWritesStartAndEnd();
     void printFontProperties();
     void formFontReachesEveryWidget();
-    void formFontReachesCollectionItems();
 };

@@ -16,8 +16,7 @@ private slots:
     void migratesFromVersionOne();
     void dialectStatementsRunOnTheBackend_data();
     void dialectStatementsRunOnTheBackend();
-    void refusesWhatIsNotAnAccountSet();
-    void refusesNewerAccountSet();
+    void refusesWhatItCannotOpen();
     void parsesLocations_data();
     void parsesLocations();
     void refusesBadLocations_data();

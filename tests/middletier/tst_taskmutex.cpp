@@ -16,10 +16,12 @@
 #include <QSysInfo>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int EntryTask = 20;
-const QString EntryFunction = QStringLiteral("Cg0802");
+const QString EntryFunction = u"Cg0802"_s;
 // The process every Linux system runs for its whole life.
 constexpr qint64 AlwaysRunning = 1;
 
@@ -31,7 +33,7 @@ QVariant call(const QString &member, const QVariantList &args)
 
 int taskExec(const ScratchAccountSet &scratch, int taskId, const QString &computer = QSysInfo::machineHostName())
 {
-    return call(QStringLiteral("TaskExec"), {scratch.propsString(), taskId, EntryFunction, computer, 3, 0, 0}).toInt();
+    return call(u"TaskExec"_s, {scratch.propsString(), taskId, EntryFunction, computer, 3, 0, 0}).toInt();
 }
 
 // A registration as another session left it.
@@ -39,20 +41,20 @@ void insertTask(const ScratchAccountSet &scratch, int taskId, int userId, const 
 {
     SqlRun::exec(
         scratch.db(),
-        QStringLiteral("INSERT INTO t_TaskMutex (FTaskID, FFuncCode, FUserID, FComputerName, FProcessID, FStartTime) "
-                       "VALUES (?,?,?,?,?,?)"),
+        u"INSERT INTO t_TaskMutex (FTaskID, FFuncCode, FUserID, FComputerName, FProcessID, FStartTime) "
+                       "VALUES (?,?,?,?,?,?)"_s,
         {taskId, EntryFunction, userId, computer, pid, QDateTime::currentDateTime()});
 }
 
 int taskCount(const ScratchAccountSet &scratch)
 {
-    return SqlRun::scalar(scratch.db(), QStringLiteral("SELECT count(*) FROM t_TaskMutex")).toInt();
+    return SqlRun::scalar(scratch.db(), u"SELECT count(*) FROM t_TaskMutex"_s).toInt();
 }
 
 qint64 endedProcessId()
 {
     QProcess process;
-    process.start(QStringLiteral("true"), {});
+    process.start(u"true"_s, {});
     if (!process.waitForStarted())
         return 0;
     const qint64 pid = process.processId();
@@ -84,90 +86,77 @@ void TestTaskMutex::registersAndCommits()
     // The same session registering again keeps its one registration.
     QCOMPARE(taskExec(scratch, EntryTask), handle);
     QCOMPARE(taskCount(scratch), 1);
-    QVERIFY(call(QStringLiteral("CommitTask"), {scratch.propsString(), handle}).toBool());
+    QVERIFY(call(u"CommitTask"_s, {scratch.propsString(), handle}).toBool());
 
     // The eight-argument form records its extra value for the network control tool.
-    const int other = call(QStringLiteral("TaskExec"), {scratch.propsString(), 21, QStringLiteral("Cg0803"),
-                                                        QSysInfo::machineHostName(), 3, 1, 0, QStringLiteral("额外")})
+    const int other = call(u"TaskExec"_s, {scratch.propsString(), 21, u"Cg0803"_s,
+                                                        QSysInfo::machineHostName(), 3, 1, 0, u"额外"_s})
                           .toInt();
     QVERIFY(other > 0 && other != handle);
 
-    const auto tasks = takeObject<Recordset>(call(QStringLiteral("Tasks"), {scratch.propsString()}));
+    const auto tasks = takeObject<Recordset>(call(u"Tasks"_s, {scratch.propsString()}));
     QVERIFY(tasks);
     QCOMPARE(tasks->RecordCount(), 2);
     tasks->MoveFirst();
-    QCOMPARE(tasks->Fields(QStringLiteral("FTaskHandle")).toInt(), handle);
-    QCOMPARE(tasks->Fields(QStringLiteral("FUserID")).toInt(), 16);
-    QCOMPARE(tasks->Fields(QStringLiteral("FUserName")).toString(), QStringLiteral("演示员"));
-    QCOMPARE(tasks->Fields(QStringLiteral("FProcessID")).toLongLong(), QCoreApplication::applicationPid());
-    QCOMPARE(tasks->Fields(QStringLiteral("FCommitted")).toInt(), 1);
-    QVERIFY(tasks->Fields(QStringLiteral("FStartTime")).toDateTime().isValid());
+    QCOMPARE(tasks->Fields(u"FTaskHandle"_s).toInt(), handle);
+    QCOMPARE(tasks->Fields(u"FUserID"_s).toInt(), 16);
+    QCOMPARE(tasks->Fields(u"FUserName"_s).toString(), u"演示员"_s);
+    QCOMPARE(tasks->Fields(u"FProcessID"_s).toLongLong(), QCoreApplication::applicationPid());
+    QCOMPARE(tasks->Fields(u"FCommitted"_s).toInt(), 1);
+    QVERIFY(tasks->Fields(u"FStartTime"_s).toDateTime().isValid());
     tasks->MoveNext();
-    QCOMPARE(tasks->Fields(QStringLiteral("FExtra")).toString(), QStringLiteral("额外"));
-    QCOMPARE(tasks->Fields(QStringLiteral("FFlagA")).toInt(), 1);
-    QCOMPARE(tasks->Fields(QStringLiteral("FCommitted")).toInt(), 0);
+    QCOMPARE(tasks->Fields(u"FExtra"_s).toString(), u"额外"_s);
+    QCOMPARE(tasks->Fields(u"FFlagA"_s).toInt(), 1);
+    QCOMPARE(tasks->Fields(u"FCommitted"_s).toInt(), 0);
 }
 
-void TestTaskMutex::refusesLiveTaskOfAnotherSession()
+void TestTaskMutex::anotherLiveSessionHoldsItsTask_data()
 {
-    QFETCH_GLOBAL(QString, backend);
-    ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
-    // Another user on this computer, in a running process.
-    insertTask(scratch, EntryTask, 17, QSysInfo::machineHostName(), AlwaysRunning);
-    QCOMPARE(taskExec(scratch, EntryTask), 0);
-    // Another task is free.
-    QVERIFY(taskExec(scratch, EntryTask + 1) > 0);
-
-    // The same user in another process counts as another session too.
-    ScratchAccountSet second(backend, ScratchAccountSet::Content::Created);
-    insertTask(second, EntryTask, 16, QSysInfo::machineHostName(), AlwaysRunning);
-    QCOMPARE(taskExec(second, EntryTask), 0);
-
+    QTest::addColumn<int>("user");
+    QTest::addColumn<QString>("computer");
+    QTest::addColumn<bool>("ended");
+    QTest::addColumn<bool>("refused");
+    const QString here = QSysInfo::machineHostName();
+    QTest::newRow("another user, running") << 17 << here << false << true;
+    QTest::newRow("same user, another process") << 16 << here << false << true;
     // A process on another computer cannot be checked from here, so it counts as running.
-    ScratchAccountSet third(backend, ScratchAccountSet::Content::Created);
-    insertTask(third, EntryTask, 17, QStringLiteral("OTHER-PC"), endedProcessId());
-    QCOMPARE(taskExec(third, EntryTask), 0);
-    QCOMPARE(taskCount(third), 1);
+    QTest::newRow("another computer") << 17 << u"OTHER-PC"_s << true << true;
+    QTest::newRow("ended process, cleared") << 17 << here << true << false;
 }
 
-void TestTaskMutex::clearsTasksOfEndedProcesses()
+void TestTaskMutex::anotherLiveSessionHoldsItsTask()
 {
     QFETCH_GLOBAL(QString, backend);
+    QFETCH(int, user);
+    QFETCH(QString, computer);
+    QFETCH(bool, ended);
+    QFETCH(bool, refused);
     ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
-    const qint64 ended = endedProcessId();
-    QVERIFY(ended > 0);
-    insertTask(scratch, EntryTask, 17, QSysInfo::machineHostName(), ended);
-    const int handle = taskExec(scratch, EntryTask);
-    QVERIFY(handle > 0);
+    const qint64 pid = ended ? endedProcessId() : AlwaysRunning;
+    QVERIFY(pid > 0);
+    insertTask(scratch, EntryTask, user, computer, pid);
+    QCOMPARE(taskExec(scratch, EntryTask) > 0, !refused);
     QCOMPARE(taskCount(scratch), 1);
-    QCOMPARE(SqlRun::scalar(scratch.db(), QStringLiteral("SELECT FUserID FROM t_TaskMutex")).toInt(), 16);
-
-    // The tool's list leaves ended processes out as well.
-    insertTask(scratch, EntryTask + 5, 17, QSysInfo::machineHostName(), ended);
-    const auto tasks = takeObject<Recordset>(call(QStringLiteral("Tasks"), {scratch.propsString()}));
-    QCOMPARE(tasks->RecordCount(), 1);
+    QCOMPARE(SqlRun::scalar(scratch.db(), u"SELECT FUserID FROM t_TaskMutex"_s).toInt(), refused ? user : 16);
+    // Another task is free; the tool's list leaves ended processes out as well.
+    insertTask(scratch, EntryTask + 5, 17, QSysInfo::machineHostName(), endedProcessId());
+    QVERIFY(taskExec(scratch, EntryTask + 1) > 0);
+    QCOMPARE(takeObject<Recordset>(call(u"Tasks"_s, {scratch.propsString()}))->RecordCount(), 2);
 }
 
-void TestTaskMutex::commitsOnlyOwnHandles()
+// Another session's handle is not this one's to commit, but the network control tool releases it.
+void TestTaskMutex::foreignHandleIsReleasedNotCommitted()
 {
     QFETCH_GLOBAL(QString, backend);
     ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
-    QVERIFY(!call(QStringLiteral("CommitTask"), {scratch.propsString(), 4711}).toBool());
-    insertTask(scratch, EntryTask, 17, QSysInfo::machineHostName(), AlwaysRunning);
-    const int foreign = SqlRun::scalar(scratch.db(), QStringLiteral("SELECT FTaskHandle FROM t_TaskMutex")).toInt();
-    QVERIFY(!call(QStringLiteral("CommitTask"), {scratch.propsString(), foreign}).toBool());
-    QCOMPARE(SqlRun::scalar(scratch.db(), QStringLiteral("SELECT FCommitted FROM t_TaskMutex")).toInt(), 0);
-}
-
-void TestTaskMutex::releaseFreesTheTask()
-{
-    QFETCH_GLOBAL(QString, backend);
-    ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
-    insertTask(scratch, EntryTask, 17, QStringLiteral("OTHER-PC"), AlwaysRunning);
-    const int foreign = SqlRun::scalar(scratch.db(), QStringLiteral("SELECT FTaskHandle FROM t_TaskMutex")).toInt();
+    QVERIFY(!call(u"CommitTask"_s, {scratch.propsString(), 4711}).toBool());
+    insertTask(scratch, EntryTask, 17, u"OTHER-PC"_s, AlwaysRunning);
+    const int foreign = SqlRun::scalar(scratch.db(), u"SELECT FTaskHandle FROM t_TaskMutex"_s).toInt();
+    QVERIFY(!call(u"CommitTask"_s, {scratch.propsString(), foreign}).toBool());
+    QCOMPARE(SqlRun::scalar(scratch.db(), u"SELECT FCommitted FROM t_TaskMutex"_s).toInt(), 0);
     QCOMPARE(taskExec(scratch, EntryTask), 0);
-    QVERIFY(call(QStringLiteral("ReleaseTask"), {scratch.propsString(), foreign}).toBool());
-    QVERIFY(!call(QStringLiteral("ReleaseTask"), {scratch.propsString(), foreign}).toBool());
+    QVERIFY(call(u"ReleaseTask"_s, {scratch.propsString(), foreign}).toBool());
+    QVERIFY(!call(u"ReleaseTask"_s, {scratch.propsString(), foreign}).toBool());
     const int handle = taskExec(scratch, EntryTask);
     QVERIFY(handle > 0);
     // A released handle is never handed out again.

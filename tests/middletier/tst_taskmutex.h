@@ -12,8 +12,7 @@ private slots:
     void init();
 
     void registersAndCommits();
-    void refusesLiveTaskOfAnotherSession();
-    void clearsTasksOfEndedProcesses();
-    void commitsOnlyOwnHandles();
-    void releaseFreesTheTask();
+    void anotherLiveSessionHoldsItsTask_data();
+    void anotherLiveSessionHoldsItsTask();
+    void foreignHandleIsReleasedNotCommitted();
 };
