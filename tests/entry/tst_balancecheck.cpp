@@ -137,9 +137,3 @@ void TestBalanceCheck::emptyRowRefusedOnceOnFourthGroup()
     QVERIFY(BalanceCheck::check(1, 10, 0, counter, false, 0, rules).valid);
     QCOMPARE(counter, 3);
 }
-
-void TestBalanceCheck::unknownValuationCodeHasNoName()
-{
-    QCOMPARE(Valuation::name(12345), QString());
-    QVERIFY(!Valuation::isAverage(12345));
-}

@@ -11,5 +11,4 @@ private slots:
     void group();
     void emptyRowRefusedOnceOnFourthGroup_data();
     void emptyRowRefusedOnceOnFourthGroup();
-    void unknownValuationCodeHasNoName();
 };

@@ -42,6 +42,13 @@ void TestChangeBook::changedRowsKeyedByComposedKey()
     QCOMPARE(rows.at(2)->AuxPropID, 5);
     QCOMPARE(book.changed(QStringLiteral("12|0|3|30|5"))->BegBal, 3.0);
     QCOMPARE(book.changed(QStringLiteral("12|0|3|99|0")), nullptr);
+
+    // Cleared keys are free again.
+    book.clear();
+    QCOMPARE(book.changed(QStringLiteral("12|0|3|30|0")), nullptr);
+    book.putChanged(record(30, 0, 5));
+    QCOMPARE(book.changedRows().size(), 1);
+    QCOMPARE(book.changed(QStringLiteral("12|0|3|30|0"))->BegBal, 5.0);
 }
 
 void TestChangeBook::deletedRowsKeptOnce()
@@ -67,30 +74,6 @@ void TestChangeBook::unitChangeRemembersLoadedUnit()
     QVERIFY(!book.unitChanged(key));
     QCOMPARE(book.loadedUnit(key), 0);
     QVERIFY(book.isEmpty());
-}
-
-void TestChangeBook::emptinessAndClear()
-{
-    ChangeBook book;
-    QVERIFY(book.isEmpty());
-    book.setDirty(true);
-    QVERIFY(book.isEmpty());
-
-    book.putChanged(record(30, 0, 1));
-    QVERIFY(!book.isEmpty());
-    book.addDeleted(QStringLiteral("10|0"));
-    book.noteUnitChange(QStringLiteral("12|0|3|10|0"), 1, 2);
-    book.clear();
-    QVERIFY(book.isEmpty());
-    QVERIFY(!book.isDirty());
-    QVERIFY(book.changedRows().isEmpty());
-    QVERIFY(book.deletedRows().isEmpty());
-    QCOMPARE(book.changed(QStringLiteral("12|0|3|30|0")), nullptr);
-
-    // Cleared keys are free again.
-    book.putChanged(record(30, 0, 5));
-    QCOMPARE(book.changedRows().size(), 1);
-    QCOMPARE(book.changed(QStringLiteral("12|0|3|30|0"))->BegBal, 5.0);
 }
 
 void TestChangeBook::askToSave_data()

@@ -10,7 +10,6 @@ private slots:
     void changedRowsKeyedByComposedKey();
     void deletedRowsKeptOnce();
     void unitChangeRemembersLoadedUnit();
-    void emptinessAndClear();
     void askToSave_data();
     void askToSave();
 };

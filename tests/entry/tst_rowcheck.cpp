@@ -179,74 +179,6 @@ void TestRowCheck::settingsDecideGroupRules()
     QVERIFY(RowCheck::check(quantityOnly, Place, className, record).valid);
 }
 
-void TestRowCheck::validRowFillsRecord()
-{
-    FakeRowView row;
-    row.auxLocked = false;
-    row.auxClass = ColorClass;
-    row.auxProp = 41;
-    // Binary noise from typed arithmetic is rounded away before the check and in the record.
-    row.groups = {{{0.1 + 0.2, 1.5, 10.25, -0.25},
-                   {2, 4, 20, 0},
-                   {1, 2, 7.000000000049, 0},
-                   {1.3, 3.5, 23.25, -0.25}}};
-    row.rate = 2.5;
-    row.secUnit = 9;
-    row.stockIn = QDate(2024, 1, 5);
-    row.key = QStringLiteral("12|0|3|3057|0");
-    row.batchLocked = false;
-
-    ICInitStruct record;
-    const RowVerdict verdict = RowCheck::check(row, Place, className, record);
-    QVERIFY2(verdict.valid, qPrintable(verdict.message));
-    QCOMPARE(int(record.Period), 3);
-    QCOMPARE(record.StockID, 12);
-    QCOMPARE(record.SPID, 0);
-    QCOMPARE(record.ItemID, 3057);
-    QCOMPARE(record.UnitID, 7);
-    // Compared as their shortest texts: a fuzzy compare would let the noise through.
-    QCOMPARE(NumberFormat::plain(record.YtdAuxBegQty), QStringLiteral("0.3"));
-    QCOMPARE(record.YtdBegBal, 10.25);
-    QCOMPARE(record.YtdBegDiff, -0.25);
-    QCOMPARE(record.YtdAuxReceive, 2.0);
-    QCOMPARE(record.YtdDebit, 20.0);
-    QCOMPARE(record.YtdAuxSend, 1.0);
-    QCOMPARE(NumberFormat::plain(record.YtdCredit), QStringLiteral("7"));
-    QCOMPARE(record.AuxBegQty, 1.3);
-    QCOMPARE(record.BegBal, 23.25);
-    QCOMPARE(record.BegDiff, -0.25);
-    QCOMPARE(record.YtdAuxUnitBegQty, 1.5);
-    QCOMPARE(record.YtdAuxUnitReceive, 4.0);
-    QCOMPARE(record.YtdAuxUnitSend, 2.0);
-    QCOMPARE(record.AuxUnitBegQty, 3.5);
-    QCOMPARE(record.SecCoefficient, 2.5);
-    QCOMPARE(record.SecUnitID, 9);
-    QCOMPARE(record.AuxPropID, 41);
-    QCOMPARE(record.StockInDate, QStringLiteral("2024-01-05"));
-    QCOMPARE(record.oFieldCompose, QStringLiteral("12|0|3|3057|0"));
-    QCOMPARE(record.composedKey(), QStringLiteral("12|0|3|3057|41"));
-    QVERIFY(record.BatchManager);
-
-    row.stockIn = QDate();
-    row.batchLocked = true;
-    QVERIFY(RowCheck::check(row, Place, className, record).valid);
-    QCOMPARE(record.StockInDate, QString());
-    QVERIFY(!record.BatchManager);
-}
-
-void TestRowCheck::refusedRowLeavesRecord()
-{
-    ICInitStruct record;
-    record.ItemID = 99;
-    record.StockInDate = QStringLiteral("2023-12-31");
-    FakeRowView row;
-    row.groups[2] = {-1, 0, -1, 0};
-    QVERIFY(!RowCheck::check(row, Place, className, record).valid);
-    QCOMPARE(record.ItemID, 99);
-    QCOMPARE(record.StockInDate, QStringLiteral("2023-12-31"));
-    QCOMPARE(int(record.Period), 0);
-}
-
 void TestRowCheck::gridRowReadsTheEntryColumns()
 {
     using namespace EntryCol;
@@ -267,6 +199,8 @@ void TestRowCheck::gridRowReadsTheEntryColumns()
                            ReceiveDiff, SendQty, SendAuxQty, Credit, SendDiff, BegQty, BegAuxQty, BegBal, BegDiff};
     for (int i = 0; i < 16; ++i)
         cells.setValue(row, columns[i], 1.0 + i);
+    // Binary noise from typed arithmetic is rounded away in the record.
+    cells.setValue(row, YtdBegQty, 0.1 + 0.2);
     cells.setValue(row, SecCoefficient, 12.5);
     cells.setValue(row, SecUnitID, 9);
     cells.setValue(row, StockInDate, QDate(2024, 3, 1));
@@ -280,14 +214,16 @@ void TestRowCheck::gridRowReadsTheEntryColumns()
     cells.setValue(row, AuxPropID, 41);
     verdict = RowCheck::check(GridRowView(cells, row), Place, className, record);
     QVERIFY2(verdict.valid, qPrintable(verdict.message));
-    QCOMPARE(record.ItemID, 3057);
+    QCOMPARE(int(record.Period), 3);
+    QCOMPARE(record.composedKey(), QStringLiteral("12|0|3|3057|41"));
     QCOMPARE(record.UnitID, 7);
-    QCOMPARE(record.AuxPropID, 41);
+    // Compared as the shortest text: a fuzzy compare would let the noise through.
+    QCOMPARE(NumberFormat::plain(record.YtdAuxBegQty), QStringLiteral("0.3"));
     const double figures[] = {record.YtdAuxBegQty, record.YtdAuxUnitBegQty, record.YtdBegBal, record.YtdBegDiff,
                               record.YtdAuxReceive, record.YtdAuxUnitReceive, record.YtdDebit, record.YtdReceiveDiff,
                               record.YtdAuxSend, record.YtdAuxUnitSend, record.YtdCredit, record.YtdSendDiff,
                               record.AuxBegQty, record.AuxUnitBegQty, record.BegBal, record.BegDiff};
-    for (int i = 0; i < 16; ++i)
+    for (int i = 1; i < 16; ++i)
         QCOMPARE(figures[i], 1.0 + i);
     QCOMPARE(record.SecCoefficient, 12.5);
     QCOMPARE(record.SecUnitID, 9);

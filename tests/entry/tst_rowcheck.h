@@ -15,7 +15,5 @@ private slots:
     void refusedGroupMovesToItsQuantity_data();
     void refusedGroupMovesToItsQuantity();
     void settingsDecideGroupRules();
-    void validRowFillsRecord();
-    void refusedRowLeavesRecord();
     void gridRowReadsTheEntryColumns();
 };

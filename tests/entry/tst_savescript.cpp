@@ -181,9 +181,6 @@ void TestSaveScript::deletesComeFirst()
 
 void TestSaveScript::textsHaveQuotesDoubled()
 {
-    QCOMPARE(SqlText::quoted(QStringLiteral("O'Brien's")), QStringLiteral("'O''Brien''s'"));
-    QCOMPARE(SqlText::quoted(QString()), QStringLiteral("''"));
-
     const auto r = record(QStringLiteral("1|0|3|5' or '1'='1"), true);
     QCOMPARE(scriptOf(*r), QStringLiteral("update icinvinitial set FItemID=3057,funitid=7,"
                                           "FFieldCompose='12|0|3|3057|41',FAuxPropID=41 "
@@ -206,10 +203,7 @@ void TestSaveScript::malformedDeletedRowThrows()
 {
     QFETCH(QString, deleted);
     QVERIFY_THROWS_EXCEPTION(LumoError, SaveScript::build({}, {deleted}, Place, Period));
-}
-
-void TestSaveScript::nothingChangedWritesNothing()
-{
+    // Nothing changed writes nothing.
     QCOMPARE(SaveScript::build({}, {}, Place, Period), QString());
 }
 

@@ -18,6 +18,5 @@ private slots:
     void textsHaveQuotesDoubled();
     void malformedDeletedRowThrows_data();
     void malformedDeletedRowThrows();
-    void nothingChangedWritesNothing();
     void systemProfileUpdate();
 };
