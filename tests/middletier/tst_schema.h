@@ -19,6 +19,4 @@ private slots:
     void refusesWhatItCannotOpen();
     void parsesLocations_data();
     void parsesLocations();
-    void refusesBadLocations_data();
-    void refusesBadLocations();
 };
