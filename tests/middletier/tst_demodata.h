@@ -11,7 +11,7 @@ private slots:
     void initTestCase_data();
     void init();
 
-    void coversWhatTheControlsShow();
+    void rowsAgreeWithEachOther();
     void linesKeepTheBalanceRule();
     void generatesVolume();
 };

@@ -10,12 +10,8 @@ class TestInitialData : public QObject
     Q_OBJECT
 
 private slots:
-    void pagesCoverThePlaceWithTotals_data();
-    void pagesCoverThePlaceWithTotals();
-    void refusesBadPages_data();
-    void refusesBadPages();
-    void filtersAndSortsSelectOnlyWhatTheySay_data();
-    void filtersAndSortsSelectOnlyWhatTheySay();
+    void filtersSortsAndPagesSelectOnlyWhatTheySay_data();
+    void filtersSortsAndPagesSelectOnlyWhatTheySay();
     void itemDetailFindsByCode_data();
     void itemDetailFindsByCode();
     void initDataListsTheItemRows_data();

@@ -27,9 +27,6 @@ private slots:
     void fieldListsFollowTheAccountSet();
     void loginFindsTheUser_data();
     void loginFindsTheUser();
-    void itemLookupHonoursClassAndPattern_data();
-    void itemLookupHonoursClassAndPattern();
-    void unitLookupOffersTheItemsGroup();
-    void accountLookupMatchesCodeOrName_data();
-    void accountLookupMatchesCodeOrName();
+    void lookupsFindWhatIsAsked_data();
+    void lookupsFindWhatIsAsked();
 };

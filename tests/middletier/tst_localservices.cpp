@@ -4,7 +4,6 @@
 #include "services/tracelog.h"
 
 #include "frame/automation/componentregistry.h"
-#include "frame/automation/dictionary.h"
 #include "frame/automation/dispatch.h"
 #include "frame/automation/objectownership.h"
 
@@ -110,44 +109,42 @@ void TestLocalServices::sharedPropertiesBelongToTheProcess()
     QVERIFY(!get(pid, u"LumoLogin"_s).value<QObject *>());
 }
 
-void TestLocalServices::logIsOffUnlessSwitchedOn()
-{
-    QTemporaryDir dir;
-    const QString path = dir.filePath(u"trace.log"_s);
-    qputenv(TraceLog::FileVariable, path.toLocal8Bit());
-    qputenv(TraceLog::SwitchVariable, "0");
-    QVERIFY(!callService(ProgId::LogMsgLog, u"IsEnabled"_s).toBool());
-    QCOMPARE(callService(ProgId::LogMsgLog, u"LogStart"_s, {u"不记录"_s}).toInt(), 0);
-    callService(ProgId::LogMsgLog, u"LogEnd"_s, {0, 1});
-    QVERIFY(!QFile::exists(path));
-}
-
 void TestLocalServices::logWritesStartAndEnd_data()
 {
-    QTest::addColumn<bool>("bySetting");
-    QTest::newRow("environment") << false;
-    QTest::newRow("setting") << true;
+    QTest::addColumn<QByteArray>("variable");
+    QTest::addColumn<bool>("setting");
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("switched off") << QByteArray("0") << false << false;
+    QTest::newRow("environment") << QByteArray("1") << false << true;
+    QTest::newRow("setting") << QByteArray() << true << true;
 }
 
 void TestLocalServices::logWritesStartAndEnd()
 {
-    QFETCH(bool, bySetting);
+    QFETCH(QByteArray, variable);
+    QFETCH(bool, setting);
+    QFETCH(bool, enabled);
     QTemporaryDir dir;
     const QString path = dir.filePath(u"trace.log"_s);
     qputenv(TraceLog::FileVariable, path.toLocal8Bit());
-    if (bySetting)
+    if (setting)
         logSettings().setValue(TraceLog::EnabledSetting, true);
-    else
-        qputenv(TraceLog::SwitchVariable, "1");
+    if (!variable.isNull())
+        qputenv(TraceLog::SwitchVariable, variable);
 
     const auto log = CreateObject(ProgId::LogMsgLog);
-    QVERIFY(Dispatch::call(log.get(), u"IsEnabled"_s).toBool());
+    QCOMPARE(Dispatch::call(log.get(), u"IsEnabled"_s).toBool(), enabled);
     const QString text = u"LumoICInitialCtl.ICInitCtl.tvICInit_NodeClick 显示初始化录入界面"_s;
     const int first = Dispatch::call(log.get(), u"LogStart"_s, {text}).toInt();
     const int second = Dispatch::call(log.get(), u"LogStart"_s, {u"第二项"_s}).toInt();
+    Dispatch::call(log.get(), u"LogEnd"_s, {first, 7});
+    if (!enabled) {
+        QCOMPARE(first, 0);
+        QVERIFY(!QFile::exists(path));
+        return;
+    }
     QVERIFY(first > 0);
     QVERIFY(second != first);
-    Dispatch::call(log.get(), u"LogEnd"_s, {first, 7});
     // An entry ends once; a second end and an unknown handle write nothing.
     Dispatch::call(log.get(), u"LogEnd"_s, {first, 8});
     Dispatch::call(log.get(), u"LogEnd"_s, {first + 1000, 9});
@@ -159,15 +156,6 @@ void TestLocalServices::logWritesStartAndEnd()
     QVERIFY(lines.at(2).endsWith(u" ms"_s));
     // Each line starts with its time stamp.
     QVERIFY(QDateTime::fromString(lines.at(0).left(23), u"yyyy-MM-dd hh:mm:ss.zzz"_s).isValid());
-}
-
-void TestLocalServices::printFontProperties()
-{
-    const auto props = takeObject<Dictionary>(callService(ProgId::FrmResLoader, u"GetZ9FontProps"_s, {u"chs"_s}));
-    QVERIFY(props);
-    QCOMPARE(props->Item(u"Name"_s).toString(), u"宋体"_s);
-    QCOMPARE(props->Item(u"Charset"_s).toInt(), 134);
-    QCOMPARE(props->Item(u"Size"_s).toInt(), 9);
 }
 
 void TestLocalServices::formFontReachesEveryWidget()
@@ -209,5 +197,3 @@ void TestLocalServices::formFontReachesEveryWidget()
 }
 
 #include "tst_localservices.moc"
-
-using namespace Qt::StringLiterals;

@@ -14,9 +14,7 @@ private slots:
 
     void registersEveryProgId();
     void sharedPropertiesBelongToTheProcess();
-    void logIsOffUnlessSwitchedOn();
     void logWritesStartAndEnd_data();
     void logWritesStartAndEnd();
-    void printFontProperties();
     void formFontReachesEveryWidget();
 };

@@ -10,8 +10,6 @@ class TestSchema : public QObject
 private slots:
     void declarationIsConsistent();
     void holdsEveryColumnTheScriptsWrite();
-    void createsEveryDeclaredColumn_data();
-    void createsEveryDeclaredColumn();
     void migratesFromVersionOne_data();
     void migratesFromVersionOne();
     void dialectStatementsRunOnTheBackend_data();
@@ -19,6 +17,4 @@ private slots:
     void refusesWhatItCannotOpen();
     void parsesLocations_data();
     void parsesLocations();
-    void refusesBadLocations_data();
-    void refusesBadLocations();
 };

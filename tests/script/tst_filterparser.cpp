@@ -146,35 +146,23 @@ void FilterParserTest::refusedFilters()
 void FilterParserTest::sorts_data()
 {
     QTest::addColumn<QString>("sort");
-    QTest::addColumn<QList<int>>("ids");
+    QTest::addColumn<QList<int>>("ids"); // empty: refused
 
     QTest::newRow("find/filter dialog") << "FModel ASC ,FName DESC " << QList<int>{3, 1, 2, 4};
     QTest::newRow("filter dialog") << "FDC Asc,t1.FPrice Desc" << QList<int>{4, 2, 3, 1};
     QTest::newRow("direction left out") << "FInitBegBal" << QList<int>{4, 2, 1, 3};
     QTest::newRow("nothing") << "  " << QList<int>{1, 2, 3, 4};
+    for (const char *refused : {"FBogus ASC", "FNumber; drop table ItemRows", "FNumber ASC FModel", "FNumber ASC,",
+                                "(select 1)", "1 DESC"})
+        QTest::newRow(refused) << QString::fromLatin1(refused) << QList<int>{};
 }
 
 void FilterParserTest::sorts()
 {
     QFETCH(QString, sort);
     QFETCH(QList<int>, ids);
-    QCOMPARE(select(QString(), sort), ids);
-}
-
-void FilterParserTest::refusedSorts_data()
-{
-    QTest::addColumn<QString>("sort");
-
-    QTest::newRow("unknown field") << "FBogus ASC";
-    QTest::newRow("second statement") << "FNumber; drop table ItemRows";
-    QTest::newRow("missing comma") << "FNumber ASC FModel";
-    QTest::newRow("trailing comma") << "FNumber ASC,";
-    QTest::newRow("sub-select") << "(select 1)";
-    QTest::newRow("position number") << "1 DESC";
-}
-
-void FilterParserTest::refusedSorts()
-{
-    QFETCH(QString, sort);
-    QVERIFY_THROWS_EXCEPTION(script::FilterError, FilterParser(itemFields()).orderBy(sort));
+    if (ids.isEmpty())
+        QVERIFY_THROWS_EXCEPTION(script::FilterError, FilterParser(itemFields()).orderBy(sort));
+    else
+        QCOMPARE(select(QString(), sort), ids);
 }

@@ -23,8 +23,6 @@ private slots:
     void refusedFilters();
     void sorts_data();
     void sorts();
-    void refusedSorts_data();
-    void refusedSorts();
 
 private:
     QList<int> select(const QString &filter, const QString &sort = {}) const;

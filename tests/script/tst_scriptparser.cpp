@@ -127,6 +127,15 @@ void ScriptParserTest::refusals_data()
     QTest::newRow("column compared with column") << u"Delete from ICInvInitial where FFieldCompose=FBatchNo"_s << 1 << "FBatchNo";
     QTest::newRow("LIKE") << u"Delete from ICInvInitial where FFieldCompose like 'x%'"_s << 1 << "like";
     QTest::newRow("second statement of another kind") << u"Delete from ICInvInitial where FFieldCompose='a'\r\nexec xp_cmdshell 'x'"_s << 2 << "exec";
+    QTest::newRow("drop table") << u"drop table ICInvInitial"_s << 1 << "drop";
+    QTest::newRow("another table") << u"delete from t_ICItem where 1=1"_s << 1 << "t_ICItem";
+    QTest::newRow("line comment") << u"-- delete from ICInvInitial where FItemID=1"_s << 1 << "注释";
+    QTest::newRow("comment after a statement") << u"Update t_SystemProfile Set FValue='1' Where FCategory='IC' And FKey='INIBillInterID' /* x */"_s << 1 << "注释";
+    QTest::newRow("select") << u"SELECT FScale FROM t_Currency WHERE FCurrencyID=1"_s << 1 << "SELECT";
+    QTest::newRow("unknown column") << u"update ICInvInitial set FBogus=1 where FFieldCompose='x'"_s << 1 << "FBogus";
+    QTest::newRow("no key in the condition") << u"Delete from ICInvInitial where FPeriod=1"_s << 1 << "FFieldCompose";
+    QTest::newRow("insert into a serial table") << u"Insert into ICSerial(FSNListID) Values(1)"_s << 1 << "INSERT";
+    QTest::newRow("table not written") << u"Delete ICSerial_F2 Where FSNListID In (501)"_s << 1 << "ICSerial_F2";
     QTest::newRow("semicolon") << u"Delete from ICInvInitial where FFieldCompose='a';\r\nDelete from ICInvInitial where FFieldCompose='b'"_s << 1 << ";";
 }
 
