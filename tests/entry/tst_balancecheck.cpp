@@ -1,5 +1,3 @@
-#include "tst_balancecheck.h"
-
 #include "sheet/balancecheck.h"
 #include "frame/valuationmethods.h"
 
@@ -23,117 +21,126 @@ constexpr int AgencyStock = BalanceCheck::AgencyStockType;
 
 } // namespace
 
-void TestBalanceCheck::group_data()
+class TestBalanceCheck : public QObject
 {
-    QTest::addColumn<double>("quantity");
-    QTest::addColumn<double>("amount");
-    QTest::addColumn<double>("difference");
-    QTest::addColumn<int>("stockType");
-    QTest::addColumn<bool>("underStock");
-    QTest::addColumn<int>("auditChoice");
-    QTest::addColumn<bool>("allocate");
-    QTest::addColumn<int>("track");
-    QTest::addColumn<QString>("message"); // empty: the group passes
+    Q_OBJECT
 
-    const QString negative =
-        lines({"录入的数据[数量<0]！", "但账套不允许负结存,因此数量不能<0！", "数据非法！请重新录入！"});
-    const QString negativePrice = lines({"录入的数据[数量>0，金额<0]！", "单价将出现负数，数据非法！请重新录入！"});
-    const QString positiveValue = lines({"录入的数据[数量<0，金额>0]！", "单价将出现负数，数据非法！请重新录入！"});
-    const QString noAmount =
-        lines({"录入的数据[金额=0]！", "但账套实行数量金额核算,因此金额不能等于0！", "数据非法！请重新录入！"});
-    const QString allocation = lines({"分摊的数据[数量=0，金额<>0]！", "单价将不一致，数据非法！请重新录入！"});
-
-    struct Case
+private slots:
+    void group_data()
     {
-        const char *name;
-        double quantity, amount, difference;
-        int stockType;
-        bool underStock;
-        int auditChoice;
-        bool allocate;
-        int track;
-        QString message;
-    };
-    constexpr int Wa = Valuation::WeightedAverage;
-    constexpr int Ma = Valuation::MovingAverage;
-    const Case cases[] = {
-        {"negative stock refused", -5, -100, 0, OrdinaryStock, false, 0, false, 0, negative},
-        {"negative stock allowed", -5, -100, 0, OrdinaryStock, true, 0, false, 0, {}},
-        // Without negative stock the sign of the quantity is refused before the price rules look.
-        {"negative quantity, positive value, no negative stock", -1, 5, 0, OrdinaryStock, false, 0, false, 0, negative},
-        {"negative quantity, positive value", -1, 5, 0, OrdinaryStock, true, 0, false, 0, positiveValue},
-        {"positive quantity, negative amount", 1, -1, 0, OrdinaryStock, true, 0, false, 0, negativePrice},
-        // The value is amount plus difference: a difference larger than the amount turns the price.
-        {"difference turns the value negative", 2, 5, -10, OrdinaryStock, true, 0, false, 0, negativePrice},
-        {"difference alone gives the value", 2, 0, 3, OrdinaryStock, true, 1, false, 0, {}},
-        {"quantity without amount, amounts kept", 3, 0, 0, OrdinaryStock, true, 1, false, 0, noAmount},
-        {"amount and difference cancel, amounts kept", 3, 5, -5, OrdinaryStock, true, 1, false, 0, noAmount},
-        {"quantity without amount, quantities only", 3, 0, 0, OrdinaryStock, true, 0, false, 0, {}},
-        {"quantity without amount, agency warehouse", 3, 0, 0, AgencyStock, true, 1, false, 0, {}},
-        {"value without quantity, entry grid", 0, 10, 0, OrdinaryStock, true, 1, false, Wa, {}},
-        {"value without quantity, allocated weighted average", 0, 10, 0, OrdinaryStock, true, 1, true, Wa, allocation},
-        {"value without quantity, allocated moving average", 0, 10, 0, OrdinaryStock, true, 1, true, Ma, allocation},
-        {"difference without quantity, allocated moving average", 0, 0, -4, OrdinaryStock, true, 1, true, Ma,
-         allocation},
-        {"value without quantity, allocated FIFO", 0, 10, 0, OrdinaryStock, true, 1, true, Valuation::Fifo, {}},
-        {"value without quantity, allocated unknown method", 0, 10, 0, OrdinaryStock, true, 1, true, 12345, {}},
-        {"allocated average with quantity", 2, 10, 0, OrdinaryStock, true, 1, true, Wa, {}},
-    };
-    for (const Case &c : cases) {
-        QTest::newRow(c.name) << c.quantity << c.amount << c.difference << c.stockType << c.underStock
-                              << c.auditChoice << c.allocate << c.track << c.message;
+        QTest::addColumn<double>("quantity");
+        QTest::addColumn<double>("amount");
+        QTest::addColumn<double>("difference");
+        QTest::addColumn<int>("stockType");
+        QTest::addColumn<bool>("underStock");
+        QTest::addColumn<int>("auditChoice");
+        QTest::addColumn<bool>("allocate");
+        QTest::addColumn<int>("track");
+        QTest::addColumn<QString>("message"); // empty: the group passes
+
+        const QString negative =
+            lines({"录入的数据[数量<0]！", "但账套不允许负结存,因此数量不能<0！", "数据非法！请重新录入！"});
+        const QString negativePrice = lines({"录入的数据[数量>0，金额<0]！", "单价将出现负数，数据非法！请重新录入！"});
+        const QString positiveValue = lines({"录入的数据[数量<0，金额>0]！", "单价将出现负数，数据非法！请重新录入！"});
+        const QString noAmount =
+            lines({"录入的数据[金额=0]！", "但账套实行数量金额核算,因此金额不能等于0！", "数据非法！请重新录入！"});
+        const QString allocation = lines({"分摊的数据[数量=0，金额<>0]！", "单价将不一致，数据非法！请重新录入！"});
+
+        struct Case
+        {
+            const char *name;
+            double quantity, amount, difference;
+            int stockType;
+            bool underStock;
+            int auditChoice;
+            bool allocate;
+            int track;
+            QString message;
+        };
+        constexpr int Wa = Valuation::WeightedAverage;
+        constexpr int Ma = Valuation::MovingAverage;
+        const Case cases[] = {
+            {"negative stock refused", -5, -100, 0, OrdinaryStock, false, 0, false, 0, negative},
+            {"negative stock allowed", -5, -100, 0, OrdinaryStock, true, 0, false, 0, {}},
+            // Without negative stock the sign of the quantity is refused before the price rules look.
+            {"negative quantity, positive value, no negative stock", -1, 5, 0, OrdinaryStock, false, 0, false, 0, negative},
+            {"negative quantity, positive value", -1, 5, 0, OrdinaryStock, true, 0, false, 0, positiveValue},
+            {"positive quantity, negative amount", 1, -1, 0, OrdinaryStock, true, 0, false, 0, negativePrice},
+            // The value is amount plus difference: a difference larger than the amount turns the price.
+            {"difference turns the value negative", 2, 5, -10, OrdinaryStock, true, 0, false, 0, negativePrice},
+            {"difference alone gives the value", 2, 0, 3, OrdinaryStock, true, 1, false, 0, {}},
+            {"quantity without amount, amounts kept", 3, 0, 0, OrdinaryStock, true, 1, false, 0, noAmount},
+            {"amount and difference cancel, amounts kept", 3, 5, -5, OrdinaryStock, true, 1, false, 0, noAmount},
+            {"quantity without amount, quantities only", 3, 0, 0, OrdinaryStock, true, 0, false, 0, {}},
+            {"quantity without amount, agency warehouse", 3, 0, 0, AgencyStock, true, 1, false, 0, {}},
+            {"value without quantity, entry grid", 0, 10, 0, OrdinaryStock, true, 1, false, Wa, {}},
+            {"value without quantity, allocated weighted average", 0, 10, 0, OrdinaryStock, true, 1, true, Wa, allocation},
+            {"value without quantity, allocated moving average", 0, 10, 0, OrdinaryStock, true, 1, true, Ma, allocation},
+            {"difference without quantity, allocated moving average", 0, 0, -4, OrdinaryStock, true, 1, true, Ma,
+             allocation},
+            {"value without quantity, allocated FIFO", 0, 10, 0, OrdinaryStock, true, 1, true, Valuation::Fifo, {}},
+            {"value without quantity, allocated unknown method", 0, 10, 0, OrdinaryStock, true, 1, true, 12345, {}},
+            {"allocated average with quantity", 2, 10, 0, OrdinaryStock, true, 1, true, Wa, {}},
+        };
+        for (const Case &c : cases) {
+            QTest::newRow(c.name) << c.quantity << c.amount << c.difference << c.stockType << c.underStock
+                                  << c.auditChoice << c.allocate << c.track << c.message;
+        }
     }
-}
 
-void TestBalanceCheck::group()
-{
-    QFETCH(double, quantity);
-    QFETCH(double, amount);
-    QFETCH(double, difference);
-    QFETCH(int, stockType);
-    QFETCH(bool, underStock);
-    QFETCH(int, auditChoice);
-    QFETCH(bool, allocate);
-    QFETCH(int, track);
-    QFETCH(QString, message);
+    void group()
+    {
+        QFETCH(double, quantity);
+        QFETCH(double, amount);
+        QFETCH(double, difference);
+        QFETCH(int, stockType);
+        QFETCH(bool, underStock);
+        QFETCH(int, auditChoice);
+        QFETCH(bool, allocate);
+        QFETCH(int, track);
+        QFETCH(QString, message);
 
-    int emptyGroups = 0;
-    const BalanceVerdict verdict = BalanceCheck::check(quantity, amount, difference, emptyGroups, allocate, track,
-                                                       {stockType, underStock, auditChoice});
-    QCOMPARE(verdict.valid, message.isEmpty());
-    QCOMPARE(verdict.lines.join(CrLf), message);
-    QCOMPARE(emptyGroups, 0);
-}
-
-void TestBalanceCheck::emptyRowRefusedOnceOnFourthGroup_data()
-{
-    QTest::addColumn<int>("stockType");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("ordinary warehouse")
-        << OrdinaryStock << lines({"录入的数据[数量=0，金额=0]！", "没有实际意义，数据非法！请重新录入！"});
-    QTest::newRow("agency warehouse")
-        << AgencyStock << lines({"录入的数据[数量=0]！", "没有实际意义，数据非法！请重新录入！"});
-}
-
-void TestBalanceCheck::emptyRowRefusedOnceOnFourthGroup()
-{
-    QFETCH(int, stockType);
-    QFETCH(QString, message);
-    const BalanceRules rules{stockType, false, 1};
-
-    int emptyGroups = 0;
-    for (int group = 1; group <= 3; ++group) {
-        QVERIFY(BalanceCheck::check(0, 0, 0, emptyGroups, false, 0, rules).valid);
-        QCOMPARE(emptyGroups, group);
+        int emptyGroups = 0;
+        const BalanceVerdict verdict = BalanceCheck::check(quantity, amount, difference, emptyGroups, allocate, track,
+                                                           {stockType, underStock, auditChoice});
+        QCOMPARE(verdict.valid, message.isEmpty());
+        QCOMPARE(verdict.lines.join(CrLf), message);
+        QCOMPARE(emptyGroups, 0);
     }
-    const BalanceVerdict fourth = BalanceCheck::check(0, 0, 0, emptyGroups, false, 0, rules);
-    QVERIFY(!fourth.valid);
-    QCOMPARE(fourth.lines.join(CrLf), message);
 
-    // One filled group among empty ones keeps the row.
-    int counter = 0;
-    for (int group = 0; group < 3; ++group)
-        QVERIFY(BalanceCheck::check(0, 0, 0, counter, false, 0, rules).valid);
-    QVERIFY(BalanceCheck::check(1, 10, 0, counter, false, 0, rules).valid);
-    QCOMPARE(counter, 3);
-}
+    void emptyRowRefusedOnceOnFourthGroup_data()
+    {
+        QTest::addColumn<int>("stockType");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("ordinary warehouse")
+            << OrdinaryStock << lines({"录入的数据[数量=0，金额=0]！", "没有实际意义，数据非法！请重新录入！"});
+        QTest::newRow("agency warehouse")
+            << AgencyStock << lines({"录入的数据[数量=0]！", "没有实际意义，数据非法！请重新录入！"});
+    }
+
+    void emptyRowRefusedOnceOnFourthGroup()
+    {
+        QFETCH(int, stockType);
+        QFETCH(QString, message);
+        const BalanceRules rules{stockType, false, 1};
+
+        int emptyGroups = 0;
+        for (int group = 1; group <= 3; ++group) {
+            QVERIFY(BalanceCheck::check(0, 0, 0, emptyGroups, false, 0, rules).valid);
+            QCOMPARE(emptyGroups, group);
+        }
+        const BalanceVerdict fourth = BalanceCheck::check(0, 0, 0, emptyGroups, false, 0, rules);
+        QVERIFY(!fourth.valid);
+        QCOMPARE(fourth.lines.join(CrLf), message);
+
+        // One filled group among empty ones keeps the row.
+        int counter = 0;
+        for (int group = 0; group < 3; ++group)
+            QVERIFY(BalanceCheck::check(0, 0, 0, counter, false, 0, rules).valid);
+        QVERIFY(BalanceCheck::check(1, 10, 0, counter, false, 0, rules).valid);
+        QCOMPARE(counter, 3);
+    }
+};
+
+QTEST_MAIN(TestBalanceCheck)
+#include "tst_balancecheck.moc"

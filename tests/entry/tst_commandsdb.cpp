@@ -1,6 +1,5 @@
-#include "tst_commandsdb.h"
-
 #include "entrydbfixture.h"
+#include "privatesettings.h"
 #include "hostframe.h"
 #include "scratchaccountset.h"
 
@@ -12,6 +11,7 @@
 #include "sheet/navtree.h"
 
 #include "frame/barlist.h"
+#include "frame/prompter.h"
 #include "frame/settingsstore.h"
 #include "frame/statuspanels.h"
 
@@ -156,317 +156,342 @@ const SettingSpec *const viewSettings[] = {&Setting::ShowToolBar, &Setting::Show
 
 } // namespace
 
-void TestCommandsOnAccountSet::initTestCase()
+// The entry control's commands on a temporary demo account set: every key of the command table
+// through the menu, the control's toolbar and the host's toolbar; enabling by mode and by the
+// state of initialisation; the view settings; the keyboard.
+class TestCommandsOnAccountSet : public QObject
 {
-    Prompter::install(&m_prompter);
-    m_keysSet = std::make_unique<ScratchAccountSet>(ScratchAccountSet::Sqlite);
-}
+    Q_OBJECT
 
-void TestCommandsOnAccountSet::cleanupTestCase()
-{
-    m_idleHost.reset();
-    m_keysSet.reset();
-    Prompter::install(nullptr);
-}
+private:
+    ScriptedPrompter m_prompter;
+    // Shared by the key rows: the account set, and the control for the keys that do nothing.
+    std::unique_ptr<ScratchAccountSet> m_keysSet;
+    std::unique_ptr<HostFrame> m_idleHost;
 
-void TestCommandsOnAccountSet::init()
-{
-    m_prompter.clear();
-    // Only what a test changed is written back: every write rewrites and syncs the settings file.
-    for (const SettingSpec *viewSetting : viewSettings) {
-        if (SettingsStore::boolValue(*viewSetting) != viewSetting->defaultValue.toBool())
-            SettingsStore::setValue(*viewSetting, viewSetting->defaultValue);
-    }
-}
-
-void TestCommandsOnAccountSet::menusAreGroupedAsPublished_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("menu");
-    QTest::newRow("file") << QStringLiteral("mcFSave") << QStringLiteral("文件(&F)");
-    QTest::newRow("edit") << QStringLiteral("mcEFind") << QStringLiteral("编辑(&E)");
-    QTest::newRow("view") << QStringLiteral("mcVTree") << QStringLiteral("查看(&V)");
-    QTest::newRow("format") << QStringLiteral("mcWToolBar") << QStringLiteral("格式(&O)");
-}
-
-void TestCommandsOnAccountSet::menusAreGroupedAsPublished()
-{
-    QFETCH(QString, key);
-    QFETCH(QString, menu);
-    const ICInitCtl control;
-    QVERIFY(control.barList()->item(key));
-    QCOMPARE(control.barList()->item(key)->menu, menu);
-}
-
-void TestCommandsOnAccountSet::everyKeyReachesItsProcedure_data()
-{
-    QTest::addColumn<int>("route");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<int>("effect");
-    // Each key through its own menu or toolbar and through the host's.
-    const auto addRows = [](const KeyEffect &row, Route own) {
-        const QString key = QString::fromLatin1(row.key);
-        QTest::addRow("%s %s", own == Route::Menu ? "menu" : "toolbar", row.key) << int(own) << key << int(row.effect);
-        QTest::addRow("host %s", row.key) << int(Route::Host) << key << int(row.effect);
-    };
-    for (const KeyEffect &row : menuKeys)
-        addRows(row, Route::Menu);
-    for (const KeyEffect &row : toolKeys)
-        addRows(row, Route::ToolBar);
-}
-
-void TestCommandsOnAccountSet::everyKeyReachesItsProcedure()
-{
-    QFETCH(int, route);
-    QFETCH(QString, key);
-    QFETCH(int, effect);
-    // One demo account set for all rows: the screw's figure is all a row writes.
-    const ScratchAccountSet &scratch = *m_keysSet;
-    SqlRun::exec(scratch.db(),
-                 QStringLiteral("UPDATE ICInvInitial SET FBegDiff=? WHERE FStockID=1 AND FSPID=2 AND FItemID=?"),
-                 {ScrewBegDiff, Screw});
-    // A key that must do nothing leaves the control as it was, so those keys share one control;
-    // every other key gets a control of its own.
-    std::unique_ptr<HostFrame> ownHost;
-    if (Effect(effect) != Effect::Nothing)
-        ownHost = showAtShelfB(scratch);
-    else if (!m_idleHost)
-        m_idleHost = showAtShelfB(scratch);
-    HostFrame *const shown = ownHost ? ownHost.get() : m_idleHost.get();
-    QVERIFY(shown);
-    HostFrame &host = *shown;
-    auto *control = host.findChild<ICInitCtl *>();
-    SpreadGrid &grid = *control->grid();
-    const int screw = itemRow(*control, Screw);
-    QVERIFY(screw > 0);
-    const int defaultWidth = grid.colWidth(EntryCol::Name);
-    switch (Effect(effect)) {
-    case Effect::Saves:
-        QVERIFY(grid.editCell(screw, EntryCol::BegDiff, 140));
-        break;
-    case Effect::DeletesRow:
-        grid.select(screw, EntryCol::Number);
-        break;
-    case Effect::Reloads:
-        SqlRun::exec(scratch.db(), QStringLiteral("UPDATE ICInvInitial SET FBegDiff=99 WHERE FItemID=?"), {Screw});
-        break;
-    case Effect::RestoresWidths:
-        grid.setColWidth(EntryCol::Name, defaultWidth + 77);
-        break;
-    default:
-        break;
-    }
-    const Snapshot before = Snapshot::of(*control, host, scratch);
-    const bool wasChecked = control->barList()->isChecked(key);
-
-    const bool ran = run(Route(route), key, *control, host);
-    if (Effect(effect) != Effect::Nothing)
-        QVERIFY2(ran, "the key has a button on the control's toolbar");
-
-    switch (Effect(effect)) {
-    case Effect::Saves:
-        QCOMPARE(storedBegDiff(scratch, Screw), 140.0);
-        QVERIFY(!control->barList()->isEnabled(key));
-        break;
-    case Effect::AddsRow:
-        QCOMPARE(grid.rows(), before.rows + 1);
-        QVERIFY(control->sheet()->isNewRow(grid.row()));
-        QCOMPARE(grid.col(), int(EntryCol::Number));
-        break;
-    case Effect::DeletesRow:
-        QCOMPARE(grid.rows(), before.rows - 1);
-        QCOMPARE(itemRow(*control, Screw), 0);
-        QCOMPARE(storedBegDiff(scratch, Screw), 150.0); // until it is saved
-        break;
-    case Effect::ShowsTotals:
-        QCOMPARE(grid.row(), control->sheet()->totalsRow());
-        QCOMPARE(grid.TextMatrix(grid.row(), EntryCol::Number), QStringLiteral("总计"));
-        break;
-    case Effect::Reloads:
-        QCOMPARE(grid.number(itemRow(*control, Screw), EntryCol::BegDiff), 99.0);
-        break;
-    case Effect::RestoresWidths:
-        QCOMPARE(grid.colWidth(EntryCol::Name), defaultWidth);
-        break;
-    case Effect::TogglesTree:
-        QCOMPARE(control->tree()->isVisibleTo(control), !before.treeShown);
-        break;
-    case Effect::Toggles: {
-        QCOMPARE(control->barList()->isChecked(key), !wasChecked);
-        const Snapshot after = Snapshot::of(*control, host, scratch);
-        QCOMPARE(after.toolbarShown, key == EntryKeys::ToolBar ? !before.toolbarShown : before.toolbarShown);
-        QCOMPARE(after.labels, key == EntryKeys::ToolBarLabel ? !before.labels : before.labels);
-        QCOMPARE(after.statusShown, key == EntryKeys::StatusBar ? !before.statusShown : before.statusShown);
-        break;
-    }
-    case Effect::ClosesFrame:
-        QVERIFY(host.closedByKey());
-        QVERIFY(!host.isVisible());
-        break;
-    case Effect::Nothing:
-        QVERIFY(!control->barList()->isEnabled(key) || !control->barList()->isVisible(key));
-        QVERIFY(Snapshot::of(*control, host, scratch) == before);
-        QVERIFY(m_prompter.messages().isEmpty());
-        break;
-    }
-}
-
-void TestCommandsOnAccountSet::toggleClickedTwiceKeepsTheSavedSetting_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("setting");
-    QTest::newRow("toolbar") << EntryKeys::ToolBar << QString::fromLatin1(Setting::ShowToolBar.key);
-    QTest::newRow("labels") << EntryKeys::ToolBarLabel << QString::fromLatin1(Setting::ShowToolBarLabel.key);
-    QTest::newRow("status bar") << EntryKeys::StatusBar << QString::fromLatin1(Setting::ShowStateBar.key);
-    QTest::newRow("default stock") << EntryKeys::DefaultStock << QString::fromLatin1(Setting::ShowDefaultStock.key);
-    QTest::newRow("refresh") << EntryKeys::AutoRefresh << QString::fromLatin1(Setting::ShowRefresh.key);
-}
-
-void TestCommandsOnAccountSet::toggleClickedTwiceKeepsTheSavedSetting()
-{
-    QFETCH(QString, key);
-    QFETCH(QString, setting);
-    const SettingSpec *viewSetting = nullptr;
-    for (const SettingSpec *s : viewSettings) {
-        if (QLatin1String(s->key) == setting)
-            viewSetting = s;
-    }
-    QVERIFY(viewSetting);
-    // Stored the other way round from the default, so that a reset to defaults would show.
-    const bool stored = !viewSetting->defaultValue.toBool();
-    SettingsStore::setValue(*viewSetting, stored);
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    HostFrame host;
-    ICInitCtl control;
-    QVERIFY(show(control, scratch, &host));
-    QCOMPARE(control.barList()->isChecked(key), stored);
-    control.tree()->clickNode(ShelfB); // the default-stock toggle is offered at places with rows
-    const int redraws = host.menuBarsReceived();
-    QVERIFY(control.barList()->Click(key));
-    QCOMPARE(control.barList()->isChecked(key), !stored);
-    emit host.ToolBarClick(key);
-    QCOMPARE(control.barList()->isChecked(key), stored);
-    QCOMPARE(host.menuBarsReceived(), redraws + 2);
-    control.NotifyMessage(QStringLiteral("QueryUnload"), {});
-    QCOMPARE(SettingsStore::boolValue(*viewSetting), stored);
-}
-
-void TestCommandsOnAccountSet::viewSettingsSurviveANewShow()
-{
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+private slots:
+    void initTestCase()
     {
+        Prompter::install(&m_prompter);
+        m_keysSet = std::make_unique<ScratchAccountSet>(ScratchAccountSet::Sqlite);
+    }
+
+    void cleanupTestCase()
+    {
+        m_idleHost.reset();
+        m_keysSet.reset();
+        Prompter::install(nullptr);
+    }
+
+    void init()
+    {
+        m_prompter.clear();
+        // Only what a test changed is written back: every write rewrites and syncs the settings file.
+        for (const SettingSpec *viewSetting : viewSettings) {
+            if (SettingsStore::boolValue(*viewSetting) != viewSetting->defaultValue.toBool())
+                SettingsStore::setValue(*viewSetting, viewSetting->defaultValue);
+        }
+    }
+
+    void menusAreGroupedAsPublished_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("menu");
+        QTest::newRow("file") << QStringLiteral("mcFSave") << QStringLiteral("文件(&F)");
+        QTest::newRow("edit") << QStringLiteral("mcEFind") << QStringLiteral("编辑(&E)");
+        QTest::newRow("view") << QStringLiteral("mcVTree") << QStringLiteral("查看(&V)");
+        QTest::newRow("format") << QStringLiteral("mcWToolBar") << QStringLiteral("格式(&O)");
+    }
+
+    void menusAreGroupedAsPublished()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, menu);
+        const ICInitCtl control;
+        QVERIFY(control.barList()->item(key));
+        QCOMPARE(control.barList()->item(key)->menu, menu);
+    }
+
+    void everyKeyReachesItsProcedure_data()
+    {
+        QTest::addColumn<int>("route");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<int>("effect");
+        // Each key through its own menu or toolbar and through the host's.
+        const auto addRows = [](const KeyEffect &row, Route own) {
+            const QString key = QString::fromLatin1(row.key);
+            QTest::addRow("%s %s", own == Route::Menu ? "menu" : "toolbar", row.key) << int(own) << key << int(row.effect);
+            QTest::addRow("host %s", row.key) << int(Route::Host) << key << int(row.effect);
+        };
+        for (const KeyEffect &row : menuKeys)
+            addRows(row, Route::Menu);
+        for (const KeyEffect &row : toolKeys)
+            addRows(row, Route::ToolBar);
+    }
+
+    void everyKeyReachesItsProcedure()
+    {
+        QFETCH(int, route);
+        QFETCH(QString, key);
+        QFETCH(int, effect);
+        // One demo account set for all rows: the screw's figure is all a row writes.
+        const ScratchAccountSet &scratch = *m_keysSet;
+        SqlRun::exec(scratch.db(),
+                     QStringLiteral("UPDATE ICInvInitial SET FBegDiff=? WHERE FStockID=1 AND FSPID=2 AND FItemID=?"),
+                     {ScrewBegDiff, Screw});
+        // A key that must do nothing leaves the control as it was, so those keys share one control;
+        // every other key gets a control of its own.
+        std::unique_ptr<HostFrame> ownHost;
+        if (Effect(effect) != Effect::Nothing)
+            ownHost = showAtShelfB(scratch);
+        else if (!m_idleHost)
+            m_idleHost = showAtShelfB(scratch);
+        HostFrame *const shown = ownHost ? ownHost.get() : m_idleHost.get();
+        QVERIFY(shown);
+        HostFrame &host = *shown;
+        auto *control = host.findChild<ICInitCtl *>();
+        SpreadGrid &grid = *control->grid();
+        const int screw = itemRow(*control, Screw);
+        QVERIFY(screw > 0);
+        const int defaultWidth = grid.colWidth(EntryCol::Name);
+        switch (Effect(effect)) {
+        case Effect::Saves:
+            QVERIFY(grid.editCell(screw, EntryCol::BegDiff, 140));
+            break;
+        case Effect::DeletesRow:
+            grid.select(screw, EntryCol::Number);
+            break;
+        case Effect::Reloads:
+            SqlRun::exec(scratch.db(), QStringLiteral("UPDATE ICInvInitial SET FBegDiff=99 WHERE FItemID=?"), {Screw});
+            break;
+        case Effect::RestoresWidths:
+            grid.setColWidth(EntryCol::Name, defaultWidth + 77);
+            break;
+        default:
+            break;
+        }
+        const Snapshot before = Snapshot::of(*control, host, scratch);
+        const bool wasChecked = control->barList()->isChecked(key);
+
+        const bool ran = run(Route(route), key, *control, host);
+        if (Effect(effect) != Effect::Nothing)
+            QVERIFY2(ran, "the key has a button on the control's toolbar");
+
+        switch (Effect(effect)) {
+        case Effect::Saves:
+            QCOMPARE(storedBegDiff(scratch, Screw), 140.0);
+            QVERIFY(!control->barList()->isEnabled(key));
+            break;
+        case Effect::AddsRow:
+            QCOMPARE(grid.rows(), before.rows + 1);
+            QVERIFY(control->sheet()->isNewRow(grid.row()));
+            QCOMPARE(grid.col(), int(EntryCol::Number));
+            break;
+        case Effect::DeletesRow:
+            QCOMPARE(grid.rows(), before.rows - 1);
+            QCOMPARE(itemRow(*control, Screw), 0);
+            QCOMPARE(storedBegDiff(scratch, Screw), 150.0); // until it is saved
+            break;
+        case Effect::ShowsTotals:
+            QCOMPARE(grid.row(), control->sheet()->totalsRow());
+            QCOMPARE(grid.TextMatrix(grid.row(), EntryCol::Number), QStringLiteral("总计"));
+            break;
+        case Effect::Reloads:
+            QCOMPARE(grid.number(itemRow(*control, Screw), EntryCol::BegDiff), 99.0);
+            break;
+        case Effect::RestoresWidths:
+            QCOMPARE(grid.colWidth(EntryCol::Name), defaultWidth);
+            break;
+        case Effect::TogglesTree:
+            QCOMPARE(control->tree()->isVisibleTo(control), !before.treeShown);
+            break;
+        case Effect::Toggles: {
+            QCOMPARE(control->barList()->isChecked(key), !wasChecked);
+            const Snapshot after = Snapshot::of(*control, host, scratch);
+            QCOMPARE(after.toolbarShown, key == EntryKeys::ToolBar ? !before.toolbarShown : before.toolbarShown);
+            QCOMPARE(after.labels, key == EntryKeys::ToolBarLabel ? !before.labels : before.labels);
+            QCOMPARE(after.statusShown, key == EntryKeys::StatusBar ? !before.statusShown : before.statusShown);
+            break;
+        }
+        case Effect::ClosesFrame:
+            QVERIFY(host.closedByKey());
+            QVERIFY(!host.isVisible());
+            break;
+        case Effect::Nothing:
+            QVERIFY(!control->barList()->isEnabled(key) || !control->barList()->isVisible(key));
+            QVERIFY(Snapshot::of(*control, host, scratch) == before);
+            QVERIFY(m_prompter.messages().isEmpty());
+            break;
+        }
+    }
+
+    void toggleClickedTwiceKeepsTheSavedSetting_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("setting");
+        QTest::newRow("toolbar") << EntryKeys::ToolBar << QString::fromLatin1(Setting::ShowToolBar.key);
+        QTest::newRow("labels") << EntryKeys::ToolBarLabel << QString::fromLatin1(Setting::ShowToolBarLabel.key);
+        QTest::newRow("status bar") << EntryKeys::StatusBar << QString::fromLatin1(Setting::ShowStateBar.key);
+        QTest::newRow("default stock") << EntryKeys::DefaultStock << QString::fromLatin1(Setting::ShowDefaultStock.key);
+        QTest::newRow("refresh") << EntryKeys::AutoRefresh << QString::fromLatin1(Setting::ShowRefresh.key);
+    }
+
+    void toggleClickedTwiceKeepsTheSavedSetting()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, setting);
+        const SettingSpec *viewSetting = nullptr;
+        for (const SettingSpec *s : viewSettings) {
+            if (QLatin1String(s->key) == setting)
+                viewSetting = s;
+        }
+        QVERIFY(viewSetting);
+        // Stored the other way round from the default, so that a reset to defaults would show.
+        const bool stored = !viewSetting->defaultValue.toBool();
+        SettingsStore::setValue(*viewSetting, stored);
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
         HostFrame host;
         ICInitCtl control;
         QVERIFY(show(control, scratch, &host));
-        QVERIFY(control.barList()->Click(EntryKeys::StatusBar));
-        QVERIFY(control.barList()->Click(EntryKeys::ToolBarLabel));
-        QVERIFY(control.barList()->Click(EntryKeys::AutoRefresh));
+        QCOMPARE(control.barList()->isChecked(key), stored);
+        control.tree()->clickNode(ShelfB); // the default-stock toggle is offered at places with rows
+        const int redraws = host.menuBarsReceived();
+        QVERIFY(control.barList()->Click(key));
+        QCOMPARE(control.barList()->isChecked(key), !stored);
+        emit host.ToolBarClick(key);
+        QCOMPARE(control.barList()->isChecked(key), stored);
+        QCOMPARE(host.menuBarsReceived(), redraws + 2);
         control.NotifyMessage(QStringLiteral("QueryUnload"), {});
+        QCOMPARE(SettingsStore::boolValue(*viewSetting), stored);
     }
-    HostFrame host;
-    ICInitCtl control;
-    QVERIFY(show(control, scratch, &host));
-    QVERIFY(!control.barList()->isChecked(EntryKeys::StatusBar));
-    QVERIFY(control.statusPanels()->isHidden());
-    QVERIFY(!control.barList()->isChecked(EntryKeys::ToolBarLabel));
-    QVERIFY(!control.barList()->toolbarLabels());
-    QVERIFY(control.barList()->isChecked(EntryKeys::AutoRefresh));
-    QVERIFY(control.barList()->isChecked(EntryKeys::ToolBar));
-}
 
-void TestCommandsOnAccountSet::enablingFollowsModeAndInitialisation_data()
+    void viewSettingsSurviveANewShow()
+    {
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        {
+            HostFrame host;
+            ICInitCtl control;
+            QVERIFY(show(control, scratch, &host));
+            QVERIFY(control.barList()->Click(EntryKeys::StatusBar));
+            QVERIFY(control.barList()->Click(EntryKeys::ToolBarLabel));
+            QVERIFY(control.barList()->Click(EntryKeys::AutoRefresh));
+            control.NotifyMessage(QStringLiteral("QueryUnload"), {});
+        }
+        HostFrame host;
+        ICInitCtl control;
+        QVERIFY(show(control, scratch, &host));
+        QVERIFY(!control.barList()->isChecked(EntryKeys::StatusBar));
+        QVERIFY(control.statusPanels()->isHidden());
+        QVERIFY(!control.barList()->isChecked(EntryKeys::ToolBarLabel));
+        QVERIFY(!control.barList()->toolbarLabels());
+        QVERIFY(control.barList()->isChecked(EntryKeys::AutoRefresh));
+        QVERIFY(control.barList()->isChecked(EntryKeys::ToolBar));
+    }
+
+    void enablingFollowsModeAndInitialisation_data()
+    {
+        QTest::addColumn<bool>("closed");
+        QTest::newRow("initialisation open") << false;
+        QTest::newRow("initialisation closed") << true;
+    }
+
+    void enablingFollowsModeAndInitialisation()
+    {
+        QFETCH(bool, closed);
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        setParameter(scratch, QStringLiteral("ICClosed"), closed ? 1 : 0);
+        HostFrame host;
+        ICInitCtl control;
+        QVERIFY(show(control, scratch, &host));
+        control.tree()->clickNode(ShelfB);
+        BarList &bars = *control.barList();
+        for (const char *key : {"mcEAddNew", "AddNew", "mcEDelete", "Delete"})
+            QVERIFY2(bars.isEnabled(QLatin1String(key)) == !closed, key);
+        QVERIFY(bars.isEnabled(QStringLiteral("mcESum")));
+
+        // A typed figure enables Save only while initialisation is open.
+        const int screw = itemRow(control, Screw);
+        QVERIFY(control.grid()->editCell(screw, EntryCol::BegDiff, 140));
+        QCOMPARE(bars.isEnabled(EntryKeys::Save), !closed);
+        QCOMPARE(bars.isEnabled(EntryKeys::FSave), !closed);
+        QCOMPARE(bars.Click(EntryKeys::FSave), !closed);
+        emit host.ToolBarClick(EntryKeys::Save);
+        QCOMPARE(storedBegDiff(scratch, Screw), closed ? 150.0 : 140.0);
+
+        // Reconciliation enters no rows.
+        control.switchMode(true);
+        for (const char *key : {"mcEAddNew", "AddNew", "mcEDelete", "Delete", "mcESum", "Sum", "mcFSave", "Save"})
+            QVERIFY2(!bars.isEnabled(QLatin1String(key)), key);
+        control.switchMode(false);
+        QCOMPARE(bars.isEnabled(QStringLiteral("AddNew")), !closed);
+        QVERIFY(bars.isEnabled(QStringLiteral("Sum")));
+        QVERIFY(!bars.isEnabled(EntryKeys::Save));
+    }
+
+    void reconciliationCommandsNeedAmounts_data()
+    {
+        QTest::addColumn<int>("auditChoice");
+        QTest::newRow("quantities only") << 0;
+        QTest::newRow("quantities and amounts") << 1;
+    }
+
+    void reconciliationCommandsNeedAmounts()
+    {
+        QFETCH(int, auditChoice);
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        setParameter(scratch, QStringLiteral("AuditChoice"), auditChoice);
+        HostFrame host;
+        ICInitCtl control;
+        QVERIFY(show(control, scratch, &host));
+        control.tree()->clickNode(ShelfB);
+        const BarList &bars = *control.barList();
+        for (const char *key : {"mcVCheck", "Check", "mcVBalance", "Balance", "Transfer"})
+            QVERIFY2(bars.isVisible(QLatin1String(key)) == (auditChoice != 0), key);
+        // Quantities alone keep no amounts to show.
+        for (int col : {EntryCol::YtdBegBal, EntryCol::Debit, EntryCol::Credit, EntryCol::BegBal})
+            QCOMPARE(control.grid()->colHidden(col), auditChoice == 0);
+        QVERIFY(!control.grid()->colHidden(EntryCol::BegQty));
+        // The entry commands are there either way.
+        for (const char *key : {"mcEAddNew", "AddNew", "mcESum", "Sum", "mcFSave", "Save"})
+            QVERIFY2(bars.isVisible(QLatin1String(key)), key);
+        // The warehouse root shows no entry commands, whatever the accounting.
+        control.tree()->clickNode(QStringLiteral("K0"));
+        for (const char *key : {"mcVBalance", "Balance", "AddNew"})
+            QVERIFY2(!bars.isVisible(QLatin1String(key)), key);
+    }
+
+    void keysRunTheCommandOfTheirAccelerator()
+    {
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        HostFrame host;
+        ICInitCtl control;
+        QVERIFY(show(control, scratch, &host));
+        control.tree()->clickNode(ShelfB);
+        SpreadGrid &grid = *control.grid();
+        const int rows = grid.rows();
+
+        QTest::keyClick(&control, Qt::Key_A); // no command has it
+        QCOMPARE(grid.rows(), rows);
+        QTest::keyClick(&control, Qt::Key_N, Qt::ControlModifier);
+        QCOMPARE(grid.rows(), rows + 1);
+
+        SqlRun::exec(scratch.db(), QStringLiteral("UPDATE ICInvInitial SET FBegDiff=99 WHERE FItemID=?"), {Screw});
+        QTest::keyClick(&control, Qt::Key_F5); // reloads; the empty new row goes without a question
+        QCOMPARE(grid.rows(), rows);
+        QCOMPARE(grid.number(itemRow(control, Screw), EntryCol::BegDiff), 99.0);
+
+        QVERIFY(grid.editCell(itemRow(control, Screw), EntryCol::BegDiff, 140));
+        QTest::keyClick(&control, Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(storedBegDiff(scratch, Screw), 140.0);
+    }
+};
+
+int main(int argc, char **argv)
 {
-    QTest::addColumn<bool>("closed");
-    QTest::newRow("initialisation open") << false;
-    QTest::newRow("initialisation closed") << true;
+    // The view settings this suite's controls save stay with this process.
+    const PrivateSettings settings;
+    QApplication app(argc, argv);
+    TestCommandsOnAccountSet suite;
+    return QTest::qExec(&suite, argc, argv);
 }
-
-void TestCommandsOnAccountSet::enablingFollowsModeAndInitialisation()
-{
-    QFETCH(bool, closed);
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    setParameter(scratch, QStringLiteral("ICClosed"), closed ? 1 : 0);
-    HostFrame host;
-    ICInitCtl control;
-    QVERIFY(show(control, scratch, &host));
-    control.tree()->clickNode(ShelfB);
-    BarList &bars = *control.barList();
-    for (const char *key : {"mcEAddNew", "AddNew", "mcEDelete", "Delete"})
-        QVERIFY2(bars.isEnabled(QLatin1String(key)) == !closed, key);
-    QVERIFY(bars.isEnabled(QStringLiteral("mcESum")));
-
-    // A typed figure enables Save only while initialisation is open.
-    const int screw = itemRow(control, Screw);
-    QVERIFY(control.grid()->editCell(screw, EntryCol::BegDiff, 140));
-    QCOMPARE(bars.isEnabled(EntryKeys::Save), !closed);
-    QCOMPARE(bars.isEnabled(EntryKeys::FSave), !closed);
-    QCOMPARE(bars.Click(EntryKeys::FSave), !closed);
-    emit host.ToolBarClick(EntryKeys::Save);
-    QCOMPARE(storedBegDiff(scratch, Screw), closed ? 150.0 : 140.0);
-
-    // Reconciliation enters no rows.
-    control.switchMode(true);
-    for (const char *key : {"mcEAddNew", "AddNew", "mcEDelete", "Delete", "mcESum", "Sum", "mcFSave", "Save"})
-        QVERIFY2(!bars.isEnabled(QLatin1String(key)), key);
-    control.switchMode(false);
-    QCOMPARE(bars.isEnabled(QStringLiteral("AddNew")), !closed);
-    QVERIFY(bars.isEnabled(QStringLiteral("Sum")));
-    QVERIFY(!bars.isEnabled(EntryKeys::Save));
-}
-
-void TestCommandsOnAccountSet::reconciliationCommandsNeedAmounts_data()
-{
-    QTest::addColumn<int>("auditChoice");
-    QTest::newRow("quantities only") << 0;
-    QTest::newRow("quantities and amounts") << 1;
-}
-
-void TestCommandsOnAccountSet::reconciliationCommandsNeedAmounts()
-{
-    QFETCH(int, auditChoice);
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    setParameter(scratch, QStringLiteral("AuditChoice"), auditChoice);
-    HostFrame host;
-    ICInitCtl control;
-    QVERIFY(show(control, scratch, &host));
-    control.tree()->clickNode(ShelfB);
-    const BarList &bars = *control.barList();
-    for (const char *key : {"mcVCheck", "Check", "mcVBalance", "Balance", "Transfer"})
-        QVERIFY2(bars.isVisible(QLatin1String(key)) == (auditChoice != 0), key);
-    // Quantities alone keep no amounts to show.
-    for (int col : {EntryCol::YtdBegBal, EntryCol::Debit, EntryCol::Credit, EntryCol::BegBal})
-        QCOMPARE(control.grid()->colHidden(col), auditChoice == 0);
-    QVERIFY(!control.grid()->colHidden(EntryCol::BegQty));
-    // The entry commands are there either way.
-    for (const char *key : {"mcEAddNew", "AddNew", "mcESum", "Sum", "mcFSave", "Save"})
-        QVERIFY2(bars.isVisible(QLatin1String(key)), key);
-    // The warehouse root shows no entry commands, whatever the accounting.
-    control.tree()->clickNode(QStringLiteral("K0"));
-    for (const char *key : {"mcVBalance", "Balance", "AddNew"})
-        QVERIFY2(!bars.isVisible(QLatin1String(key)), key);
-}
-
-void TestCommandsOnAccountSet::keysRunTheCommandOfTheirAccelerator()
-{
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    HostFrame host;
-    ICInitCtl control;
-    QVERIFY(show(control, scratch, &host));
-    control.tree()->clickNode(ShelfB);
-    SpreadGrid &grid = *control.grid();
-    const int rows = grid.rows();
-
-    QTest::keyClick(&control, Qt::Key_A); // no command has it
-    QCOMPARE(grid.rows(), rows);
-    QTest::keyClick(&control, Qt::Key_N, Qt::ControlModifier);
-    QCOMPARE(grid.rows(), rows + 1);
-
-    SqlRun::exec(scratch.db(), QStringLiteral("UPDATE ICInvInitial SET FBegDiff=99 WHERE FItemID=?"), {Screw});
-    QTest::keyClick(&control, Qt::Key_F5); // reloads; the empty new row goes without a question
-    QCOMPARE(grid.rows(), rows);
-    QCOMPARE(grid.number(itemRow(control, Screw), EntryCol::BegDiff), 99.0);
-
-    QVERIFY(grid.editCell(itemRow(control, Screw), EntryCol::BegDiff, 140));
-    QTest::keyClick(&control, Qt::Key_S, Qt::ControlModifier);
-    QCOMPARE(storedBegDiff(scratch, Screw), 140.0);
-}
+#include "tst_commandsdb.moc"

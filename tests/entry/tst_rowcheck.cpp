@@ -1,5 +1,3 @@
-#include "tst_rowcheck.h"
-
 #include "fakerowview.h"
 
 #include "sheet/entrygridlayout.h"
@@ -72,175 +70,184 @@ FakeRowView rowWith(int faults)
 
 } // namespace
 
-void TestRowCheck::init()
+class TestRowCheck : public QObject
 {
-    SysParams::replace(std::make_unique<Dictionary>());
-    setParam(SysParam::CurrentPeriod, 3);
-    setParam(SysParam::UnderStock, 0);
-    setParam(SysParam::AuditChoice, 1);
-}
+    Q_OBJECT
 
-void TestRowCheck::cleanup()
-{
-    SysParams::replace(nullptr);
-}
+private slots:
+    void init()
+    {
+        SysParams::replace(std::make_unique<Dictionary>());
+        setParam(SysParam::CurrentPeriod, 3);
+        setParam(SysParam::UnderStock, 0);
+        setParam(SysParam::AuditChoice, 1);
+    }
 
-void TestRowCheck::refusalOrderAndCursor_data()
-{
-    QTest::addColumn<int>("faults");
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QString>("message");
+    void cleanup()
+    {
+        SysParams::replace(nullptr);
+    }
 
-    const QString code = QStringLiteral("1.01.001");
-    const QString auxMessage = QStringLiteral("物料1.01.001使用颜色管理，请选择颜色！");
-    QTest::newRow("no item") << int(NoItemId) << code << EntryCol::Number << NoItem;
-    QTest::newRow("negative item id") << int(NegativeItemId) << code << EntryCol::Number << NoItem;
-    QTest::newRow("blank code") << int(BlankCode) << code << EntryCol::Number << NoItem;
-    // The rate column beside the unit takes the cursor, not the unit column.
-    QTest::newRow("no unit") << int(NoUnitId) << code << EntryCol::SecCoefficient << NoUnit;
-    QTest::newRow("auxiliary property not chosen") << int(NoAuxProp) << code << EntryCol::AuxProp << auxMessage;
-    QTest::newRow("code trimmed in the message") << int(NoAuxProp) << QStringLiteral("  1.01.001 ") << EntryCol::AuxProp
-                                                 << auxMessage;
-    QTest::newRow("item before everything")
-        << int(NoItemId | BlankCode | NoUnitId | NoAuxProp | BadFigures) << code << EntryCol::Number << NoItem;
-    QTest::newRow("code before unit") << int(BlankCode | NoUnitId) << code << EntryCol::Number << NoItem;
-    QTest::newRow("unit before auxiliary property")
-        << int(NoUnitId | NoAuxProp | BadFigures) << code << EntryCol::SecCoefficient << NoUnit;
-    QTest::newRow("auxiliary property before figures")
-        << int(NoAuxProp | BadFigures) << code << EntryCol::AuxProp << auxMessage;
-}
+    void refusalOrderAndCursor_data()
+    {
+        QTest::addColumn<int>("faults");
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<int>("column");
+        QTest::addColumn<QString>("message");
 
-void TestRowCheck::refusalOrderAndCursor()
-{
-    QFETCH(int, faults);
-    QFETCH(QString, code);
-    QFETCH(int, column);
-    QFETCH(QString, message);
+        const QString code = QStringLiteral("1.01.001");
+        const QString auxMessage = QStringLiteral("物料1.01.001使用颜色管理，请选择颜色！");
+        QTest::newRow("no item") << int(NoItemId) << code << EntryCol::Number << NoItem;
+        QTest::newRow("negative item id") << int(NegativeItemId) << code << EntryCol::Number << NoItem;
+        QTest::newRow("blank code") << int(BlankCode) << code << EntryCol::Number << NoItem;
+        // The rate column beside the unit takes the cursor, not the unit column.
+        QTest::newRow("no unit") << int(NoUnitId) << code << EntryCol::SecCoefficient << NoUnit;
+        QTest::newRow("auxiliary property not chosen") << int(NoAuxProp) << code << EntryCol::AuxProp << auxMessage;
+        QTest::newRow("code trimmed in the message") << int(NoAuxProp) << QStringLiteral("  1.01.001 ") << EntryCol::AuxProp
+                                                     << auxMessage;
+        QTest::newRow("item before everything")
+            << int(NoItemId | BlankCode | NoUnitId | NoAuxProp | BadFigures) << code << EntryCol::Number << NoItem;
+        QTest::newRow("code before unit") << int(BlankCode | NoUnitId) << code << EntryCol::Number << NoItem;
+        QTest::newRow("unit before auxiliary property")
+            << int(NoUnitId | NoAuxProp | BadFigures) << code << EntryCol::SecCoefficient << NoUnit;
+        QTest::newRow("auxiliary property before figures")
+            << int(NoAuxProp | BadFigures) << code << EntryCol::AuxProp << auxMessage;
+    }
 
-    FakeRowView row = rowWith(faults);
-    if (!(faults & BlankCode))
-        row.code = code;
-    ICInitStruct record;
-    const RowVerdict verdict = RowCheck::check(row, Place, className, record);
-    QVERIFY(!verdict.valid);
-    QCOMPARE(verdict.column, column);
-    QCOMPARE(verdict.message, message);
-}
+    void refusalOrderAndCursor()
+    {
+        QFETCH(int, faults);
+        QFETCH(QString, code);
+        QFETCH(int, column);
+        QFETCH(QString, message);
 
-void TestRowCheck::refusedGroupMovesToItsQuantity_data()
-{
-    QTest::addColumn<int>("group");
-    QTest::addColumn<int>("column");
-    QTest::newRow("year start") << 0 << EntryCol::YtdBegQty;
-    QTest::newRow("receipts") << 1 << EntryCol::ReceiveQty;
-    QTest::newRow("issues") << 2 << EntryCol::SendQty;
-    QTest::newRow("opening") << 3 << EntryCol::BegQty;
-}
+        FakeRowView row = rowWith(faults);
+        if (!(faults & BlankCode))
+            row.code = code;
+        ICInitStruct record;
+        const RowVerdict verdict = RowCheck::check(row, Place, className, record);
+        QVERIFY(!verdict.valid);
+        QCOMPARE(verdict.column, column);
+        QCOMPARE(verdict.message, message);
+    }
 
-void TestRowCheck::refusedGroupMovesToItsQuantity()
-{
-    QFETCH(int, group);
-    QFETCH(int, column);
+    void refusedGroupMovesToItsQuantity_data()
+    {
+        QTest::addColumn<int>("group");
+        QTest::addColumn<int>("column");
+        QTest::newRow("year start") << 0 << EntryCol::YtdBegQty;
+        QTest::newRow("receipts") << 1 << EntryCol::ReceiveQty;
+        QTest::newRow("issues") << 2 << EntryCol::SendQty;
+        QTest::newRow("opening") << 3 << EntryCol::BegQty;
+    }
 
-    FakeRowView row;
-    row.groups[size_t(group)] = {-2, 0, -20, 0};
-    ICInitStruct record;
-    const RowVerdict verdict = RowCheck::check(row, Place, className, record);
-    QVERIFY(!verdict.valid);
-    QCOMPARE(verdict.column, column);
-    QCOMPARE(verdict.message, Negative);
-}
+    void refusedGroupMovesToItsQuantity()
+    {
+        QFETCH(int, group);
+        QFETCH(int, column);
 
-void TestRowCheck::settingsDecideGroupRules()
-{
-    ICInitStruct record;
+        FakeRowView row;
+        row.groups[size_t(group)] = {-2, 0, -20, 0};
+        ICInitStruct record;
+        const RowVerdict verdict = RowCheck::check(row, Place, className, record);
+        QVERIFY(!verdict.valid);
+        QCOMPARE(verdict.column, column);
+        QCOMPARE(verdict.message, Negative);
+    }
 
-    // A row of nothing is refused once, on the opening group.
-    FakeRowView empty;
-    empty.groups = {};
-    RowVerdict verdict = RowCheck::check(empty, Place, className, record);
-    QCOMPARE(verdict.message, EmptyRow);
-    QCOMPARE(verdict.column, EntryCol::BegQty);
+    void settingsDecideGroupRules()
+    {
+        ICInitStruct record;
 
-    FakeRowView negative;
-    negative.groups[0] = {-5, 0, -100, 0};
-    negative.groups[3] = {-5, 0, -100, 0};
-    QCOMPARE(RowCheck::check(negative, Place, className, record).column, EntryCol::YtdBegQty);
-    setParam(SysParam::UnderStock, 1);
-    QVERIFY(RowCheck::check(negative, Place, className, record).valid);
+        // A row of nothing is refused once, on the opening group.
+        FakeRowView empty;
+        empty.groups = {};
+        RowVerdict verdict = RowCheck::check(empty, Place, className, record);
+        QCOMPARE(verdict.message, EmptyRow);
+        QCOMPARE(verdict.column, EntryCol::BegQty);
 
-    FakeRowView quantityOnly;
-    quantityOnly.groups[0] = {3, 0, 0, 0};
-    verdict = RowCheck::check(quantityOnly, Place, className, record);
-    QCOMPARE(verdict.message, NoAmount);
-    QVERIFY(RowCheck::check(quantityOnly, {12, 0, 502}, className, record).valid);
-    setParam(SysParam::AuditChoice, 0);
-    QVERIFY(RowCheck::check(quantityOnly, Place, className, record).valid);
-}
+        FakeRowView negative;
+        negative.groups[0] = {-5, 0, -100, 0};
+        negative.groups[3] = {-5, 0, -100, 0};
+        QCOMPARE(RowCheck::check(negative, Place, className, record).column, EntryCol::YtdBegQty);
+        setParam(SysParam::UnderStock, 1);
+        QVERIFY(RowCheck::check(negative, Place, className, record).valid);
 
-void TestRowCheck::gridRowReadsTheEntryColumns()
-{
-    using namespace EntryCol;
-    CellModel cells;
-    cells.reset(3, Count);
-    // As the grid is built: both cells locked unless the row's item asks for them.
-    cells.setColStyle(AuxProp, CellStyle().setLocked(true));
-    cells.setColStyle(Batch, CellStyle().setLocked(true));
+        FakeRowView quantityOnly;
+        quantityOnly.groups[0] = {3, 0, 0, 0};
+        verdict = RowCheck::check(quantityOnly, Place, className, record);
+        QCOMPARE(verdict.message, NoAmount);
+        QVERIFY(RowCheck::check(quantityOnly, {12, 0, 502}, className, record).valid);
+        setParam(SysParam::AuditChoice, 0);
+        QVERIFY(RowCheck::check(quantityOnly, Place, className, record).valid);
+    }
 
-    const int row = 2;
-    cells.setValue(row, ItemID, 3057);
-    cells.setText(row, Number, QStringLiteral("1.01.001"));
-    cells.setValue(row, UnitID, 7);
-    cells.setValue(row, AuxClassID, ColorClass);
-    cells.setCellStyle(row, AuxProp, CellStyle().setLocked(false));
-    // Every figure column its own value, so a column read from the wrong place shows.
-    const int columns[] = {YtdBegQty, YtdBegAuxQty, YtdBegBal, YtdBegDiff, ReceiveQty, ReceiveAuxQty, Debit,
-                           ReceiveDiff, SendQty, SendAuxQty, Credit, SendDiff, BegQty, BegAuxQty, BegBal, BegDiff};
-    for (int i = 0; i < 16; ++i)
-        cells.setValue(row, columns[i], 1.0 + i);
-    // Binary noise from typed arithmetic is rounded away in the record.
-    cells.setValue(row, YtdBegQty, 0.1 + 0.2);
-    cells.setValue(row, SecCoefficient, 12.5);
-    cells.setValue(row, SecUnitID, 9);
-    cells.setValue(row, StockInDate, QDate(2024, 3, 1));
-    cells.setText(row, FieldCompose, QStringLiteral("12|0|3|3057|40"));
+    void gridRowReadsTheEntryColumns()
+    {
+        using namespace EntryCol;
+        CellModel cells;
+        cells.reset(3, Count);
+        // As the grid is built: both cells locked unless the row's item asks for them.
+        cells.setColStyle(AuxProp, CellStyle().setLocked(true));
+        cells.setColStyle(Batch, CellStyle().setLocked(true));
 
-    ICInitStruct record;
-    RowVerdict verdict = RowCheck::check(GridRowView(cells, row), Place, className, record);
-    QCOMPARE(verdict.column, AuxProp);
-    QCOMPARE(verdict.message, QStringLiteral("物料1.01.001使用颜色管理，请选择颜色！"));
+        const int row = 2;
+        cells.setValue(row, ItemID, 3057);
+        cells.setText(row, Number, QStringLiteral("1.01.001"));
+        cells.setValue(row, UnitID, 7);
+        cells.setValue(row, AuxClassID, ColorClass);
+        cells.setCellStyle(row, AuxProp, CellStyle().setLocked(false));
+        // Every figure column its own value, so a column read from the wrong place shows.
+        const int columns[] = {YtdBegQty, YtdBegAuxQty, YtdBegBal, YtdBegDiff, ReceiveQty, ReceiveAuxQty, Debit,
+                               ReceiveDiff, SendQty, SendAuxQty, Credit, SendDiff, BegQty, BegAuxQty, BegBal, BegDiff};
+        for (int i = 0; i < 16; ++i)
+            cells.setValue(row, columns[i], 1.0 + i);
+        // Binary noise from typed arithmetic is rounded away in the record.
+        cells.setValue(row, YtdBegQty, 0.1 + 0.2);
+        cells.setValue(row, SecCoefficient, 12.5);
+        cells.setValue(row, SecUnitID, 9);
+        cells.setValue(row, StockInDate, QDate(2024, 3, 1));
+        cells.setText(row, FieldCompose, QStringLiteral("12|0|3|3057|40"));
 
-    cells.setValue(row, AuxPropID, 41);
-    verdict = RowCheck::check(GridRowView(cells, row), Place, className, record);
-    QVERIFY2(verdict.valid, qPrintable(verdict.message));
-    QCOMPARE(int(record.Period), 3);
-    QCOMPARE(record.composedKey(), QStringLiteral("12|0|3|3057|41"));
-    QCOMPARE(record.UnitID, 7);
-    // Compared as the shortest text: a fuzzy compare would let the noise through.
-    QCOMPARE(NumberFormat::plain(record.YtdAuxBegQty), QStringLiteral("0.3"));
-    const double figures[] = {record.YtdAuxBegQty, record.YtdAuxUnitBegQty, record.YtdBegBal, record.YtdBegDiff,
-                              record.YtdAuxReceive, record.YtdAuxUnitReceive, record.YtdDebit, record.YtdReceiveDiff,
-                              record.YtdAuxSend, record.YtdAuxUnitSend, record.YtdCredit, record.YtdSendDiff,
-                              record.AuxBegQty, record.AuxUnitBegQty, record.BegBal, record.BegDiff};
-    for (int i = 1; i < 16; ++i)
-        QCOMPARE(figures[i], 1.0 + i);
-    QCOMPARE(record.SecCoefficient, 12.5);
-    QCOMPARE(record.SecUnitID, 9);
-    QCOMPARE(record.StockInDate, QStringLiteral("2024-03-01"));
-    QCOMPARE(record.oFieldCompose, QStringLiteral("12|0|3|3057|40"));
-    QVERIFY(!record.BatchManager);
+        ICInitStruct record;
+        RowVerdict verdict = RowCheck::check(GridRowView(cells, row), Place, className, record);
+        QCOMPARE(verdict.column, AuxProp);
+        QCOMPARE(verdict.message, QStringLiteral("物料1.01.001使用颜色管理，请选择颜色！"));
 
-    // A batch item's batch cell is an unlocked button; a date typed as text still reads.
-    SpreadConsole::setButtonCell(cells, row, Batch);
-    cells.setText(row, StockInDate, QStringLiteral("2024-02-29"));
-    QVERIFY(RowCheck::check(GridRowView(cells, row), Place, className, record).valid);
-    QVERIFY(record.BatchManager);
-    QCOMPARE(record.StockInDate, QStringLiteral("2024-02-29"));
+        cells.setValue(row, AuxPropID, 41);
+        verdict = RowCheck::check(GridRowView(cells, row), Place, className, record);
+        QVERIFY2(verdict.valid, qPrintable(verdict.message));
+        QCOMPARE(int(record.Period), 3);
+        QCOMPARE(record.composedKey(), QStringLiteral("12|0|3|3057|41"));
+        QCOMPARE(record.UnitID, 7);
+        // Compared as the shortest text: a fuzzy compare would let the noise through.
+        QCOMPARE(NumberFormat::plain(record.YtdAuxBegQty), QStringLiteral("0.3"));
+        const double figures[] = {record.YtdAuxBegQty, record.YtdAuxUnitBegQty, record.YtdBegBal, record.YtdBegDiff,
+                                  record.YtdAuxReceive, record.YtdAuxUnitReceive, record.YtdDebit, record.YtdReceiveDiff,
+                                  record.YtdAuxSend, record.YtdAuxUnitSend, record.YtdCredit, record.YtdSendDiff,
+                                  record.AuxBegQty, record.AuxUnitBegQty, record.BegBal, record.BegDiff};
+        for (int i = 1; i < 16; ++i)
+            QCOMPARE(figures[i], 1.0 + i);
+        QCOMPARE(record.SecCoefficient, 12.5);
+        QCOMPARE(record.SecUnitID, 9);
+        QCOMPARE(record.StockInDate, QStringLiteral("2024-03-01"));
+        QCOMPARE(record.oFieldCompose, QStringLiteral("12|0|3|3057|40"));
+        QVERIFY(!record.BatchManager);
 
-    // The item code typed on a new row is what the check trims.
-    cells.setText(row, Number, QStringLiteral("  "));
-    QCOMPARE(RowCheck::check(GridRowView(cells, row), Place, className, record).column, Number);
-    cells.clearCell(row, ItemID);
-    QCOMPARE(RowCheck::check(GridRowView(cells, row), Place, className, record).message, NoItem);
-}
+        // A batch item's batch cell is an unlocked button; a date typed as text still reads.
+        SpreadConsole::setButtonCell(cells, row, Batch);
+        cells.setText(row, StockInDate, QStringLiteral("2024-02-29"));
+        QVERIFY(RowCheck::check(GridRowView(cells, row), Place, className, record).valid);
+        QVERIFY(record.BatchManager);
+        QCOMPARE(record.StockInDate, QStringLiteral("2024-02-29"));
+
+        // The item code typed on a new row is what the check trims.
+        cells.setText(row, Number, QStringLiteral("  "));
+        QCOMPARE(RowCheck::check(GridRowView(cells, row), Place, className, record).column, Number);
+        cells.clearCell(row, ItemID);
+        QCOMPARE(RowCheck::check(GridRowView(cells, row), Place, className, record).message, NoItem);
+    }
+};
+
+QTEST_MAIN(TestRowCheck)
+#include "tst_rowcheck.moc"

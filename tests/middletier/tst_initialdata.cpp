@@ -1,5 +1,3 @@
-#include "tst_initialdata.h"
-
 #include "scratchaccountset.h"
 #include "servicecalls.h"
 
@@ -129,214 +127,14 @@ Page fetchPage(const ScratchAccountSet &scratch, int pageSize, int pageIndex, co
 
 } // namespace
 
-void TestInitialData::filtersSortsAndPagesSelectOnlyWhatTheySay_data()
-{
-    QTest::addColumn<QString>("backend");
-    QTest::addColumn<QStringList>("filters"); // Filter, ActualFilter, VirtualFilter
-    QTest::addColumn<QString>("sort");
-    QTest::addColumn<int>("pageIndex"); // pages of three
-    QTest::addColumn<QStringList>("rows");
-    QTest::addColumn<int>("records");
-    QTest::addColumn<double>("totalQty"); // of the whole selection, on every page
 
-    const auto add = [&](const char *name, const QStringList &filters, const QString &sort, int page, const char *rows,
-                         int records, double qty) {
-        for (const QString &backend : {ScratchAccountSet::Sqlite, ScratchAccountSet::Postgres})
-            QTest::newRow(qPrintable(u"%1 %2"_s.arg(QLatin1String(name), backend)))
-                << backend << filters << sort << page << keys(rows) << records << qty;
-    };
-    // Item rows in item-number order, a property after the row without; the steel plate's row
-    // sums its two batch lines (2 and 3), so only it passes "FInitBegQty >= 5" of the three.
-    add("nothing chosen", {u" where 1=1 and "_s, {}, {}}, {}, 1, "1/0 2/0 2/1", 8, PlaceQty);
-    add("middle page", {}, {}, 2, "3/0 4/0 5/0", 8, PlaceQty);
-    add("last page, shorter", {}, {}, 3, "7/0 8/0", 8, PlaceQty);
-    add("beyond the last page", {}, {}, 4, "", 8, PlaceQty);
-    add("item code", {u"FNumber like '1.01%'"_s, {}, {}}, {}, 1, "1/0 2/0 2/1", 3, 14);
-    add("three filters joined by AND", {u"FNumber like '1.0%'"_s, u"t1.FModel = 'Φ20'"_s, u"FAuxPropName = ''"_s}, {},
-        1, "2/0", 1, 1);
-    add("on a sum, over whole item rows", {u"FInitBegQty >= 5"_s, {}, {}}, {}, 1, "1/0 2/1 7/0", 4, 26);
-    add("sum and name", {u"FItemName = '铜线'"_s, u"FInitBegQty > 1"_s, {}}, {}, 1, "3/0", 1, 2);
-    add("sorted by a sum", {}, u"FInitBegQty DESC"_s, 1, "2/1 8/0 7/0", 8, PlaceQty);
-    add("sorted by code, properties in order", {}, u"FNumber DESC"_s, 3, "2/1 1/0", 8, PlaceQty);
-    // Texts that are no plain filter select nothing, on each of the three filters and the sort; the
-    // totals are zeros then. What the filter parser refuses is its own suite's matter.
-    add("always true", {u"FNumber = 'x' OR 1=1"_s, {}, {}}, {}, 1, "", 0, 0);
-    add("second statement", {u"FNumber = '1.01.001'; DELETE FROM ICInvInitial"_s, {}, {}}, {}, 1, "", 0, 0);
-    add("bad actual filter", {{}, u"FPassword = 'x'"_s, {}}, {}, 1, "", 0, 0);
-    add("bad virtual filter", {{}, {}, u"FInitBegQty > 0 OR 1=1"_s}, {}, 1, "", 0, 0);
-    add("statement in the sort", {}, u"FNumber; DROP TABLE t_ICItem"_s, 1, "", 0, 0);
-}
 
-void TestInitialData::filtersSortsAndPagesSelectOnlyWhatTheySay()
-{
-    QFETCH(QString, backend);
-    QFETCH(QStringList, filters);
-    QFETCH(QString, sort);
-    QFETCH(int, pageIndex);
-    QFETCH(int, records);
-    QFETCH(double, totalQty);
-    REQUIRE_BACKEND(backend);
-    ScratchAccountSet scratch(backend);
-    const QSqlDatabase db = scratch.db();
-    seedPlace(db);
-    const auto count = [&](const QString &table) {
-        return SqlRun::scalar(db, u"SELECT count(*) FROM %1"_s.arg(table)).toInt();
-    };
-    const int balances = count(u"ICInvInitial"_s);
-    const int items = count(u"t_ICItem"_s);
 
-    const Page page = fetchPage(scratch, 3, pageIndex, filters, sort);
-    QVERIFY(page.rows && page.totals);
-    QTEST(rowKeys(*page.rows), "rows");
-    QCOMPARE(page.recordCount(), records);
-    QCOMPARE(page.totalPages(), (records + 2) / 3);
-    QCOMPARE(page.total("FInitBegQty"), totalQty);
-    QCOMPARE(page.total("FInitBegBal"), totalQty * 10);
-    // Nothing a filter says reaches the database as SQL.
-    QCOMPARE(count(u"ICInvInitial"_s), balances);
-    QCOMPARE(count(u"t_ICItem"_s), items);
-    QCOMPARE(errorNumberOf([&] { fetchPage(scratch, 0, 1); }), DataError::BadPage);
-    QCOMPARE(errorNumberOf([&] { fetchPage(scratch, 3, 0); }), DataError::BadPage);
-}
 
-void TestInitialData::itemDetailFindsByCode_data()
-{
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<bool>("useShortNumber");
-    QTest::addColumn<bool>("found"); // 圆钢, the only item with a short code
-    QTest::newRow("code") << "1.01.002" << false << true;
-    QTest::newRow("blanks around") << " 1.01.002 " << false << true;
-    QTest::newRow("unknown code") << "1.01.999" << false << false;
-    QTest::newRow("part of a code") << "1.01" << false << false;
-    QTest::newRow("quote") << "1' OR '1'='1" << false << false;
-    QTest::newRow("short code") << "SHORT2" << true << true;
-    QTest::newRow("full code with short codes on") << "1.01.002" << true << false;
-    QTest::newRow("deleted item") << "1.01.001" << false << false;
-}
 
-void TestInitialData::itemDetailFindsByCode()
-{
-    QFETCH(QString, code);
-    QFETCH(bool, useShortNumber);
-    QFETCH(bool, found);
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    const QSqlDatabase db = scratch.db();
-    SqlRun::exec(db, u"UPDATE t_ICItem SET FShortNumber='SHORT2' WHERE FItemID=?"_s, {RoundSteel});
-    SqlRun::exec(db, u"UPDATE t_ICItem SET FDeleted=1 WHERE FItemID=?"_s, {SteelPlate});
-    SqlRun::exec(db, u"UPDATE t_SystemProfile SET FValue=? WHERE FKey='UseShortNumber'"_s, {QString::number(int(useShortNumber))});
-    const auto rs = recordset(Data, u"FetchYtdItemDetail"_s, {scratch.propsString(), code});
-    QVERIFY(rs);
-    QCOMPARE(rs->RecordCount(), int(found));
-    if (found) {
-        QCOMPARE(rs->Fields(u"FItemID"_s).toInt(), RoundSteel);
-        QCOMPARE(rs->Fields(u"FUnitName"_s).toString(), u"千克"_s);
-        QCOMPARE(rs->Fields(u"FTrackName"_s).toString(), u"移动平均法"_s);
-    }
-}
 
-void TestInitialData::initDataListsTheItemRows_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<int>("auxPropId"); // -1: the two-argument form
-    QTest::addColumn<QStringList>("composes");
-    QTest::addColumn<int>("error");
-    QTest::newRow("both properties") << "70|0|4|2" << -1
-                                     << QStringList{u"70|0|4|2|0"_s, u"70|0|4|2|1"_s} << 0;
-    QTest::newRow("one property") << "70|0|4|2" << RedS << QStringList{u"70|0|4|2|1"_s} << 0;
-    QTest::newRow("batch lines only") << " 70 | 0 | 4 | 1 " << -1 << QStringList{u"70|0|4|1|0"_s} << 0;
-    QTest::newRow("other period") << "70|0|3|3" << -1 << QStringList{} << 0;
-    QTest::newRow("three parts") << "70|0|4" << -1 << QStringList{} << DataError::BadPlaceItemKey;
-    QTest::newRow("five parts") << "70|0|4|2|0" << -1 << QStringList{} << DataError::BadPlaceItemKey;
-    QTest::newRow("not a number") << "70|0|4|2 or 1=1" << -1 << QStringList{} << DataError::BadPlaceItemKey;
-}
 
-void TestInitialData::initDataListsTheItemRows()
-{
-    QFETCH(QString, key);
-    QFETCH(int, auxPropId);
-    QFETCH(QStringList, composes);
-    QFETCH(int, error);
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    seedPlace(scratch.db());
-    QVariantList args{scratch.propsString(), key};
-    if (auxPropId >= 0)
-        args.append(auxPropId);
-    std::unique_ptr<Recordset> rs;
-    QCOMPARE(errorNumberOf([&] { rs = recordset(Data, u"GetInitData"_s, args); }), error);
-    if (error != 0)
-        return;
-    QStringList found;
-    for (const QVariant &value : column(*rs, u"FFieldCompose"_s))
-        found.append(value.toString());
-    QCOMPARE(found, composes);
-}
 
-void TestInitialData::batchLinesComeInTheAskedUnit()
-{
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    seedPlace(scratch.db());
-    const auto lines = [&](int unit, bool batch, bool shelfLife) {
-        return recordset(Data, u"FetchYtdBatManDetail"_s,
-                         {scratch.propsString(), Period, Stock, 0, SteelPlate, 0, unit, batch, shelfLife});
-    };
-
-    // Ordered by bill number: B2 (bill 1) before B1 (bill 2); kilograms as stored.
-    const auto stored = lines(0, true, false);
-    QCOMPARE(column(*stored, u"FBatchNo"_s), (QVariantList{u"B2"_s, u"B1"_s}));
-    QCOMPARE(stored->Fields(u"FAuxBegQty"_s).toDouble(), 3.0);
-    QCOMPARE(stored->Fields(u"FBegBal"_s).toDouble(), 30.0);
-    QCOMPARE(stored->Fields(u"FLock"_s).toInt(), 0);
-
-    // In tonnes the quantities are a thousandth; amounts stay.
-    const auto tonnes = lines(Tonne, true, false);
-    QCOMPARE(tonnes->Fields(u"FAuxBegQty"_s).toDouble(), 0.003);
-    QCOMPARE(tonnes->Fields(u"FBegBal"_s).toDouble(), 30.0);
-    QCOMPARE(tonnes->Fields(u"FUnitID"_s).toInt(), Tonne);
-
-    // Without batch or shelf-life management there are no lines; the lines have no production
-    // date, so shelf-life management alone finds none either.
-    QCOMPARE(lines(0, false, false)->RecordCount(), 0);
-    QCOMPARE(lines(0, false, true)->RecordCount(), 0);
-
-    // A closed initialisation locks the lines.
-    SqlRun::exec(scratch.db(), u"UPDATE t_SystemProfile SET FValue='1' WHERE FKey='ICClosed'"_s);
-    QCOMPARE(lines(0, true, false)->Fields(u"FLock"_s).toInt(), 1);
-}
-
-void TestInitialData::exportListsEveryRowOfThePlace_data()
-{
-    QTest::addColumn<QString>("filter");
-    QTest::addColumn<QString>("sort");
-    QTest::addColumn<QStringList>("batches"); // FBatchNo of the steel plate rows, in order
-    QTest::addColumn<int>("records");
-    QTest::newRow("everything") << "" << "" << QStringList{u"B1"_s, u"B2"_s} << 9;
-    QTest::newRow("one batch") << "FBatchNo = 'B2'" << "" << QStringList{u"B2"_s} << 1;
-    QTest::newRow("batches backwards") << "FNumber = '1.01.001'" << "FBatchNo DESC"
-                                       << QStringList{u"B2"_s, u"B1"_s} << 2;
-    QTest::newRow("refused filter") << "FBatchNo = 'B2' OR 1=1" << "" << QStringList{} << 0;
-    QTest::newRow("refused sort") << "" << "FBatchNo; DELETE FROM ICInvInitial" << QStringList{} << 0;
-}
-
-void TestInitialData::exportListsEveryRowOfThePlace()
-{
-    QFETCH(QString, filter);
-    QFETCH(QString, sort);
-    QFETCH(QStringList, batches);
-    QFETCH(int, records);
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    seedPlace(scratch.db());
-    const auto rs = recordset(Data, u"FetchICExportData"_s,
-                              {scratch.propsString(), Stock, 0, Period, filter, sort});
-    QVERIFY(rs);
-    QCOMPARE(rs->RecordCount(), records);
-    QStringList steel;
-    for (rs->MoveFirst(); !rs->atEnd(); rs->MoveNext()) {
-        QCOMPARE(rs->Fields(u"FStockName"_s).toString(), u"测试仓"_s);
-        if (rs->Fields(u"FItemID"_s).toInt() == SteelPlate)
-            steel.append(rs->Fields(u"FBatchNo"_s).toString());
-    }
-    QCOMPARE(steel, batches);
-}
 
 namespace {
 
@@ -391,55 +189,276 @@ QList<double> servedTotals(const Page &page)
 
 } // namespace
 
-void TestInitialData::placeTotalsFollowEveryWrite_data()
+// The item rows of "LumoMICInitial.Data" on a warehouse of known balances: paging, the totals
+// of the whole place, filters and sorts (and texts that try to be more than a filter), the item
+// look-up by code, the rows an item already has, batch lines and the export.
+class TestInitialData : public QObject
 {
-    addBackendColumn();
-    addBackendRows();
-}
+    Q_OBJECT
 
-void TestInitialData::placeTotalsFollowEveryWrite()
-{
-    QFETCH(QString, backend);
-    REQUIRE_BACKEND(backend);
-    ScratchAccountSet scratch(backend);
-    const QSqlDatabase db = scratch.db();
-    seedPlace(db);
-    const auto data = CreateObject(Data);
+private slots:
+    void filtersSortsAndPagesSelectOnlyWhatTheySay_data()
+    {
+        QTest::addColumn<QString>("backend");
+        QTest::addColumn<QStringList>("filters"); // Filter, ActualFilter, VirtualFilter
+        QTest::addColumn<QString>("sort");
+        QTest::addColumn<int>("pageIndex"); // pages of three
+        QTest::addColumn<QStringList>("rows");
+        QTest::addColumn<int>("records");
+        QTest::addColumn<double>("totalQty"); // of the whole selection, on every page
 
-    // Each step is a script of the shapes the controls write; after each, the totals the page
-    // carries must be what the rows add up to.
-    const QList<std::pair<const char *, QString>> steps{
-        {"a new item row", itemRowInsert(6, 0, {}, 4)},
-        {"another line of an item row that has lines", itemRowInsert(SteelPlate, 0, u"B3"_s, 0.3)},
-        {"a row re-pointed onto an item row that exists",
-         u"update icinvinitial set FItemID=6,funitid=1,FFieldCompose='70|0|4|6|0',FAuxPropID=0 "
-                        "where FFieldCompose='70|0|4|2|0'"_s},
-        {"a row re-pointed onto a new property",
-         u"update icinvinitial set FItemID=3,funitid=7,FFieldCompose='70|0|4|3|1',FAuxPropID=1 "
-                        "where FFieldCompose='70|0|4|3|0'"_s},
-        {"figures rewritten in place",
-         u"update icinvinitial set FItemID=4, funitid=7 ,FStockInDate='2024-04-01',FYtdAuxBegQty=0.7,"
-                        "FYtdBegBal=0.2,FYtdBegDiff=0,FYtdAuxReceive=0,FYtdDebit=0,FYtdReceiveDiff=0,FYtdAuxSend=0,"
-                        "FYtdCredit=0,FYtdSendDiff=0,FAuxBegQty=0.7,FBegBal=0.2,FBegDiff=0,FAuxUnitBegQty=0,"
-                        "FYtdAuxUnitBegQty=0,FYtdAuxUnitSend=0,FYtdAuxUnitReceive=0,FFieldCompose='70|0|4|4|0' ,"
-                        "FAuxPropID=0 where FFieldCompose='70|0|4|4|0'"_s},
-        {"an item with lines deleted", itemDelete(SteelPlate, 0)},
-        {"every item row deleted",
-         QStringList{itemDelete(RoundSteel, RedS), itemDelete(3, 1), itemDelete(4, 0), itemDelete(5, 0),
-                     itemDelete(6, 0), itemDelete(7, 0), itemDelete(8, 0)}
-             .join(u"\r\n"_s)},
-    };
-    QCOMPARE(servedTotals(fetchPage(scratch, 3, 1)), summedAfresh(db));
-    for (const auto &[name, script] : steps) {
-        Dispatch::call(data.get(), u"UpdateINIData"_s, {scratch.propsString(), script});
-        const QList<double> expected = summedAfresh(db);
-        QVERIFY2(servedTotals(fetchPage(scratch, 3, 1)) == expected, name);
+        const auto add = [&](const char *name, const QStringList &filters, const QString &sort, int page, const char *rows,
+                             int records, double qty) {
+            for (const QString &backend : {ScratchAccountSet::Sqlite, ScratchAccountSet::Postgres})
+                QTest::newRow(qPrintable(u"%1 %2"_s.arg(QLatin1String(name), backend)))
+                    << backend << filters << sort << page << keys(rows) << records << qty;
+        };
+        // Item rows in item-number order, a property after the row without; the steel plate's row
+        // sums its two batch lines (2 and 3), so only it passes "FInitBegQty >= 5" of the three.
+        add("nothing chosen", {u" where 1=1 and "_s, {}, {}}, {}, 1, "1/0 2/0 2/1", 8, PlaceQty);
+        add("middle page", {}, {}, 2, "3/0 4/0 5/0", 8, PlaceQty);
+        add("last page, shorter", {}, {}, 3, "7/0 8/0", 8, PlaceQty);
+        add("beyond the last page", {}, {}, 4, "", 8, PlaceQty);
+        add("item code", {u"FNumber like '1.01%'"_s, {}, {}}, {}, 1, "1/0 2/0 2/1", 3, 14);
+        add("three filters joined by AND", {u"FNumber like '1.0%'"_s, u"t1.FModel = 'Φ20'"_s, u"FAuxPropName = ''"_s}, {},
+            1, "2/0", 1, 1);
+        add("on a sum, over whole item rows", {u"FInitBegQty >= 5"_s, {}, {}}, {}, 1, "1/0 2/1 7/0", 4, 26);
+        add("sum and name", {u"FItemName = '铜线'"_s, u"FInitBegQty > 1"_s, {}}, {}, 1, "3/0", 1, 2);
+        add("sorted by a sum", {}, u"FInitBegQty DESC"_s, 1, "2/1 8/0 7/0", 8, PlaceQty);
+        add("sorted by code, properties in order", {}, u"FNumber DESC"_s, 3, "2/1 1/0", 8, PlaceQty);
+        // Texts that are no plain filter select nothing, on each of the three filters and the sort; the
+        // totals are zeros then. What the filter parser refuses is its own suite's matter.
+        add("always true", {u"FNumber = 'x' OR 1=1"_s, {}, {}}, {}, 1, "", 0, 0);
+        add("second statement", {u"FNumber = '1.01.001'; DELETE FROM ICInvInitial"_s, {}, {}}, {}, 1, "", 0, 0);
+        add("bad actual filter", {{}, u"FPassword = 'x'"_s, {}}, {}, 1, "", 0, 0);
+        add("bad virtual filter", {{}, {}, u"FInitBegQty > 0 OR 1=1"_s}, {}, 1, "", 0, 0);
+        add("statement in the sort", {}, u"FNumber; DROP TABLE t_ICItem"_s, 1, "", 0, 0);
     }
-    // Nothing is left, and the totals say so exactly, without binary residue.
-    QCOMPARE(summedAfresh(db).first(), 0.0);
-    QCOMPARE(servedTotals(fetchPage(scratch, 3, 1)), QList<double>(PlaceTotals::figures().size() + 1, 0.0));
-    // The other place of the warehouse and the other period kept theirs.
-    const auto other = dictionary(Data, Fetch, {scratch.propsString(), Stock, OtherPlace, Period, 3, 1, {}, {}, {}, {}, false});
-    const auto otherTotals = takeObject<Recordset>(other->Item(u"Totals"_s));
-    QCOMPARE(otherTotals->Fields(u"FInitBegQty"_s).toDouble(), 1000.0);
-}
+
+    void filtersSortsAndPagesSelectOnlyWhatTheySay()
+    {
+        QFETCH(QString, backend);
+        QFETCH(QStringList, filters);
+        QFETCH(QString, sort);
+        QFETCH(int, pageIndex);
+        QFETCH(int, records);
+        QFETCH(double, totalQty);
+        REQUIRE_BACKEND(backend);
+        ScratchAccountSet scratch(backend);
+        const QSqlDatabase db = scratch.db();
+        seedPlace(db);
+        const auto count = [&](const QString &table) {
+            return SqlRun::scalar(db, u"SELECT count(*) FROM %1"_s.arg(table)).toInt();
+        };
+        const int balances = count(u"ICInvInitial"_s);
+        const int items = count(u"t_ICItem"_s);
+
+        const Page page = fetchPage(scratch, 3, pageIndex, filters, sort);
+        QVERIFY(page.rows && page.totals);
+        QTEST(rowKeys(*page.rows), "rows");
+        QCOMPARE(page.recordCount(), records);
+        QCOMPARE(page.totalPages(), (records + 2) / 3);
+        QCOMPARE(page.total("FInitBegQty"), totalQty);
+        QCOMPARE(page.total("FInitBegBal"), totalQty * 10);
+        // Nothing a filter says reaches the database as SQL.
+        QCOMPARE(count(u"ICInvInitial"_s), balances);
+        QCOMPARE(count(u"t_ICItem"_s), items);
+        QCOMPARE(errorNumberOf([&] { fetchPage(scratch, 0, 1); }), DataError::BadPage);
+        QCOMPARE(errorNumberOf([&] { fetchPage(scratch, 3, 0); }), DataError::BadPage);
+    }
+
+    void itemDetailFindsByCode_data()
+    {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<bool>("useShortNumber");
+        QTest::addColumn<bool>("found"); // 圆钢, the only item with a short code
+        QTest::newRow("code") << "1.01.002" << false << true;
+        QTest::newRow("blanks around") << " 1.01.002 " << false << true;
+        QTest::newRow("unknown code") << "1.01.999" << false << false;
+        QTest::newRow("part of a code") << "1.01" << false << false;
+        QTest::newRow("quote") << "1' OR '1'='1" << false << false;
+        QTest::newRow("short code") << "SHORT2" << true << true;
+        QTest::newRow("full code with short codes on") << "1.01.002" << true << false;
+        QTest::newRow("deleted item") << "1.01.001" << false << false;
+    }
+
+    void itemDetailFindsByCode()
+    {
+        QFETCH(QString, code);
+        QFETCH(bool, useShortNumber);
+        QFETCH(bool, found);
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        const QSqlDatabase db = scratch.db();
+        SqlRun::exec(db, u"UPDATE t_ICItem SET FShortNumber='SHORT2' WHERE FItemID=?"_s, {RoundSteel});
+        SqlRun::exec(db, u"UPDATE t_ICItem SET FDeleted=1 WHERE FItemID=?"_s, {SteelPlate});
+        SqlRun::exec(db, u"UPDATE t_SystemProfile SET FValue=? WHERE FKey='UseShortNumber'"_s, {QString::number(int(useShortNumber))});
+        const auto rs = recordset(Data, u"FetchYtdItemDetail"_s, {scratch.propsString(), code});
+        QVERIFY(rs);
+        QCOMPARE(rs->RecordCount(), int(found));
+        if (found) {
+            QCOMPARE(rs->Fields(u"FItemID"_s).toInt(), RoundSteel);
+            QCOMPARE(rs->Fields(u"FUnitName"_s).toString(), u"千克"_s);
+            QCOMPARE(rs->Fields(u"FTrackName"_s).toString(), u"移动平均法"_s);
+        }
+    }
+
+    void initDataListsTheItemRows_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<int>("auxPropId"); // -1: the two-argument form
+        QTest::addColumn<QStringList>("composes");
+        QTest::addColumn<int>("error");
+        QTest::newRow("both properties") << "70|0|4|2" << -1
+                                         << QStringList{u"70|0|4|2|0"_s, u"70|0|4|2|1"_s} << 0;
+        QTest::newRow("one property") << "70|0|4|2" << RedS << QStringList{u"70|0|4|2|1"_s} << 0;
+        QTest::newRow("batch lines only") << " 70 | 0 | 4 | 1 " << -1 << QStringList{u"70|0|4|1|0"_s} << 0;
+        QTest::newRow("other period") << "70|0|3|3" << -1 << QStringList{} << 0;
+        QTest::newRow("three parts") << "70|0|4" << -1 << QStringList{} << DataError::BadPlaceItemKey;
+        QTest::newRow("five parts") << "70|0|4|2|0" << -1 << QStringList{} << DataError::BadPlaceItemKey;
+        QTest::newRow("not a number") << "70|0|4|2 or 1=1" << -1 << QStringList{} << DataError::BadPlaceItemKey;
+    }
+
+    void initDataListsTheItemRows()
+    {
+        QFETCH(QString, key);
+        QFETCH(int, auxPropId);
+        QFETCH(QStringList, composes);
+        QFETCH(int, error);
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        seedPlace(scratch.db());
+        QVariantList args{scratch.propsString(), key};
+        if (auxPropId >= 0)
+            args.append(auxPropId);
+        std::unique_ptr<Recordset> rs;
+        QCOMPARE(errorNumberOf([&] { rs = recordset(Data, u"GetInitData"_s, args); }), error);
+        if (error != 0)
+            return;
+        QStringList found;
+        for (const QVariant &value : column(*rs, u"FFieldCompose"_s))
+            found.append(value.toString());
+        QCOMPARE(found, composes);
+    }
+
+    void batchLinesComeInTheAskedUnit()
+    {
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        seedPlace(scratch.db());
+        const auto lines = [&](int unit, bool batch, bool shelfLife) {
+            return recordset(Data, u"FetchYtdBatManDetail"_s,
+                             {scratch.propsString(), Period, Stock, 0, SteelPlate, 0, unit, batch, shelfLife});
+        };
+
+        // Ordered by bill number: B2 (bill 1) before B1 (bill 2); kilograms as stored.
+        const auto stored = lines(0, true, false);
+        QCOMPARE(column(*stored, u"FBatchNo"_s), (QVariantList{u"B2"_s, u"B1"_s}));
+        QCOMPARE(stored->Fields(u"FAuxBegQty"_s).toDouble(), 3.0);
+        QCOMPARE(stored->Fields(u"FBegBal"_s).toDouble(), 30.0);
+        QCOMPARE(stored->Fields(u"FLock"_s).toInt(), 0);
+
+        // In tonnes the quantities are a thousandth; amounts stay.
+        const auto tonnes = lines(Tonne, true, false);
+        QCOMPARE(tonnes->Fields(u"FAuxBegQty"_s).toDouble(), 0.003);
+        QCOMPARE(tonnes->Fields(u"FBegBal"_s).toDouble(), 30.0);
+        QCOMPARE(tonnes->Fields(u"FUnitID"_s).toInt(), Tonne);
+
+        // Without batch or shelf-life management there are no lines; the lines have no production
+        // date, so shelf-life management alone finds none either.
+        QCOMPARE(lines(0, false, false)->RecordCount(), 0);
+        QCOMPARE(lines(0, false, true)->RecordCount(), 0);
+
+        // A closed initialisation locks the lines.
+        SqlRun::exec(scratch.db(), u"UPDATE t_SystemProfile SET FValue='1' WHERE FKey='ICClosed'"_s);
+        QCOMPARE(lines(0, true, false)->Fields(u"FLock"_s).toInt(), 1);
+    }
+
+    void exportListsEveryRowOfThePlace_data()
+    {
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<QString>("sort");
+        QTest::addColumn<QStringList>("batches"); // FBatchNo of the steel plate rows, in order
+        QTest::addColumn<int>("records");
+        QTest::newRow("everything") << "" << "" << QStringList{u"B1"_s, u"B2"_s} << 9;
+        QTest::newRow("one batch") << "FBatchNo = 'B2'" << "" << QStringList{u"B2"_s} << 1;
+        QTest::newRow("batches backwards") << "FNumber = '1.01.001'" << "FBatchNo DESC"
+                                           << QStringList{u"B2"_s, u"B1"_s} << 2;
+        QTest::newRow("refused filter") << "FBatchNo = 'B2' OR 1=1" << "" << QStringList{} << 0;
+        QTest::newRow("refused sort") << "" << "FBatchNo; DELETE FROM ICInvInitial" << QStringList{} << 0;
+    }
+
+    void exportListsEveryRowOfThePlace()
+    {
+        QFETCH(QString, filter);
+        QFETCH(QString, sort);
+        QFETCH(QStringList, batches);
+        QFETCH(int, records);
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        seedPlace(scratch.db());
+        const auto rs = recordset(Data, u"FetchICExportData"_s,
+                                  {scratch.propsString(), Stock, 0, Period, filter, sort});
+        QVERIFY(rs);
+        QCOMPARE(rs->RecordCount(), records);
+        QStringList steel;
+        for (rs->MoveFirst(); !rs->atEnd(); rs->MoveNext()) {
+            QCOMPARE(rs->Fields(u"FStockName"_s).toString(), u"测试仓"_s);
+            if (rs->Fields(u"FItemID"_s).toInt() == SteelPlate)
+                steel.append(rs->Fields(u"FBatchNo"_s).toString());
+        }
+        QCOMPARE(steel, batches);
+    }
+
+    void placeTotalsFollowEveryWrite_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
+
+    void placeTotalsFollowEveryWrite()
+    {
+        QFETCH(QString, backend);
+        REQUIRE_BACKEND(backend);
+        ScratchAccountSet scratch(backend);
+        const QSqlDatabase db = scratch.db();
+        seedPlace(db);
+        const auto data = CreateObject(Data);
+
+        // Each step is a script of the shapes the controls write; after each, the totals the page
+        // carries must be what the rows add up to.
+        const QList<std::pair<const char *, QString>> steps{
+            {"a new item row", itemRowInsert(6, 0, {}, 4)},
+            {"another line of an item row that has lines", itemRowInsert(SteelPlate, 0, u"B3"_s, 0.3)},
+            {"a row re-pointed onto an item row that exists",
+             u"update icinvinitial set FItemID=6,funitid=1,FFieldCompose='70|0|4|6|0',FAuxPropID=0 "
+                            "where FFieldCompose='70|0|4|2|0'"_s},
+            {"a row re-pointed onto a new property",
+             u"update icinvinitial set FItemID=3,funitid=7,FFieldCompose='70|0|4|3|1',FAuxPropID=1 "
+                            "where FFieldCompose='70|0|4|3|0'"_s},
+            {"figures rewritten in place",
+             u"update icinvinitial set FItemID=4, funitid=7 ,FStockInDate='2024-04-01',FYtdAuxBegQty=0.7,"
+                            "FYtdBegBal=0.2,FYtdBegDiff=0,FYtdAuxReceive=0,FYtdDebit=0,FYtdReceiveDiff=0,FYtdAuxSend=0,"
+                            "FYtdCredit=0,FYtdSendDiff=0,FAuxBegQty=0.7,FBegBal=0.2,FBegDiff=0,FAuxUnitBegQty=0,"
+                            "FYtdAuxUnitBegQty=0,FYtdAuxUnitSend=0,FYtdAuxUnitReceive=0,FFieldCompose='70|0|4|4|0' ,"
+                            "FAuxPropID=0 where FFieldCompose='70|0|4|4|0'"_s},
+            {"an item with lines deleted", itemDelete(SteelPlate, 0)},
+            {"every item row deleted",
+             QStringList{itemDelete(RoundSteel, RedS), itemDelete(3, 1), itemDelete(4, 0), itemDelete(5, 0),
+                         itemDelete(6, 0), itemDelete(7, 0), itemDelete(8, 0)}
+                 .join(u"\r\n"_s)},
+        };
+        QCOMPARE(servedTotals(fetchPage(scratch, 3, 1)), summedAfresh(db));
+        for (const auto &[name, script] : steps) {
+            Dispatch::call(data.get(), u"UpdateINIData"_s, {scratch.propsString(), script});
+            const QList<double> expected = summedAfresh(db);
+            QVERIFY2(servedTotals(fetchPage(scratch, 3, 1)) == expected, name);
+        }
+        // Nothing is left, and the totals say so exactly, without binary residue.
+        QCOMPARE(summedAfresh(db).first(), 0.0);
+        QCOMPARE(servedTotals(fetchPage(scratch, 3, 1)), QList<double>(PlaceTotals::figures().size() + 1, 0.0));
+        // The other place of the warehouse and the other period kept theirs.
+        const auto other = dictionary(Data, Fetch, {scratch.propsString(), Stock, OtherPlace, Period, 3, 1, {}, {}, {}, {}, false});
+        const auto otherTotals = takeObject<Recordset>(other->Item(u"Totals"_s));
+        QCOMPARE(otherTotals->Fields(u"FInitBegQty"_s).toDouble(), 1000.0);
+    }
+};
+
+QTEST_MAIN(TestInitialData)
+#include "tst_initialdata.moc"

@@ -1,5 +1,3 @@
-#include "tst_ledgerdata.h"
-
 #include "scratchaccountset.h"
 #include "servicecalls.h"
 
@@ -100,338 +98,350 @@ QString ledgerOf(const QSqlDatabase &db, int account)
 
 } // namespace
 
-void TestLedgerData::cleanup()
+// The account-level members of "LumoMICInitial.Data" (inventory sums per account,
+// reconciliation, transfer to the ledger), its small look-ups (auxiliary properties, the filter
+// dialog's field lists) and the log-in and look-up data of "LumoEBCGLView.GLData".
+class TestLedgerData : public QObject
 {
-    publishLogin({});
-}
+    Q_OBJECT
 
-void TestLedgerData::accountSumsFollowTheBalances()
-{
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    const QSqlDatabase db = scratch.db();
-    const auto before = accounts(scratch);
-    QCOMPARE(texts(column(*before, u"FNumber"_s)), InventoryAccounts);
-    const QVariantMap goods = accountRecord(*before, u"1405"_s);
-    const QVariantMap raw = accountRecord(*before, u"1403"_s);
+private slots:
+    void cleanup()
+    {
+        publishLogin({});
+    }
 
-    // 10 pieces for 1000 and a box (10 pieces) for 100 of a finished good; a row of another
-    // period does not count.
-    addBalance(db, Period, Piece, 10, 1000);
-    addBalance(db, Period, Box, 1, 100);
-    addBalance(db, Period - 1, Piece, 500, 50000);
-    const QVariantMap goodsAfter = accountRecord(*accounts(scratch), u"1405"_s);
-    const std::pair<const char *, double> added[]{{"FSumBegBal", 1100}, {"FSumYtdBegBal", 1100}, {"FSumBaseBegQty", 20}};
-    for (const auto &[field, amount] : added)
-        QCOMPARE(goodsAfter.value(QLatin1String(field)).toDouble(), goods.value(QLatin1String(field)).toDouble() + amount);
-    QCOMPARE(accountRecord(*accounts(scratch), u"1403"_s), raw);
-}
+    void accountSumsFollowTheBalances()
+    {
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        const QSqlDatabase db = scratch.db();
+        const auto before = accounts(scratch);
+        QCOMPARE(texts(column(*before, u"FNumber"_s)), InventoryAccounts);
+        const QVariantMap goods = accountRecord(*before, u"1405"_s);
+        const QVariantMap raw = accountRecord(*before, u"1403"_s);
 
-void TestLedgerData::accountFiltersSelectOnlyWhatTheySay_data()
-{
-    QTest::addColumn<QString>("filter");
-    QTest::addColumn<QString>("sort");
-    QTest::addColumn<QStringList>("numbers");
-    QTest::newRow("one code") << "FNumber = '1405'" << "" << QStringList{u"1405"_s};
-    QTest::newRow("on a sum") << "FIsCostDiff = 1" << "" << QStringList{u"1404"_s};
-    QStringList backwards = InventoryAccounts;
-    std::reverse(backwards.begin(), backwards.end());
-    QTest::newRow("sorted backwards") << "" << "FNumber DESC" << backwards;
-    QTest::newRow("always true") << "FNumber = '1405' OR 1=1" << "" << QStringList{};
-    QTest::newRow("unknown field") << "FPassword = ''" << "" << QStringList{};
-    QTest::newRow("statement in the sort") << "" << "FNumber; DELETE FROM t_Account" << QStringList{};
-}
+        // 10 pieces for 1000 and a box (10 pieces) for 100 of a finished good; a row of another
+        // period does not count.
+        addBalance(db, Period, Piece, 10, 1000);
+        addBalance(db, Period, Box, 1, 100);
+        addBalance(db, Period - 1, Piece, 500, 50000);
+        const QVariantMap goodsAfter = accountRecord(*accounts(scratch), u"1405"_s);
+        const std::pair<const char *, double> added[]{{"FSumBegBal", 1100}, {"FSumYtdBegBal", 1100}, {"FSumBaseBegQty", 20}};
+        for (const auto &[field, amount] : added)
+            QCOMPARE(goodsAfter.value(QLatin1String(field)).toDouble(), goods.value(QLatin1String(field)).toDouble() + amount);
+        QCOMPARE(accountRecord(*accounts(scratch), u"1403"_s), raw);
+    }
 
-void TestLedgerData::accountFiltersSelectOnlyWhatTheySay()
-{
-    QFETCH(QString, filter);
-    QFETCH(QString, sort);
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    const auto rs = accounts(scratch, filter, sort);
-    QVERIFY(rs);
-    QTEST(texts(column(*rs, u"FNumber"_s)), "numbers");
-    QCOMPARE(SqlRun::scalar(scratch.db(), u"SELECT count(*) FROM t_Account"_s).toInt(), 7);
-}
+    void accountFiltersSelectOnlyWhatTheySay_data()
+    {
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<QString>("sort");
+        QTest::addColumn<QStringList>("numbers");
+        QTest::newRow("one code") << "FNumber = '1405'" << "" << QStringList{u"1405"_s};
+        QTest::newRow("on a sum") << "FIsCostDiff = 1" << "" << QStringList{u"1404"_s};
+        QStringList backwards = InventoryAccounts;
+        std::reverse(backwards.begin(), backwards.end());
+        QTest::newRow("sorted backwards") << "" << "FNumber DESC" << backwards;
+        QTest::newRow("always true") << "FNumber = '1405' OR 1=1" << "" << QStringList{};
+        QTest::newRow("unknown field") << "FPassword = ''" << "" << QStringList{};
+        QTest::newRow("statement in the sort") << "" << "FNumber; DELETE FROM t_Account" << QStringList{};
+    }
 
-void TestLedgerData::reconciliationPagesWithTotals_data()
-{
-    addBackendColumn();
-    addBackendRows();
-}
+    void accountFiltersSelectOnlyWhatTheySay()
+    {
+        QFETCH(QString, filter);
+        QFETCH(QString, sort);
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        const auto rs = accounts(scratch, filter, sort);
+        QVERIFY(rs);
+        QTEST(texts(column(*rs, u"FNumber"_s)), "numbers");
+        QCOMPARE(SqlRun::scalar(scratch.db(), u"SELECT count(*) FROM t_Account"_s).toInt(), 7);
+    }
 
-void TestLedgerData::reconciliationPagesWithTotals()
-{
-    QFETCH(QString, backend);
-    REQUIRE_BACKEND(backend);
-    ScratchAccountSet scratch(backend);
-    const auto all = accounts(scratch);
-    double begBal = 0;
-    for (const QVariant &value : column(*all, u"FSumBegBal"_s))
-        begBal += value.toDouble();
+    void reconciliationPagesWithTotals_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
 
-    QStringList seen;
-    for (int index = 1; index <= 3; ++index) {
-        const auto page = dictionary(Data, u"FetchYtdCheckAcctData"_s,
-                                     {scratch.propsString(), Period, 0, 2, index, QString()});
-        QVERIFY(page);
-        QCOMPARE(page->Item(u"TotalPages"_s).toInt(), 3);
-        QCOMPARE(page->Item(u"RecordCount"_s).toInt(), InventoryAccounts.size());
-        const auto rows = takeObject<Recordset>(page->Item(u"Rows"_s));
-        const auto totals = takeObject<Recordset>(page->Item(u"Totals"_s));
-        QCOMPARE(totals->RecordCount(), 1);
-        QVERIFY(qAbs(totals->Fields(u"FInitBegBal"_s).toDouble() - begBal) < 1e-6);
-        for (rows->MoveFirst(); !rows->atEnd(); rows->MoveNext()) {
-            const QString number = rows->Fields(u"FNumber"_s).toString();
-            seen.append(number);
-            const double diff = rows->Fields(u"FICGLDiff"_s).toDouble();
-            QVERIFY(qAbs(diff - (rows->Fields(u"FSumBegBal"_s).toDouble()
-                                 - rows->Fields(u"FGLSumEndBal"_s).toDouble())) < 1e-6);
-            // The demo's ledger agrees except on finished goods.
-            if (number == u"1405"_s)
-                QVERIFY2(qAbs(diff + GoodsDifference) < 1e-6, qPrintable(QString::number(diff)));
-            else if (number == u"1403"_s)
-                QVERIFY2(qAbs(diff) < 1e-6, qPrintable(QString::number(diff)));
+    void reconciliationPagesWithTotals()
+    {
+        QFETCH(QString, backend);
+        REQUIRE_BACKEND(backend);
+        ScratchAccountSet scratch(backend);
+        const auto all = accounts(scratch);
+        double begBal = 0;
+        for (const QVariant &value : column(*all, u"FSumBegBal"_s))
+            begBal += value.toDouble();
+
+        QStringList seen;
+        for (int index = 1; index <= 3; ++index) {
+            const auto page = dictionary(Data, u"FetchYtdCheckAcctData"_s,
+                                         {scratch.propsString(), Period, 0, 2, index, QString()});
+            QVERIFY(page);
+            QCOMPARE(page->Item(u"TotalPages"_s).toInt(), 3);
+            QCOMPARE(page->Item(u"RecordCount"_s).toInt(), InventoryAccounts.size());
+            const auto rows = takeObject<Recordset>(page->Item(u"Rows"_s));
+            const auto totals = takeObject<Recordset>(page->Item(u"Totals"_s));
+            QCOMPARE(totals->RecordCount(), 1);
+            QVERIFY(qAbs(totals->Fields(u"FInitBegBal"_s).toDouble() - begBal) < 1e-6);
+            for (rows->MoveFirst(); !rows->atEnd(); rows->MoveNext()) {
+                const QString number = rows->Fields(u"FNumber"_s).toString();
+                seen.append(number);
+                const double diff = rows->Fields(u"FICGLDiff"_s).toDouble();
+                QVERIFY(qAbs(diff - (rows->Fields(u"FSumBegBal"_s).toDouble()
+                                     - rows->Fields(u"FGLSumEndBal"_s).toDouble())) < 1e-6);
+                // The demo's ledger agrees except on finished goods.
+                if (number == u"1405"_s)
+                    QVERIFY2(qAbs(diff + GoodsDifference) < 1e-6, qPrintable(QString::number(diff)));
+                else if (number == u"1403"_s)
+                    QVERIFY2(qAbs(diff) < 1e-6, qPrintable(QString::number(diff)));
+            }
+        }
+        QCOMPARE(seen, InventoryAccounts);
+
+        // One account, without totals.
+        const auto one = dictionary(Data, u"FetchYtdCheckAcctData"_s,
+                                    {scratch.propsString(), Period, GoodsAcct, 10, 1, QString(), QString(), QString(),
+                                     QString(), false});
+        const auto rows = takeObject<Recordset>(one->Item(u"Rows"_s));
+        const auto totals = takeObject<Recordset>(one->Item(u"Totals"_s));
+        QCOMPARE(texts(column(*rows, u"FNumber"_s)), QStringList{u"1405"_s});
+        QCOMPARE(totals->RecordCount(), 0);
+    }
+
+    void transferWritesTheLedgerBalance_data()
+    {
+        QTest::addColumn<int>("account");
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<int>("dc");
+        QTest::addColumn<int>("scale");
+        QTest::addColumn<double>("ytdBegBal");
+        QTest::addColumn<double>("begBal");
+        QTest::addColumn<double>("storedBegin");
+        QTest::addColumn<double>("storedEnd");
+        QTest::newRow("debit, half a cent up") << RawMaterialAcct << "1403" << 1 << 2 << 1234.565 << 2.675 << 1234.57 << 2.68;
+        QTest::newRow("debit, half away from zero") << RawMaterialAcct << "1403" << 1 << 0 << -2.5 << 2.5 << -3.0 << 3.0;
+        QTest::newRow("credit kept debit-positive") << PayablesAcct << "2202" << -1 << 2 << 500.0 << 800.0 << -500.0 << -800.0;
+        QTest::newRow("no scale: as given") << RawMaterialAcct << " 1403 " << 1 << -1 << 1.23456 << 7.0 << 1.23456 << 7.0;
+    }
+
+    void transferWritesTheLedgerBalance()
+    {
+        QFETCH(int, account);
+        QFETCH(QString, number);
+        QFETCH(int, dc);
+        QFETCH(int, scale);
+        QFETCH(double, ytdBegBal);
+        QFETCH(double, begBal);
+        QFETCH(double, storedBegin);
+        QFETCH(double, storedEnd);
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        const QSqlDatabase db = scratch.db();
+        const int answer = call(Data, u"StartTransferBalace"_s,
+                                {scratch.propsString(), 0, 0, 0, account, number, u"科目"_s, dc, scale,
+                                 ytdBegBal, 10.0, 20.0, begBal, 0})
+                               .toInt();
+        QCOMPARE(answer, 1);
+        // Year and period 0 are the inventory's current ones; the earlier balance is replaced.
+        QSqlQuery row = SqlRun::exec(db,
+                                     u"SELECT FBeginBalance, FYtdDebit, FYtdCredit, FEndBalance, FDetailID "
+                                                    "FROM t_Balance WHERE FYear=? AND FPeriod=? AND FAccountID=? AND "
+                                                    "FCurrencyID=1"_s,
+                                     {currentYear(db), Period, account});
+        QVERIFY(row.next());
+        QCOMPARE(row.value(0).toDouble(), storedBegin);
+        QCOMPARE(row.value(1).toDouble(), 10.0);
+        QCOMPARE(row.value(2).toDouble(), 20.0);
+        QCOMPARE(row.value(3).toDouble(), storedEnd);
+        QCOMPARE(row.value(4).toInt(), 0);
+        QVERIFY(!row.next());
+    }
+
+    void transferRefusesUnmatchedItems_data()
+    {
+        QTest::addColumn<int>("ledgerDetail"); // the account's own combination
+        QTest::addColumn<int>("detail");       // the one passed
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<int>("error");
+        QTest::newRow("items match") << 3 << 3 << "1411" << 1 << 0;
+        QTest::newRow("items passed, account has none") << 0 << 3 << "1411" << -1 << 0;
+        QTest::newRow("account has items, none passed") << 3 << 0 << "1411" << -1 << 0;
+        QTest::newRow("other items") << 3 << 4 << "1411" << -1 << 0;
+        QTest::newRow("code changed") << 0 << 0 << "1412" << 0 << DataError::UnknownAccount;
+    }
+
+    void transferRefusesUnmatchedItems()
+    {
+        QFETCH(int, ledgerDetail);
+        QFETCH(int, detail);
+        QFETCH(QString, number);
+        QFETCH(int, answer);
+        QFETCH(int, error);
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        const QSqlDatabase db = scratch.db();
+        SqlRun::exec(db, u"UPDATE t_Account SET FDetailID=? WHERE FAccountID=?"_s, {ledgerDetail, SuppliesAcct});
+        const QString before = ledgerOf(db, SuppliesAcct);
+        int result = 0;
+        QCOMPARE(errorNumberOf([&] {
+                     result = call(Data, u"StartTransferBalace"_s,
+                                   {scratch.propsString(), 0, 0, 0, SuppliesAcct, number, u"周转材料"_s, 1, 2,
+                                    99.0, 0.0, 0.0, 99.0, detail})
+                                  .toInt();
+                 }),
+                 error);
+        QCOMPARE(result, answer);
+        if (answer == 1)
+            QVERIFY(ledgerOf(db, SuppliesAcct) != before);
+        else
+            QCOMPARE(ledgerOf(db, SuppliesAcct), before);
+    }
+
+    void auxiliaryPropertiesAreCounted()
+    {
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        const QSqlDatabase db = scratch.db();
+        QCOMPARE(call(Data, u"CheckItemAuxNum"_s, {scratch.propsString()}).toInt(), 6);
+        SqlRun::exec(db, u"DELETE FROM t_AuxItem"_s);
+        QCOMPARE(call(Data, u"CheckItemAuxNum"_s, {scratch.propsString()}).toInt(), 0);
+
+        const auto classes = recordset(Data, u"FetchAuxProp"_s, {scratch.propsString()});
+        QCOMPARE(texts(column(*classes, u"fname"_s)),
+                 (QStringList{u"颜色尺码"_s, u"等级"_s}));
+        // In number order, not in id order.
+        SqlRun::exec(db, u"UPDATE t_AuxClass SET FNumber='00' WHERE FItemClassID=2"_s);
+        const auto renumbered = recordset(Data, u"FetchAuxProp"_s, {scratch.propsString()});
+        QCOMPARE(column(*renumbered, u"fitemclassid"_s).first().toInt(), 2);
+    }
+
+    void fieldListsOfferTheFilterFields_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<int>("error");
+        QTest::newRow("conditions") << "FVisForQuest" << 0;
+        QTest::newRow("sorting, any case") << "fvisfororder" << 0;
+        QTest::newRow("unknown kind") << "FVisForAll" << DataError::BadFieldListKind;
+        QTest::newRow("empty") << "" << DataError::BadFieldListKind;
+    }
+
+    void fieldListsOfferTheFilterFields()
+    {
+        QFETCH(QString, kind);
+        QFETCH(int, error);
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        std::unique_ptr<Recordset> fields;
+        QCOMPARE(errorNumberOf([&] {
+                     fields = recordset(Data, u"GetSortByFields"_s, {scratch.propsString(), kind});
+                 }),
+                 error);
+        if (error != 0)
+            return;
+        QVERIFY(fields->RecordCount() > 10);
+        // Every field offered is one the item rows can be filtered and sorted by: the semi-finished
+        // goods warehouse keeps its rows under each.
+        for (fields->MoveFirst(); !fields->atEnd(); fields->MoveNext()) {
+            const QString name = fields->Fields(u"FieldName"_s).toString();
+            QVERIFY(!fields->Fields(u"Name"_s).toString().isEmpty());
+            const auto page = dictionary(Data, u"FetchYtdInitialData"_s,
+                                         {scratch.propsString(), SemiFinished, 0, Period, 50, 1, QString(), QString(),
+                                          QString(), name + u" DESC"_s, false});
+            QVERIFY2(page->Item(u"RecordCount"_s).toInt() > 0, qPrintable(name));
+            takeObject<Recordset>(page->Item(u"Rows"_s));
+            takeObject<Recordset>(page->Item(u"Totals"_s));
         }
     }
-    QCOMPARE(seen, InventoryAccounts);
 
-    // One account, without totals.
-    const auto one = dictionary(Data, u"FetchYtdCheckAcctData"_s,
-                                {scratch.propsString(), Period, GoodsAcct, 10, 1, QString(), QString(), QString(),
-                                 QString(), false});
-    const auto rows = takeObject<Recordset>(one->Item(u"Rows"_s));
-    const auto totals = takeObject<Recordset>(one->Item(u"Totals"_s));
-    QCOMPARE(texts(column(*rows, u"FNumber"_s)), QStringList{u"1405"_s});
-    QCOMPARE(totals->RecordCount(), 0);
-}
-
-void TestLedgerData::transferWritesTheLedgerBalance_data()
-{
-    QTest::addColumn<int>("account");
-    QTest::addColumn<QString>("number");
-    QTest::addColumn<int>("dc");
-    QTest::addColumn<int>("scale");
-    QTest::addColumn<double>("ytdBegBal");
-    QTest::addColumn<double>("begBal");
-    QTest::addColumn<double>("storedBegin");
-    QTest::addColumn<double>("storedEnd");
-    QTest::newRow("debit, half a cent up") << RawMaterialAcct << "1403" << 1 << 2 << 1234.565 << 2.675 << 1234.57 << 2.68;
-    QTest::newRow("debit, half away from zero") << RawMaterialAcct << "1403" << 1 << 0 << -2.5 << 2.5 << -3.0 << 3.0;
-    QTest::newRow("credit kept debit-positive") << PayablesAcct << "2202" << -1 << 2 << 500.0 << 800.0 << -500.0 << -800.0;
-    QTest::newRow("no scale: as given") << RawMaterialAcct << " 1403 " << 1 << -1 << 1.23456 << 7.0 << 1.23456 << 7.0;
-}
-
-void TestLedgerData::transferWritesTheLedgerBalance()
-{
-    QFETCH(int, account);
-    QFETCH(QString, number);
-    QFETCH(int, dc);
-    QFETCH(int, scale);
-    QFETCH(double, ytdBegBal);
-    QFETCH(double, begBal);
-    QFETCH(double, storedBegin);
-    QFETCH(double, storedEnd);
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    const QSqlDatabase db = scratch.db();
-    const int answer = call(Data, u"StartTransferBalace"_s,
-                            {scratch.propsString(), 0, 0, 0, account, number, u"科目"_s, dc, scale,
-                             ytdBegBal, 10.0, 20.0, begBal, 0})
-                           .toInt();
-    QCOMPARE(answer, 1);
-    // Year and period 0 are the inventory's current ones; the earlier balance is replaced.
-    QSqlQuery row = SqlRun::exec(db,
-                                 u"SELECT FBeginBalance, FYtdDebit, FYtdCredit, FEndBalance, FDetailID "
-                                                "FROM t_Balance WHERE FYear=? AND FPeriod=? AND FAccountID=? AND "
-                                                "FCurrencyID=1"_s,
-                                 {currentYear(db), Period, account});
-    QVERIFY(row.next());
-    QCOMPARE(row.value(0).toDouble(), storedBegin);
-    QCOMPARE(row.value(1).toDouble(), 10.0);
-    QCOMPARE(row.value(2).toDouble(), 20.0);
-    QCOMPARE(row.value(3).toDouble(), storedEnd);
-    QCOMPARE(row.value(4).toInt(), 0);
-    QVERIFY(!row.next());
-}
-
-void TestLedgerData::transferRefusesUnmatchedItems_data()
-{
-    QTest::addColumn<int>("ledgerDetail"); // the account's own combination
-    QTest::addColumn<int>("detail");       // the one passed
-    QTest::addColumn<QString>("number");
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<int>("error");
-    QTest::newRow("items match") << 3 << 3 << "1411" << 1 << 0;
-    QTest::newRow("items passed, account has none") << 0 << 3 << "1411" << -1 << 0;
-    QTest::newRow("account has items, none passed") << 3 << 0 << "1411" << -1 << 0;
-    QTest::newRow("other items") << 3 << 4 << "1411" << -1 << 0;
-    QTest::newRow("code changed") << 0 << 0 << "1412" << 0 << DataError::UnknownAccount;
-}
-
-void TestLedgerData::transferRefusesUnmatchedItems()
-{
-    QFETCH(int, ledgerDetail);
-    QFETCH(int, detail);
-    QFETCH(QString, number);
-    QFETCH(int, answer);
-    QFETCH(int, error);
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    const QSqlDatabase db = scratch.db();
-    SqlRun::exec(db, u"UPDATE t_Account SET FDetailID=? WHERE FAccountID=?"_s, {ledgerDetail, SuppliesAcct});
-    const QString before = ledgerOf(db, SuppliesAcct);
-    int result = 0;
-    QCOMPARE(errorNumberOf([&] {
-                 result = call(Data, u"StartTransferBalace"_s,
-                               {scratch.propsString(), 0, 0, 0, SuppliesAcct, number, u"周转材料"_s, 1, 2,
-                                99.0, 0.0, 0.0, 99.0, detail})
-                              .toInt();
-             }),
-             error);
-    QCOMPARE(result, answer);
-    if (answer == 1)
-        QVERIFY(ledgerOf(db, SuppliesAcct) != before);
-    else
-        QCOMPARE(ledgerOf(db, SuppliesAcct), before);
-}
-
-void TestLedgerData::auxiliaryPropertiesAreCounted()
-{
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    const QSqlDatabase db = scratch.db();
-    QCOMPARE(call(Data, u"CheckItemAuxNum"_s, {scratch.propsString()}).toInt(), 6);
-    SqlRun::exec(db, u"DELETE FROM t_AuxItem"_s);
-    QCOMPARE(call(Data, u"CheckItemAuxNum"_s, {scratch.propsString()}).toInt(), 0);
-
-    const auto classes = recordset(Data, u"FetchAuxProp"_s, {scratch.propsString()});
-    QCOMPARE(texts(column(*classes, u"fname"_s)),
-             (QStringList{u"颜色尺码"_s, u"等级"_s}));
-    // In number order, not in id order.
-    SqlRun::exec(db, u"UPDATE t_AuxClass SET FNumber='00' WHERE FItemClassID=2"_s);
-    const auto renumbered = recordset(Data, u"FetchAuxProp"_s, {scratch.propsString()});
-    QCOMPARE(column(*renumbered, u"fitemclassid"_s).first().toInt(), 2);
-}
-
-void TestLedgerData::fieldListsOfferTheFilterFields_data()
-{
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<int>("error");
-    QTest::newRow("conditions") << "FVisForQuest" << 0;
-    QTest::newRow("sorting, any case") << "fvisfororder" << 0;
-    QTest::newRow("unknown kind") << "FVisForAll" << DataError::BadFieldListKind;
-    QTest::newRow("empty") << "" << DataError::BadFieldListKind;
-}
-
-void TestLedgerData::fieldListsOfferTheFilterFields()
-{
-    QFETCH(QString, kind);
-    QFETCH(int, error);
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    std::unique_ptr<Recordset> fields;
-    QCOMPARE(errorNumberOf([&] {
-                 fields = recordset(Data, u"GetSortByFields"_s, {scratch.propsString(), kind});
-             }),
-             error);
-    if (error != 0)
-        return;
-    QVERIFY(fields->RecordCount() > 10);
-    // Every field offered is one the item rows can be filtered and sorted by: the semi-finished
-    // goods warehouse keeps its rows under each.
-    for (fields->MoveFirst(); !fields->atEnd(); fields->MoveNext()) {
-        const QString name = fields->Fields(u"FieldName"_s).toString();
-        QVERIFY(!fields->Fields(u"Name"_s).toString().isEmpty());
-        const auto page = dictionary(Data, u"FetchYtdInitialData"_s,
-                                     {scratch.propsString(), SemiFinished, 0, Period, 50, 1, QString(), QString(),
-                                      QString(), name + u" DESC"_s, false});
-        QVERIFY2(page->Item(u"RecordCount"_s).toInt() > 0, qPrintable(name));
-        takeObject<Recordset>(page->Item(u"Rows"_s));
-        takeObject<Recordset>(page->Item(u"Totals"_s));
+    void fieldListsFollowTheAccountSet()
+    {
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        SqlRun::exec(scratch.db(), u"INSERT INTO t_FieldList (FDataSet, FFieldName, FName, FVisForQuest, FVisForOrder, FIndex) "
+                                   "VALUES ('ICInitial', 'fnumber', '代码', 1, 0, 2), ('ICInitial', 'FItemName', '名称', 1, 1, 1), "
+                                   "('ICInitial', 'FNoSuch', '无', 1, 1, 0), ('Other', 'FModel', '型号', 1, 1, 0)"_s);
+        const auto quest = recordset(Data, u"GetSortByFields"_s, {scratch.propsString(), u"FVisForQuest"_s});
+        QCOMPARE(texts(column(*quest, u"FieldName"_s)),
+                 (QStringList{u"FItemName"_s, u"FNumber"_s}));
+        QCOMPARE(texts(column(*quest, u"Name"_s)), (QStringList{u"名称"_s, u"代码"_s}));
+        const auto order = recordset(Data, u"GetSortByFields"_s, {scratch.propsString(), u"FVisForOrder"_s});
+        QCOMPARE(texts(column(*order, u"FieldName"_s)), QStringList{u"FItemName"_s});
     }
-}
 
-void TestLedgerData::fieldListsFollowTheAccountSet()
-{
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    SqlRun::exec(scratch.db(), u"INSERT INTO t_FieldList (FDataSet, FFieldName, FName, FVisForQuest, FVisForOrder, FIndex) "
-                               "VALUES ('ICInitial', 'fnumber', '代码', 1, 0, 2), ('ICInitial', 'FItemName', '名称', 1, 1, 1), "
-                               "('ICInitial', 'FNoSuch', '无', 1, 1, 0), ('Other', 'FModel', '型号', 1, 1, 0)"_s);
-    const auto quest = recordset(Data, u"GetSortByFields"_s, {scratch.propsString(), u"FVisForQuest"_s});
-    QCOMPARE(texts(column(*quest, u"FieldName"_s)),
-             (QStringList{u"FItemName"_s, u"FNumber"_s}));
-    QCOMPARE(texts(column(*quest, u"Name"_s)), (QStringList{u"名称"_s, u"代码"_s}));
-    const auto order = recordset(Data, u"GetSortByFields"_s, {scratch.propsString(), u"FVisForOrder"_s});
-    QCOMPARE(texts(column(*order, u"FieldName"_s)), QStringList{u"FItemName"_s});
-}
+    void loginFindsTheUser_data()
+    {
+        QTest::addColumn<QString>("user");
+        QTest::addColumn<int>("userId");
+        QTest::addColumn<int>("error");
+        QTest::newRow("demonstrator") << "演示员" << 16 << 0;
+        QTest::newRow("blanks around") << " 查询员 " << 17 << 0;
+        QTest::newRow("unknown") << "nobody" << 0 << DataError::UnknownUser;
+        QTest::newRow("quote") << "' OR ''='" << 0 << DataError::UnknownUser;
+        QTest::newRow("forbidden") << "禁用员" << 0 << DataError::ForbiddenUser;
+    }
 
-void TestLedgerData::loginFindsTheUser_data()
-{
-    QTest::addColumn<QString>("user");
-    QTest::addColumn<int>("userId");
-    QTest::addColumn<int>("error");
-    QTest::newRow("demonstrator") << "演示员" << 16 << 0;
-    QTest::newRow("blanks around") << " 查询员 " << 17 << 0;
-    QTest::newRow("unknown") << "nobody" << 0 << DataError::UnknownUser;
-    QTest::newRow("quote") << "' OR ''='" << 0 << DataError::UnknownUser;
-    QTest::newRow("forbidden") << "禁用员" << 0 << DataError::ForbiddenUser;
-}
+    void loginFindsTheUser()
+    {
+        QFETCH(QString, user);
+        QFETCH(int, error);
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        SqlRun::exec(scratch.db(), u"INSERT INTO t_User (FUserID, FName, FForbidden) VALUES (30, '禁用员', 1)"_s);
+        int id = 0;
+        QCOMPARE(errorNumberOf([&] { id = call(GL, u"Login"_s, {scratch.acctDb(), user}).toInt(); }), error);
+        QTEST(id, "userId");
+    }
 
-void TestLedgerData::loginFindsTheUser()
-{
-    QFETCH(QString, user);
-    QFETCH(int, error);
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    SqlRun::exec(scratch.db(), u"INSERT INTO t_User (FUserID, FName, FForbidden) VALUES (30, '禁用员', 1)"_s);
-    int id = 0;
-    QCOMPARE(errorNumberOf([&] { id = call(GL, u"Login"_s, {scratch.acctDb(), user}).toInt(); }), error);
-    QTEST(id, "userId");
-}
+    void lookupsFindWhatIsAsked_data()
+    {
+        QTest::addColumn<QString>("member");
+        QTest::addColumn<QVariantList>("args");
+        QTest::addColumn<QString>("prepare"); // run on the account set first
+        QTest::addColumn<QStringList>("numbers");
+        QTest::addColumn<int>("error");
+        const auto add = [](const char *name, const QString &member, const QVariantList &args, const QStringList &numbers,
+                            int error = 0, const QString &prepare = {}) {
+            QTest::newRow(name) << member << args << prepare << numbers << error;
+        };
+        const QString items = u"LookupItems"_s;
+        add("items: virtual", items, {u"x2.FErpClsID=5"_s, u""_s}, {u"9.01.001"_s});
+        add("items: by name", items, {u"x2.FErpClsID in (1,2,3,7,9)"_s, u"电动机"_s}, {u"3.01.001"_s, u"3.01.002"_s});
+        add("items: by code part", items, {u""_s, u"1.04"_s}, {u"1.04.001"_s, u"1.04.002"_s});
+        add("items: class excludes", items, {u"x2.FErpClsID<>5"_s, u"9.01"_s}, {});
+        add("items: self-made by name", items, {u"FErpClsID = 2"_s, u"转子"_s}, {u"2.01.002"_s});
+        add("items: quote in the pattern", items, {u""_s, u"' OR '1'='1"_s}, {});
+        add("items: condition always true", items, {u"1=1"_s, u""_s}, {}, DataError::BadErpClassCondition);
+        add("items: statement in the condition", items, {u"x2.FErpClsID in (1); DELETE FROM t_ICItem"_s, u""_s}, {},
+            DataError::BadErpClassCondition);
+        // 螺钉 (item 7) counts in pieces: 个, 盒 and 箱 of the quantity group.
+        const QString units = u"LookupUnits"_s;
+        add("units of the group", units, {7}, {u"1001"_s, u"1002"_s, u"1003"_s});
+        add("units: one not for conversion", units, {7}, {u"1001"_s, u"1003"_s}, 0,
+            u"UPDATE t_MeasureUnit SET FConversation=0 WHERE FMeasureUnitID=2"_s);
+        add("units: unknown item", units, {999}, {});
+        const QString accounts = u"LookupAccounts"_s;
+        add("accounts: code part", accounts, {u"14"_s},
+            {u"1403"_s, u"1404"_s, u"1405"_s, u"1408"_s, u"1411"_s, u"1471"_s});
+        add("accounts: name part", accounts, {u"应付"_s}, {u"2202"_s});
+        add("accounts: quote", accounts, {u"' OR ''='"_s}, {});
+        add("accounts: everything", accounts, {u""_s},
+            {u"1403"_s, u"1404"_s, u"1405"_s, u"1408"_s, u"1411"_s, u"1471"_s, u"2202"_s});
+    }
 
-void TestLedgerData::lookupsFindWhatIsAsked_data()
-{
-    QTest::addColumn<QString>("member");
-    QTest::addColumn<QVariantList>("args");
-    QTest::addColumn<QString>("prepare"); // run on the account set first
-    QTest::addColumn<QStringList>("numbers");
-    QTest::addColumn<int>("error");
-    const auto add = [](const char *name, const QString &member, const QVariantList &args, const QStringList &numbers,
-                        int error = 0, const QString &prepare = {}) {
-        QTest::newRow(name) << member << args << prepare << numbers << error;
-    };
-    const QString items = u"LookupItems"_s;
-    add("items: virtual", items, {u"x2.FErpClsID=5"_s, u""_s}, {u"9.01.001"_s});
-    add("items: by name", items, {u"x2.FErpClsID in (1,2,3,7,9)"_s, u"电动机"_s}, {u"3.01.001"_s, u"3.01.002"_s});
-    add("items: by code part", items, {u""_s, u"1.04"_s}, {u"1.04.001"_s, u"1.04.002"_s});
-    add("items: class excludes", items, {u"x2.FErpClsID<>5"_s, u"9.01"_s}, {});
-    add("items: self-made by name", items, {u"FErpClsID = 2"_s, u"转子"_s}, {u"2.01.002"_s});
-    add("items: quote in the pattern", items, {u""_s, u"' OR '1'='1"_s}, {});
-    add("items: condition always true", items, {u"1=1"_s, u""_s}, {}, DataError::BadErpClassCondition);
-    add("items: statement in the condition", items, {u"x2.FErpClsID in (1); DELETE FROM t_ICItem"_s, u""_s}, {},
-        DataError::BadErpClassCondition);
-    // 螺钉 (item 7) counts in pieces: 个, 盒 and 箱 of the quantity group.
-    const QString units = u"LookupUnits"_s;
-    add("units of the group", units, {7}, {u"1001"_s, u"1002"_s, u"1003"_s});
-    add("units: one not for conversion", units, {7}, {u"1001"_s, u"1003"_s}, 0,
-        u"UPDATE t_MeasureUnit SET FConversation=0 WHERE FMeasureUnitID=2"_s);
-    add("units: unknown item", units, {999}, {});
-    const QString accounts = u"LookupAccounts"_s;
-    add("accounts: code part", accounts, {u"14"_s},
-        {u"1403"_s, u"1404"_s, u"1405"_s, u"1408"_s, u"1411"_s, u"1471"_s});
-    add("accounts: name part", accounts, {u"应付"_s}, {u"2202"_s});
-    add("accounts: quote", accounts, {u"' OR ''='"_s}, {});
-    add("accounts: everything", accounts, {u""_s},
-        {u"1403"_s, u"1404"_s, u"1405"_s, u"1408"_s, u"1411"_s, u"1471"_s, u"2202"_s});
-}
+    void lookupsFindWhatIsAsked()
+    {
+        QFETCH(QString, member);
+        QFETCH(QVariantList, args);
+        QFETCH(QString, prepare);
+        QFETCH(int, error);
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        if (!prepare.isEmpty())
+            SqlRun::exec(scratch.db(), prepare);
+        publishLogin(scratch.propsString());
+        std::unique_ptr<Recordset> found;
+        QCOMPARE(errorNumberOf([&] { found = recordset(GL, member, args); }), error);
+        QCOMPARE(SqlRun::scalar(scratch.db(), u"SELECT count(*) FROM t_ICItem"_s).toInt(), 18);
+        if (error == 0)
+            QTEST(texts(column(*found, u"FNumber"_s)), "numbers");
+    }
+};
 
-void TestLedgerData::lookupsFindWhatIsAsked()
-{
-    QFETCH(QString, member);
-    QFETCH(QVariantList, args);
-    QFETCH(QString, prepare);
-    QFETCH(int, error);
-    ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-    if (!prepare.isEmpty())
-        SqlRun::exec(scratch.db(), prepare);
-    publishLogin(scratch.propsString());
-    std::unique_ptr<Recordset> found;
-    QCOMPARE(errorNumberOf([&] { found = recordset(GL, member, args); }), error);
-    QCOMPARE(SqlRun::scalar(scratch.db(), u"SELECT count(*) FROM t_ICItem"_s).toInt(), 18);
-    if (error == 0)
-        QTEST(texts(column(*found, u"FNumber"_s)), "numbers");
-}
+QTEST_MAIN(TestLedgerData)
+#include "tst_ledgerdata.moc"

@@ -1,5 +1,3 @@
-#include "tst_localservices.h"
-
 #include "frame/automation/progids.h"
 #include "services/tracelog.h"
 
@@ -55,145 +53,163 @@ QVariant callService(const QString &progId, const QString &member, const QVarian
 
 } // namespace
 
-void TestLocalServices::initTestCase()
-{
-    // Keeps the log setting of these tests away from the user's own settings.
-    QStandardPaths::setTestModeEnabled(true);
-}
 
-void TestLocalServices::cleanup()
-{
-    qunsetenv(TraceLog::SwitchVariable);
-    qunsetenv(TraceLog::FileVariable);
-    logSettings().remove(TraceLog::EnabledSetting);
-}
 
-void TestLocalServices::registersEveryProgId()
+
+
+
+
+
+#include "tst_localservices.moc"
+
+// The services that need no account set: shared properties, the trace log, form fonts, and
+// the registration of every ProgID.
+class TestLocalServices : public QObject
 {
-    // The published names, spelt out: the controls and scripts create the services by them.
-    for (const char *name :
-         {"LumoMICInitial.Data", "LumoConnection.AppConnection", "LumoEBCGLView.GLData", "LumoNetControl.Mutex",
-          "QLLogMsg.Log", "LumoPropsMgr.ShareProps", "LumoFrmRes.FrmResLoader"}) {
-        const QString progId = QString::fromLatin1(name);
-        QVERIFY2(ComponentRegistry::instance().isRegistered(progId), qPrintable(progId));
-        // ProgIDs are found without regard to case, as the suite's registry does.
-        const auto object = CreateObject(progId.toUpper());
-        QVERIFY2(object, qPrintable(progId));
-        QVERIFY(!object->parent());
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        // Keeps the log setting of these tests away from the user's own settings.
+        QStandardPaths::setTestModeEnabled(true);
     }
-}
 
-void TestLocalServices::sharedPropertiesBelongToTheProcess()
-{
-    const int pid = int(QCoreApplication::applicationPid());
-    // Each call on a new service object: the storage belongs to the process, not to an object.
-    const auto set = [&](const QString &key, const QVariant &value) {
-        callService(ProgId::ShareProps, u"SetProperty"_s, {pid, key, value});
-    };
-    const auto get = [](int process, const QString &key) {
-        return callService(ProgId::ShareProps, u"GetProperty"_s, {process, key});
-    };
-    const QString props = u"UserName=演示员;UserID=16;AcctDB={/tmp/a.db};"_s;
-    set(u"PropsString"_s, props);
-    QCOMPARE(get(pid, u"propsstring"_s).toString(), props);
-    QVERIFY(!get(pid + 1, u"PropsString"_s).isValid());
-    QVERIFY(!get(pid, u"NoSuchKey"_s).isValid());
-    set(u"PropsString"_s, QString());
-    QVERIFY(get(pid, u"PropsString"_s).toString().isEmpty());
-
-    // A stored object is not kept alive by the storage.
-    auto login = std::make_unique<QObject>();
-    set(u"LumoLogin"_s, QVariant::fromValue(login.get()));
-    QCOMPARE(get(pid, u"LumoLogin"_s).value<QObject *>(), login.get());
-    login.reset();
-    QVERIFY(!get(pid, u"LumoLogin"_s).value<QObject *>());
-}
-
-void TestLocalServices::logWritesStartAndEnd_data()
-{
-    QTest::addColumn<QByteArray>("variable");
-    QTest::addColumn<bool>("setting");
-    QTest::addColumn<bool>("enabled");
-    QTest::newRow("switched off") << QByteArray("0") << false << false;
-    QTest::newRow("environment") << QByteArray("1") << false << true;
-    QTest::newRow("setting") << QByteArray() << true << true;
-}
-
-void TestLocalServices::logWritesStartAndEnd()
-{
-    QFETCH(QByteArray, variable);
-    QFETCH(bool, setting);
-    QFETCH(bool, enabled);
-    QTemporaryDir dir;
-    const QString path = dir.filePath(u"trace.log"_s);
-    qputenv(TraceLog::FileVariable, path.toLocal8Bit());
-    if (setting)
-        logSettings().setValue(TraceLog::EnabledSetting, true);
-    if (!variable.isNull())
-        qputenv(TraceLog::SwitchVariable, variable);
-
-    const auto log = CreateObject(ProgId::LogMsgLog);
-    QCOMPARE(Dispatch::call(log.get(), u"IsEnabled"_s).toBool(), enabled);
-    const QString text = u"LumoICInitialCtl.ICInitCtl.tvICInit_NodeClick 显示初始化录入界面"_s;
-    const int first = Dispatch::call(log.get(), u"LogStart"_s, {text}).toInt();
-    const int second = Dispatch::call(log.get(), u"LogStart"_s, {u"第二项"_s}).toInt();
-    Dispatch::call(log.get(), u"LogEnd"_s, {first, 7});
-    if (!enabled) {
-        QCOMPARE(first, 0);
-        QVERIFY(!QFile::exists(path));
-        return;
+    void cleanup()
+    {
+        qunsetenv(TraceLog::SwitchVariable);
+        qunsetenv(TraceLog::FileVariable);
+        logSettings().remove(TraceLog::EnabledSetting);
     }
-    QVERIFY(first > 0);
-    QVERIFY(second != first);
-    // An entry ends once; a second end and an unknown handle write nothing.
-    Dispatch::call(log.get(), u"LogEnd"_s, {first, 8});
-    Dispatch::call(log.get(), u"LogEnd"_s, {first + 1000, 9});
 
-    const QStringList lines = readAll(path).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    QCOMPARE(lines.size(), 3);
-    QVERIFY(lines.at(0).contains(u"START\t#%1\t%2"_s.arg(first).arg(text)));
-    QVERIFY(lines.at(2).contains(u"END\t#%1\t%2\tvalue=7\t"_s.arg(first).arg(text)));
-    QVERIFY(lines.at(2).endsWith(u" ms"_s));
-    // Each line starts with its time stamp.
-    QVERIFY(QDateTime::fromString(lines.at(0).left(23), u"yyyy-MM-dd hh:mm:ss.zzz"_s).isValid());
-}
+    void registersEveryProgId()
+    {
+        // The published names, spelt out: the controls and scripts create the services by them.
+        for (const char *name :
+             {"LumoMICInitial.Data", "LumoConnection.AppConnection", "LumoEBCGLView.GLData", "LumoNetControl.Mutex",
+              "QLLogMsg.Log", "LumoPropsMgr.ShareProps", "LumoFrmRes.FrmResLoader"}) {
+            const QString progId = QString::fromLatin1(name);
+            QVERIFY2(ComponentRegistry::instance().isRegistered(progId), qPrintable(progId));
+            // ProgIDs are found without regard to case, as the suite's registry does.
+            const auto object = CreateObject(progId.toUpper());
+            QVERIFY2(object, qPrintable(progId));
+            QVERIFY(!object->parent());
+        }
+    }
 
-void TestLocalServices::formFontReachesEveryWidget()
-{
-    QWidget form;
-    auto *inner = new QWidget(&form);
-    auto *label = new QLabel(u"仓    库:"_s, inner);
-    auto *title = new QLabel(u"存货初始数据录入"_s, &form);
-    QFont titleFont = title->font();
-    titleFont.setPointSize(15);
-    titleFont.setBold(true);
-    title->setFont(titleFont);
-    auto *helper = new QObject(&form);
-    helper->setProperty("font", u"untouched"_s);
-    callService(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&form), u"chs"_s});
-    const bool cjkInstalled = QFontDatabase::families().contains(u"WenQuanYi Micro Hei"_s);
-    for (const QWidget *widget : QList<const QWidget *>{&form, inner, label}) {
-        QCOMPARE(widget->font().pointSize(), 9);
+    void sharedPropertiesBelongToTheProcess()
+    {
+        const int pid = int(QCoreApplication::applicationPid());
+        // Each call on a new service object: the storage belongs to the process, not to an object.
+        const auto set = [&](const QString &key, const QVariant &value) {
+            callService(ProgId::ShareProps, u"SetProperty"_s, {pid, key, value});
+        };
+        const auto get = [](int process, const QString &key) {
+            return callService(ProgId::ShareProps, u"GetProperty"_s, {process, key});
+        };
+        const QString props = u"UserName=演示员;UserID=16;AcctDB={/tmp/a.db};"_s;
+        set(u"PropsString"_s, props);
+        QCOMPARE(get(pid, u"propsstring"_s).toString(), props);
+        QVERIFY(!get(pid + 1, u"PropsString"_s).isValid());
+        QVERIFY(!get(pid, u"NoSuchKey"_s).isValid());
+        set(u"PropsString"_s, QString());
+        QVERIFY(get(pid, u"PropsString"_s).toString().isEmpty());
+
+        // A stored object is not kept alive by the storage.
+        auto login = std::make_unique<QObject>();
+        set(u"LumoLogin"_s, QVariant::fromValue(login.get()));
+        QCOMPARE(get(pid, u"LumoLogin"_s).value<QObject *>(), login.get());
+        login.reset();
+        QVERIFY(!get(pid, u"LumoLogin"_s).value<QObject *>());
+    }
+
+    void logWritesStartAndEnd_data()
+    {
+        QTest::addColumn<QByteArray>("variable");
+        QTest::addColumn<bool>("setting");
+        QTest::addColumn<bool>("enabled");
+        QTest::newRow("switched off") << QByteArray("0") << false << false;
+        QTest::newRow("environment") << QByteArray("1") << false << true;
+        QTest::newRow("setting") << QByteArray() << true << true;
+    }
+
+    void logWritesStartAndEnd()
+    {
+        QFETCH(QByteArray, variable);
+        QFETCH(bool, setting);
+        QFETCH(bool, enabled);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(u"trace.log"_s);
+        qputenv(TraceLog::FileVariable, path.toLocal8Bit());
+        if (setting)
+            logSettings().setValue(TraceLog::EnabledSetting, true);
+        if (!variable.isNull())
+            qputenv(TraceLog::SwitchVariable, variable);
+
+        const auto log = CreateObject(ProgId::LogMsgLog);
+        QCOMPARE(Dispatch::call(log.get(), u"IsEnabled"_s).toBool(), enabled);
+        const QString text = u"LumoICInitialCtl.ICInitCtl.tvICInit_NodeClick 显示初始化录入界面"_s;
+        const int first = Dispatch::call(log.get(), u"LogStart"_s, {text}).toInt();
+        const int second = Dispatch::call(log.get(), u"LogStart"_s, {u"第二项"_s}).toInt();
+        Dispatch::call(log.get(), u"LogEnd"_s, {first, 7});
+        if (!enabled) {
+            QCOMPARE(first, 0);
+            QVERIFY(!QFile::exists(path));
+            return;
+        }
+        QVERIFY(first > 0);
+        QVERIFY(second != first);
+        // An entry ends once; a second end and an unknown handle write nothing.
+        Dispatch::call(log.get(), u"LogEnd"_s, {first, 8});
+        Dispatch::call(log.get(), u"LogEnd"_s, {first + 1000, 9});
+
+        const QStringList lines = readAll(path).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QCOMPARE(lines.size(), 3);
+        QVERIFY(lines.at(0).contains(u"START\t#%1\t%2"_s.arg(first).arg(text)));
+        QVERIFY(lines.at(2).contains(u"END\t#%1\t%2\tvalue=7\t"_s.arg(first).arg(text)));
+        QVERIFY(lines.at(2).endsWith(u" ms"_s));
+        // Each line starts with its time stamp.
+        QVERIFY(QDateTime::fromString(lines.at(0).left(23), u"yyyy-MM-dd hh:mm:ss.zzz"_s).isValid());
+    }
+
+    void formFontReachesEveryWidget()
+    {
+        QWidget form;
+        auto *inner = new QWidget(&form);
+        auto *label = new QLabel(u"仓    库:"_s, inner);
+        auto *title = new QLabel(u"存货初始数据录入"_s, &form);
+        QFont titleFont = title->font();
+        titleFont.setPointSize(15);
+        titleFont.setBold(true);
+        title->setFont(titleFont);
+        auto *helper = new QObject(&form);
+        helper->setProperty("font", u"untouched"_s);
+        callService(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&form), u"chs"_s});
+        const bool cjkInstalled = QFontDatabase::families().contains(u"WenQuanYi Micro Hei"_s);
+        for (const QWidget *widget : QList<const QWidget *>{&form, inner, label}) {
+            QCOMPARE(widget->font().pointSize(), 9);
+            if (cjkInstalled)
+                QCOMPARE(widget->font().family(), u"WenQuanYi Micro Hei"_s);
+        }
+        // The title keeps its emphasis and takes only the family.
+        QCOMPARE(title->font().pointSize(), 15);
+        QVERIFY(title->font().bold());
         if (cjkInstalled)
-            QCOMPARE(widget->font().family(), u"WenQuanYi Micro Hei"_s);
+            QCOMPARE(title->font().family(), u"WenQuanYi Micro Hei"_s);
+        QCOMPARE(helper->property("font").toString(), u"untouched"_s);
+
+        // A collection of controls is not their parent: its items take the font, and their children.
+        QWidget tree;
+        auto *node = new QLabel(u"全部仓库"_s, &tree);
+        QWidget outside;
+        ControlList controls;
+        controls.m_controls = {&tree};
+        callService(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&controls), u"chs"_s});
+        QCOMPARE(tree.font().pointSize(), 9);
+        QCOMPARE(node->font().pointSize(), 9);
+        QCOMPARE(outside.font(), QApplication::font());
     }
-    // The title keeps its emphasis and takes only the family.
-    QCOMPARE(title->font().pointSize(), 15);
-    QVERIFY(title->font().bold());
-    if (cjkInstalled)
-        QCOMPARE(title->font().family(), u"WenQuanYi Micro Hei"_s);
-    QCOMPARE(helper->property("font").toString(), u"untouched"_s);
+};
 
-    // A collection of controls is not their parent: its items take the font, and their children.
-    QWidget tree;
-    auto *node = new QLabel(u"全部仓库"_s, &tree);
-    QWidget outside;
-    ControlList controls;
-    controls.m_controls = {&tree};
-    callService(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&controls), u"chs"_s});
-    QCOMPARE(tree.font().pointSize(), 9);
-    QCOMPARE(node->font().pointSize(), 9);
-    QCOMPARE(outside.font(), QApplication::font());
-}
-
+QTEST_MAIN(TestLocalServices)
 #include "tst_localservices.moc"

@@ -1,5 +1,3 @@
-#include "tst_taskmutex.h"
-
 #include "scratchaccountset.h"
 
 #include "db/sqlrun.h"
@@ -64,101 +62,111 @@ qint64 endedProcessId()
 
 } // namespace
 
-// Every case runs on each backend; one that cannot be reached here is skipped.
-void TestTaskMutex::initTestCase_data()
+// "LumoNetControl.Mutex": who may run a task while another session holds it.
+class TestTaskMutex : public QObject
 {
-    addBackendColumn();
-    addBackendRows();
-}
+    Q_OBJECT
 
-void TestTaskMutex::init()
-{
-    QFETCH_GLOBAL(QString, backend);
-    REQUIRE_BACKEND(backend);
-}
+private slots:
+    // Every case runs on each backend; one that cannot be reached here is skipped.
+    void initTestCase_data()
+    {
+        addBackendColumn();
+        addBackendRows();
+    }
 
-void TestTaskMutex::registersAndCommits()
-{
-    QFETCH_GLOBAL(QString, backend);
-    ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
-    const int handle = taskExec(scratch, EntryTask);
-    QVERIFY(handle > 0);
-    // The same session registering again keeps its one registration.
-    QCOMPARE(taskExec(scratch, EntryTask), handle);
-    QCOMPARE(taskCount(scratch), 1);
-    QVERIFY(call(u"CommitTask"_s, {scratch.propsString(), handle}).toBool());
+    void init()
+    {
+        QFETCH_GLOBAL(QString, backend);
+        REQUIRE_BACKEND(backend);
+    }
 
-    // The eight-argument form records its extra value for the network control tool.
-    const int other = call(u"TaskExec"_s, {scratch.propsString(), 21, u"Cg0803"_s,
-                                                        QSysInfo::machineHostName(), 3, 1, 0, u"额外"_s})
-                          .toInt();
-    QVERIFY(other > 0 && other != handle);
+    void registersAndCommits()
+    {
+        QFETCH_GLOBAL(QString, backend);
+        ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
+        const int handle = taskExec(scratch, EntryTask);
+        QVERIFY(handle > 0);
+        // The same session registering again keeps its one registration.
+        QCOMPARE(taskExec(scratch, EntryTask), handle);
+        QCOMPARE(taskCount(scratch), 1);
+        QVERIFY(call(u"CommitTask"_s, {scratch.propsString(), handle}).toBool());
 
-    const auto tasks = takeObject<Recordset>(call(u"Tasks"_s, {scratch.propsString()}));
-    QVERIFY(tasks);
-    QCOMPARE(tasks->RecordCount(), 2);
-    tasks->MoveFirst();
-    QCOMPARE(tasks->Fields(u"FTaskHandle"_s).toInt(), handle);
-    QCOMPARE(tasks->Fields(u"FUserID"_s).toInt(), 16);
-    QCOMPARE(tasks->Fields(u"FUserName"_s).toString(), u"演示员"_s);
-    QCOMPARE(tasks->Fields(u"FProcessID"_s).toLongLong(), QCoreApplication::applicationPid());
-    QCOMPARE(tasks->Fields(u"FCommitted"_s).toInt(), 1);
-    QVERIFY(tasks->Fields(u"FStartTime"_s).toDateTime().isValid());
-    tasks->MoveNext();
-    QCOMPARE(tasks->Fields(u"FExtra"_s).toString(), u"额外"_s);
-    QCOMPARE(tasks->Fields(u"FFlagA"_s).toInt(), 1);
-    QCOMPARE(tasks->Fields(u"FCommitted"_s).toInt(), 0);
-}
+        // The eight-argument form records its extra value for the network control tool.
+        const int other = call(u"TaskExec"_s, {scratch.propsString(), 21, u"Cg0803"_s,
+                                                            QSysInfo::machineHostName(), 3, 1, 0, u"额外"_s})
+                              .toInt();
+        QVERIFY(other > 0 && other != handle);
 
-void TestTaskMutex::anotherLiveSessionHoldsItsTask_data()
-{
-    QTest::addColumn<int>("user");
-    QTest::addColumn<QString>("computer");
-    QTest::addColumn<bool>("ended");
-    QTest::addColumn<bool>("refused");
-    const QString here = QSysInfo::machineHostName();
-    QTest::newRow("another user, running") << 17 << here << false << true;
-    QTest::newRow("same user, another process") << 16 << here << false << true;
-    // A process on another computer cannot be checked from here, so it counts as running.
-    QTest::newRow("another computer") << 17 << u"OTHER-PC"_s << true << true;
-    QTest::newRow("ended process, cleared") << 17 << here << true << false;
-}
+        const auto tasks = takeObject<Recordset>(call(u"Tasks"_s, {scratch.propsString()}));
+        QVERIFY(tasks);
+        QCOMPARE(tasks->RecordCount(), 2);
+        tasks->MoveFirst();
+        QCOMPARE(tasks->Fields(u"FTaskHandle"_s).toInt(), handle);
+        QCOMPARE(tasks->Fields(u"FUserID"_s).toInt(), 16);
+        QCOMPARE(tasks->Fields(u"FUserName"_s).toString(), u"演示员"_s);
+        QCOMPARE(tasks->Fields(u"FProcessID"_s).toLongLong(), QCoreApplication::applicationPid());
+        QCOMPARE(tasks->Fields(u"FCommitted"_s).toInt(), 1);
+        QVERIFY(tasks->Fields(u"FStartTime"_s).toDateTime().isValid());
+        tasks->MoveNext();
+        QCOMPARE(tasks->Fields(u"FExtra"_s).toString(), u"额外"_s);
+        QCOMPARE(tasks->Fields(u"FFlagA"_s).toInt(), 1);
+        QCOMPARE(tasks->Fields(u"FCommitted"_s).toInt(), 0);
+    }
 
-void TestTaskMutex::anotherLiveSessionHoldsItsTask()
-{
-    QFETCH_GLOBAL(QString, backend);
-    QFETCH(int, user);
-    QFETCH(QString, computer);
-    QFETCH(bool, ended);
-    QFETCH(bool, refused);
-    ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
-    const qint64 pid = ended ? endedProcessId() : AlwaysRunning;
-    QVERIFY(pid > 0);
-    insertTask(scratch, EntryTask, user, computer, pid);
-    QCOMPARE(taskExec(scratch, EntryTask) > 0, !refused);
-    QCOMPARE(taskCount(scratch), 1);
-    QCOMPARE(SqlRun::scalar(scratch.db(), u"SELECT FUserID FROM t_TaskMutex"_s).toInt(), refused ? user : 16);
-    // Another task is free; the tool's list leaves ended processes out as well.
-    insertTask(scratch, EntryTask + 5, 17, QSysInfo::machineHostName(), endedProcessId());
-    QVERIFY(taskExec(scratch, EntryTask + 1) > 0);
-    QCOMPARE(takeObject<Recordset>(call(u"Tasks"_s, {scratch.propsString()}))->RecordCount(), 2);
-}
+    void anotherLiveSessionHoldsItsTask_data()
+    {
+        QTest::addColumn<int>("user");
+        QTest::addColumn<QString>("computer");
+        QTest::addColumn<bool>("ended");
+        QTest::addColumn<bool>("refused");
+        const QString here = QSysInfo::machineHostName();
+        QTest::newRow("another user, running") << 17 << here << false << true;
+        QTest::newRow("same user, another process") << 16 << here << false << true;
+        // A process on another computer cannot be checked from here, so it counts as running.
+        QTest::newRow("another computer") << 17 << u"OTHER-PC"_s << true << true;
+        QTest::newRow("ended process, cleared") << 17 << here << true << false;
+    }
 
-// Another session's handle is not this one's to commit, but the network control tool releases it.
-void TestTaskMutex::foreignHandleIsReleasedNotCommitted()
-{
-    QFETCH_GLOBAL(QString, backend);
-    ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
-    QVERIFY(!call(u"CommitTask"_s, {scratch.propsString(), 4711}).toBool());
-    insertTask(scratch, EntryTask, 17, u"OTHER-PC"_s, AlwaysRunning);
-    const int foreign = SqlRun::scalar(scratch.db(), u"SELECT FTaskHandle FROM t_TaskMutex"_s).toInt();
-    QVERIFY(!call(u"CommitTask"_s, {scratch.propsString(), foreign}).toBool());
-    QCOMPARE(SqlRun::scalar(scratch.db(), u"SELECT FCommitted FROM t_TaskMutex"_s).toInt(), 0);
-    QCOMPARE(taskExec(scratch, EntryTask), 0);
-    QVERIFY(call(u"ReleaseTask"_s, {scratch.propsString(), foreign}).toBool());
-    QVERIFY(!call(u"ReleaseTask"_s, {scratch.propsString(), foreign}).toBool());
-    const int handle = taskExec(scratch, EntryTask);
-    QVERIFY(handle > 0);
-    // A released handle is never handed out again.
-    QVERIFY(handle != foreign);
-}
+    void anotherLiveSessionHoldsItsTask()
+    {
+        QFETCH_GLOBAL(QString, backend);
+        QFETCH(int, user);
+        QFETCH(QString, computer);
+        QFETCH(bool, ended);
+        QFETCH(bool, refused);
+        ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
+        const qint64 pid = ended ? endedProcessId() : AlwaysRunning;
+        QVERIFY(pid > 0);
+        insertTask(scratch, EntryTask, user, computer, pid);
+        QCOMPARE(taskExec(scratch, EntryTask) > 0, !refused);
+        QCOMPARE(taskCount(scratch), 1);
+        QCOMPARE(SqlRun::scalar(scratch.db(), u"SELECT FUserID FROM t_TaskMutex"_s).toInt(), refused ? user : 16);
+        // Another task is free; the tool's list leaves ended processes out as well.
+        insertTask(scratch, EntryTask + 5, 17, QSysInfo::machineHostName(), endedProcessId());
+        QVERIFY(taskExec(scratch, EntryTask + 1) > 0);
+        QCOMPARE(takeObject<Recordset>(call(u"Tasks"_s, {scratch.propsString()}))->RecordCount(), 2);
+    }
+
+    // Another session's handle is not this one's to commit, but the network control tool releases it.
+    void foreignHandleIsReleasedNotCommitted()
+    {
+        QFETCH_GLOBAL(QString, backend);
+        ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
+        QVERIFY(!call(u"CommitTask"_s, {scratch.propsString(), 4711}).toBool());
+        insertTask(scratch, EntryTask, 17, u"OTHER-PC"_s, AlwaysRunning);
+        const int foreign = SqlRun::scalar(scratch.db(), u"SELECT FTaskHandle FROM t_TaskMutex"_s).toInt();
+        QVERIFY(!call(u"CommitTask"_s, {scratch.propsString(), foreign}).toBool());
+        QCOMPARE(SqlRun::scalar(scratch.db(), u"SELECT FCommitted FROM t_TaskMutex"_s).toInt(), 0);
+        QCOMPARE(taskExec(scratch, EntryTask), 0);
+        QVERIFY(call(u"ReleaseTask"_s, {scratch.propsString(), foreign}).toBool());
+        QVERIFY(!call(u"ReleaseTask"_s, {scratch.propsString(), foreign}).toBool());
+        const int handle = taskExec(scratch, EntryTask);
+        QVERIFY(handle > 0);
+        // A released handle is never handed out again.
+        QVERIFY(handle != foreign);
+    }
+};
+
+QTEST_MAIN(TestTaskMutex)
+#include "tst_taskmutex.moc"

@@ -1,10 +1,10 @@
 #include "testdatabase.h"
 
-#include <QCoreApplication>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QUrl>
+#include <QCoreApplication>
 
 TestDatabase::TestDatabase(const QString &backend)
 {
