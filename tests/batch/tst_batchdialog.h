@@ -26,17 +26,12 @@ private slots:
     void hiddenColumns();
     void emptyItemNeedsAddNew();
     void typedBatchRepeatIsRefused();
-    void apportioningSplitsTheTypedTotals();
     void apportionedQuantityOfANewLineIsAccepted();
     void quantityEditsFillDependentCells();
     void refusedGroupKeepsTheFigure();
-    void renamedBatchIsDeletedAndInserted();
-    void deletingEveryLineLeavesOnlyDeletes();
     void saveScriptReachesTheService();
     void failedSaveKeepsTheChanges();
     void failedLoadIsReported();
-    void closePrompt_data();
-    void closePrompt();
     void showDialogRunsModally();
 
 private:

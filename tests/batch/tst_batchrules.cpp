@@ -4,7 +4,6 @@
 #include "sheet/iteminfo.h"
 #include "batch/batchline.h"
 #include "batch/batchscript.h"
-#include "sheet/sqltext.h"
 #include "batch/batchsheet.h"
 #include "batch/batchvalidation.h"
 #include "batch/linebalance.h"
@@ -365,28 +364,6 @@ void TestBatchRules::emptyLineIsRefusedOnItsFourthGroup()
     QVERIFY(BatchValidation::checkGroup(empty, BatchGroups[0], item(true, false), amountRules()).valid);
 }
 
-void TestBatchRules::sqlNumber_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("integer") << 10.0 << "10";
-    QTest::newRow("negative") << -5.5 << "-5.5";
-    QTest::newRow("binary noise") << 0.1 + 0.2 << "0.3";
-    QTest::newRow("ten decimals") << 1.23456789012345 << "1.2345678901";
-    QTest::newRow("tiny") << 0.00000000004 << "0";
-    QTest::newRow("tiny negative") << -0.00000000004 << "0";
-    QTest::newRow("large, no exponent") << 1e15 << "1000000000000000";
-    QTest::newRow("money") << 123456789012.35 << "123456789012.35";
-}
-
-void TestBatchRules::sqlNumber()
-{
-    QFETCH(double, value);
-    QFETCH(QString, text);
-    QCOMPARE(SqlText::number(value), text);
-}
-
 void TestBatchRules::scriptForOneLine()
 {
     BatchScriptKey key;
@@ -457,23 +434,13 @@ void TestBatchRules::scriptWithoutLinesOnlyDeletes()
 void TestBatchRules::itemFromKey()
 {
     Dictionary key;
-    key.Add(QStringLiteral("ID"), 3057);
-    key.Add(QStringLiteral("ShortNum"), QStringLiteral("LZB"));
-    key.Add(QStringLiteral("Num"), QStringLiteral("01.002"));
-    key.Add(QStringLiteral("Name"), QStringLiteral("冷轧板"));
-    key.Add(QStringLiteral("Model"), QStringLiteral("1.0mm"));
-    key.Add(QStringLiteral("FBM"), QStringLiteral("True"));
-    key.Add(QStringLiteral("FKF"), 0);
-    key.Add(QStringLiteral("Track"), 81);
-    key.Add(QStringLiteral("PlanPrice"), 12.5);
-    key.Add(QStringLiteral("UnitID"), 7);
-    key.Add(QStringLiteral("QtyDecimal"), 3);
-    key.Add(QStringLiteral("PriceDecimal"), 4);
-    key.Add(QStringLiteral("KFPeriod"), 180);
-    key.Add(QStringLiteral("SecUnitID"), 8);
-    key.Add(QStringLiteral("SecCoefficient"), 2.5);
-    key.Add(QStringLiteral("AuxPropID"), 11);
-
+    const std::pair<const char *, QVariant> values[] = {
+        {"ID", 3057},     {"ShortNum", "LZB"},  {"Num", "01.002"},    {"Name", "冷轧板"},
+        {"Model", "1.0mm"}, {"FBM", "True"},    {"FKF", 0},           {"Track", 81},
+        {"PlanPrice", 12.5}, {"UnitID", 7},     {"QtyDecimal", 3},    {"PriceDecimal", 4},
+        {"KFPeriod", 180},  {"SecUnitID", 8},   {"SecCoefficient", 2.5}, {"AuxPropID", 11}};
+    for (const auto &[name, value] : values)
+        key.Add(QLatin1String(name), value);
     const ItemInfo it = ItemInfo::fromItemKey(key);
     QCOMPARE(it.id, 3057);
     QCOMPARE(it.shortNumber, QStringLiteral("LZB"));

@@ -26,8 +26,6 @@ private slots:
     void allocationRefusesValueWithoutQuantity();
     void emptyLineIsRefusedOnItsFourthGroup();
 
-    void sqlNumber_data();
-    void sqlNumber();
     void scriptForOneLine();
     void scriptWithoutLinesOnlyDeletes();
 
