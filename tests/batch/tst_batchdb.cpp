@@ -30,7 +30,7 @@ constexpr int EpoxyGlue = 6;    // batches and shelf life, individual valuation
 constexpr int ComponentKit = 9; // batches only, a batch variant of valuation
 
 // Grid columns of the dialog.
-enum Col { BatchNo = 1, YtdQty = 2, YtdBal = 4, RecvQty = 6, SendQty = 10, BegQty = 14, BegBal = 16, KFDate = 22 };
+enum Col { BatchNo = 1, YtdQty = 2, YtdBal = 4, RecvQty = 6, SendQty = 10, BegQty = 14, BegBal = 16, Flag = 20, KFDate = 22 };
 
 const QString CRLF = QStringLiteral("\r\n");
 // The component kit's demo lines at shelf B, as storedLines gives them.
@@ -324,12 +324,24 @@ private slots:
         QCOMPARE(storedLines(*m_scratch, 2, EpoxyGlue).size(), 2); // the place's other items stay
     }
 
-    void renamedBatchIsWrittenAgain()
+    void renamedBatchIsCheckedAndWrittenAgain()
     {
         const auto dialog = openItem(ShelfB, ComponentKit);
         QVERIFY(dialog);
-        QCOMPARE(dialog->grid()->TextMatrix(1, BatchNo), QStringLiteral("K001"));
-        QVERIFY(dialog->grid()->editCell(1, BatchNo, QStringLiteral("K001-A")));
+        SpreadGrid &grid = *dialog->grid();
+        QCOMPARE(grid.TextMatrix(1, BatchNo), QStringLiteral("K001"));
+        // Another line's number or none at all is refused at once, and the cursor stays.
+        for (const QString &typed : {QStringLiteral("K001"), QString()}) {
+            QVERIFY(!grid.editCell(2, BatchNo, typed));
+            QCOMPARE(grid.TextMatrix(2, BatchNo), QStringLiteral("K002"));
+            QCOMPARE(m_prompter.messages().last().caption, QStringLiteral("澄枫提示"));
+        }
+        QCOMPARE(m_prompter.messages()[0].text, QStringLiteral("当前批号已存在，请重新输入！"));
+        QCOMPARE(m_prompter.messages()[1].text, QStringLiteral("批号不能为空，请输入批号！"));
+        QCOMPARE(grid.row(), 2);
+        QCOMPARE(grid.col(), int(BatchNo));
+        QCOMPARE(grid.TextMatrix(2, Flag), QString()); // refused edits change nothing
+        QVERIFY(grid.editCell(1, BatchNo, QStringLiteral("K001-A")));
         QVERIFY(dialog->pressButton(QStringLiteral("Save")));
         QVERIFY(dialog->SavedBatMan());
         QCOMPARE(storedLines(*m_scratch, 2, ComponentKit), (QStringList{QStringLiteral("K001-A  50 6000 0"), KitLines[1]}));

@@ -185,13 +185,12 @@ void TestBatchDialog::hiddenColumns_data()
     QTest::addColumn<bool>("amountsHidden");
     QTest::addColumn<bool>("differencesHidden");
     QTest::addColumn<bool>("secondaryHidden");
-    QTest::addColumn<QString>("caption");
 
-    QTest::newRow("quantities only") << 0 << 78 << 0 << true << true << true << "批号/数量";
-    QTest::newRow("quantity and amount") << 1 << 78 << 0 << false << false << true << "批号/数量/金额";
-    QTest::newRow("planned cost") << 1 << 81 << 0 << false << false << true << "批号/数量/金额/材料成本差异";
-    QTest::newRow("planned cost, quantities only") << 0 << 81 << 0 << true << true << true << "批号/数量";
-    QTest::newRow("with secondary unit") << 1 << 78 << 8 << false << false << false << "批号/数量/金额";
+    QTest::newRow("quantities only") << 0 << 78 << 0 << true << true << true;
+    QTest::newRow("quantity and amount") << 1 << 78 << 0 << false << false << true;
+    QTest::newRow("planned cost") << 1 << 81 << 0 << false << false << true;
+    QTest::newRow("planned cost, quantities only") << 0 << 81 << 0 << true << true << true;
+    QTest::newRow("with secondary unit") << 1 << 78 << 8 << false << false << false;
 }
 
 void TestBatchDialog::hiddenColumns()
@@ -202,7 +201,6 @@ void TestBatchDialog::hiddenColumns()
     QFETCH(bool, amountsHidden);
     QFETCH(bool, differencesHidden);
     QFETCH(bool, secondaryHidden);
-    QFETCH(QString, caption);
 
     setParams({{QStringLiteral("AuditChoice"), auditChoice}});
     auto dialog = openDialog(true, false, track);
@@ -222,7 +220,6 @@ void TestBatchDialog::hiddenColumns()
     // Production date and shelf life belong to shelf-life items only.
     for (int col : {22, 23})
         QVERIFY(grid.colHidden(col));
-    QCOMPARE(dialog->findChild<QTabBar *>(QStringLiteral("sstBatMan"))->tabText(0), caption);
 }
 
 void TestBatchDialog::emptyItemNeedsAddNew()
@@ -245,25 +242,6 @@ void TestBatchDialog::emptyItemNeedsAddNew()
     QCOMPARE(grid.TextMatrix(2, BegQty), QStringLiteral("5.00"));
     // The amount is still to come: no warning of a zero amount in the middle of the pair.
     QVERIFY(m_prompter.messages().isEmpty());
-}
-
-void TestBatchDialog::typedBatchRepeatIsRefused()
-{
-    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500), record(QStringLiteral("B2"), 5, 50)};
-    const auto dialog = openDialog(true, false);
-    SpreadGrid &grid = *dialog->grid();
-
-    QVERIFY(!grid.editCell(2, BatchNo, QStringLiteral("B1")));
-    QCOMPARE(grid.TextMatrix(2, BatchNo), QStringLiteral("B2"));
-    QVERIFY(!grid.editCell(2, BatchNo, QString()));
-    QCOMPARE(grid.TextMatrix(2, BatchNo), QStringLiteral("B2"));
-    QCOMPARE(m_prompter.messages().size(), 2);
-    QCOMPARE(m_prompter.messages()[0].text, QStringLiteral("当前批号已存在，请重新输入！"));
-    QCOMPARE(m_prompter.messages()[0].caption, Caption);
-    QCOMPARE(m_prompter.messages()[1].text, QStringLiteral("批号不能为空，请输入批号！"));
-    QCOMPARE(grid.row(), 2);
-    QCOMPARE(grid.col(), int(BatchNo));
-    QCOMPARE(grid.TextMatrix(2, Flag), QString()); // refused edits change nothing
 }
 
 void TestBatchDialog::apportionedQuantityOfANewLineIsAccepted()

@@ -25,7 +25,6 @@ private slots:
     void hiddenColumns_data();
     void hiddenColumns();
     void emptyItemNeedsAddNew();
-    void typedBatchRepeatIsRefused();
     void apportionedQuantityOfANewLineIsAccepted();
     void quantityEditsFillDependentCells();
     void refusedGroupKeepsTheFigure();
