@@ -9,8 +9,12 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <functional>
+
 using Grid::CellType;
 using Grid::EditResult;
+using CellChange = std::function<void(CellModel &)>;
+Q_DECLARE_METATYPE(CellChange)
 
 namespace {
 
@@ -496,72 +500,61 @@ void TestCellModel::figureOfACell()
     QCOMPARE(cells.number(1, 3), 0.0);
     QCOMPARE(cells.number(1, 4), 0.0);
     QCOMPARE(cells.number(99, 1), 0.0);
-}
-
-void TestCellModel::singleChangeSignalsOneCell()
-{
-    CellModel &cells = *m_cells;
-    QSignalSpy changed(&cells, &CellModel::dataChanged);
-    QSignalSpy header(&cells, &CellModel::headerDataChanged);
-
-    cells.setText(2, 3, QStringLiteral("x"));
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.first().at(0).toModelIndex(), cells.cellIndex(2, 3));
-    QCOMPARE(changed.first().at(1).toModelIndex(), cells.cellIndex(2, 3));
-    QCOMPARE(header.count(), 0);
-
-    cells.setText(Grid::HeaderRow, 2, QStringLiteral("title"));
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(header.count(), 1);
-    QCOMPARE(header.first().at(0).value<Qt::Orientation>(), Qt::Horizontal);
-    QCOMPARE(header.first().at(1).toInt(), 1);
-    QCOMPARE(header.first().at(2).toInt(), 1);
-}
-
-void TestCellModel::rowColourIsOneSignal()
-{
-    CellModel &cells = *m_cells;
-    QSignalSpy changed(&cells, &CellModel::dataChanged);
-
-    cells.setRowStyle(4, CellStyle().setBackColor(Rose));
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.first().at(0).toModelIndex(), cells.cellIndex(4, 1));
-    QCOMPARE(changed.first().at(1).toModelIndex(), cells.cellIndex(4, cells.cols() - 1));
-
-    changed.clear();
-    cells.fillBlock(1, 1, 3, 2, 7.0);
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.first().at(1).toModelIndex(), cells.cellIndex(3, 2));
+    cells.fillBlock(2, 1, 3, 2, 7.0);
     QCOMPARE(cells.number(3, 2), 7.0);
 }
 
-void TestCellModel::bulkUpdateSignalsOnceAtEnd()
+void TestCellModel::changeSignals_data()
 {
+    QTest::addColumn<CellChange>("change");
+    QTest::addColumn<QList<int>>("range");  // first row, col, last row, col of the one dataChanged; empty: none
+    QTest::addColumn<int>("headerSection"); // of the one headerDataChanged; -1: none
+
+    QTest::newRow("one cell") << CellChange([](CellModel &c) { c.setText(2, 3, QStringLiteral("x")); })
+                              << QList<int>{2, 3, 2, 3} << -1;
+    QTest::newRow("header text") << CellChange([](CellModel &c) { c.setText(Grid::HeaderRow, 2, QStringLiteral("t")); })
+                                 << QList<int>{} << 1;
+    QTest::newRow("row colour") << CellChange([](CellModel &c) { c.setRowStyle(4, CellStyle().setBackColor(Rose)); })
+                                << QList<int>{4, 1, 4, 4} << -1;
+    QTest::newRow("filled block") << CellChange([](CellModel &c) { c.fillBlock(1, 1, 3, 2, 7.0); })
+                                  << QList<int>{1, 1, 3, 2} << -1;
+    // A bulk update, nested or not, signals once at its end for all it changed.
+    QTest::newRow("nested bulk update") << CellChange([](CellModel &c) {
+        BulkUpdate outer(c);
+        c.setText(2, 2, QStringLiteral("a"));
+        {
+            BulkUpdate inner(c);
+            c.setNumber(4, 3, 1);
+        }
+        c.setCellStyle(3, 1, CellStyle().setLocked(true));
+    }) << QList<int>{2, 1, 4, 3} << -1;
+    QTest::newRow("header in a bulk update") << CellChange([](CellModel &c) {
+        BulkUpdate bulk(c);
+        c.setText(Grid::HeaderRow, 1, QStringLiteral("title"));
+    }) << QList<int>{} << 0;
+}
+
+void TestCellModel::changeSignals()
+{
+    QFETCH(CellChange, change);
+    QFETCH(QList<int>, range);
+    QFETCH(int, headerSection);
     CellModel &cells = *m_cells;
     QSignalSpy changed(&cells, &CellModel::dataChanged);
     QSignalSpy header(&cells, &CellModel::headerDataChanged);
-    {
-        BulkUpdate outer(cells);
-        cells.setText(2, 2, QStringLiteral("a"));
-        {
-            BulkUpdate inner(cells);
-            cells.setNumber(4, 3, 1);
-        }
-        cells.setCellStyle(3, 1, CellStyle().setLocked(true));
-        QCOMPARE(changed.count(), 0);
-    }
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.first().at(0).toModelIndex(), cells.cellIndex(2, 1));
-    QCOMPARE(changed.first().at(1).toModelIndex(), cells.cellIndex(4, 3));
-    QCOMPARE(header.count(), 0);
 
-    changed.clear();
-    {
-        BulkUpdate bulk(cells);
-        cells.setText(Grid::HeaderRow, 1, QStringLiteral("title"));
+    change(cells);
+    QCOMPARE(changed.count(), range.isEmpty() ? 0 : 1);
+    if (!range.isEmpty()) {
+        QCOMPARE(changed.first().at(0).toModelIndex(), cells.cellIndex(range[0], range[1]));
+        QCOMPARE(changed.first().at(1).toModelIndex(), cells.cellIndex(range[2], range[3]));
     }
-    QCOMPARE(header.count(), 1);
-    QCOMPARE(changed.count(), 0);
+    QCOMPARE(header.count(), headerSection < 0 ? 0 : 1);
+    if (headerSection >= 0) {
+        QCOMPARE(header.first().at(0).value<Qt::Orientation>(), Qt::Horizontal);
+        QCOMPARE(header.first().at(1).toInt(), headerSection);
+        QCOMPARE(header.first().at(2).toInt(), headerSection);
+    }
 }
 
 void TestCellModel::bulkUpdateAcrossStructureChange()

@@ -42,9 +42,8 @@ private slots:
     void resizeKeepsContent();
     void resetEmptiesStylesAndLayout();
     void figureOfACell();
-    void singleChangeSignalsOneCell();
-    void rowColourIsOneSignal();
-    void bulkUpdateSignalsOnceAtEnd();
+    void changeSignals_data();
+    void changeSignals();
     void bulkUpdateAcrossStructureChange();
 
 private:
