@@ -16,6 +16,10 @@ using Amounts = QList<std::optional<double>>;
 Q_DECLARE_METATYPE(Amounts)
 Q_DECLARE_METATYPE(FigureKind)
 Q_DECLARE_METATYPE(QList<FigureKind>)
+using Lines = QList<BatchLine>;
+Q_DECLARE_METATYPE(Lines)
+Q_DECLARE_METATYPE(ItemInfo)
+Q_DECLARE_METATYPE(ApportionState)
 
 namespace {
 
@@ -52,6 +56,26 @@ struct Line
         line.kfDate = date;
         return *this;
     }
+    Line &stockIn(const QDate &date)
+    {
+        line.stockInDate = date;
+        return *this;
+    }
+    Line &noShelfLife()
+    {
+        line.kfPeriod.reset();
+        return *this;
+    }
+    Line &unchanged()
+    {
+        line.changed = false;
+        return *this;
+    }
+    Line &empty()
+    {
+        line.figures.fill(0);
+        return *this;
+    }
     operator BatchLine() const { return line; }
 };
 
@@ -72,12 +96,6 @@ BatchRules amountRules(bool allocate = false)
     rules.balance.auditChoice = 1;
     rules.allocate = allocate;
     return rules;
-}
-
-std::optional<BatchRefusal> saveCheck(const ItemInfo &it, const QList<BatchLine> &lines,
-                                      const BatchRules &rules = amountRules())
-{
-    return BatchValidation::checkBeforeSave(it, rules, ApportionState{}, lines);
 }
 
 } // namespace
@@ -209,159 +227,108 @@ void TestBatchRules::typedBatch()
     QCOMPARE(refused.value_or(QString()), message);
 }
 
-void TestBatchRules::productionDate_data()
+void TestBatchRules::saveCheck_data()
 {
-    QTest::addColumn<QDate>("kfDate");
-    QTest::addColumn<QDate>("stockIn");
-    QTest::addColumn<bool>("withShelfLife");
-    QTest::addColumn<int>("col"); // -1: accepted
-    QTest::addColumn<QString>("message");
-
-    const QDate stockIn(2024, 1, 1);
-    QTest::newRow("same day") << stockIn << stockIn << true << -1 << QString();
-    QTest::newRow("day before") << stockIn.addDays(-1) << stockIn << true << -1 << QString();
-    QTest::newRow("one day later") << stockIn.addDays(1) << stockIn << true << int(BatCol::KFDate)
-                                   << QStringLiteral("该物料实行保质期管理，生产日期不能大于入库日期！");
-    QTest::newRow("a year later, earlier month")
-        << QDate(2024, 1, 1) << QDate(2023, 12, 31) << true << int(BatCol::KFDate)
-        << QStringLiteral("该物料实行保质期管理，生产日期不能大于入库日期！");
-    QTest::newRow("no production date") << QDate() << stockIn << true << int(BatCol::KFDate)
-                                         << QStringLiteral("该物料实行保质期管理，生产日期不能为空，请输入生产日期！");
-    QTest::newRow("no shelf life") << stockIn << stockIn << false << int(BatCol::KFPeriod)
-                                   << QStringLiteral("该物料实行保质期管理，保质期(天)不能为空，请输入保质期(天)！");
-}
-
-void TestBatchRules::productionDate()
-{
-    QFETCH(QDate, kfDate);
-    QFETCH(QDate, stockIn);
-    QFETCH(bool, withShelfLife);
-    QFETCH(int, col);
-    QFETCH(QString, message);
-
-    Line line(4);
-    line.kf(kfDate);
-    line.line.stockInDate = stockIn;
-    if (!withShelfLife)
-        line.line.kfPeriod.reset();
-    const std::optional<BatchRefusal> refused = saveCheck(item(true, true), {line});
-    QCOMPARE(refused ? refused->col : -1, col);
-    QCOMPARE(refused ? refused->message : QString(), message);
-    if (refused)
-        QCOMPARE(refused->row, 4);
-}
-
-void TestBatchRules::repeats_data()
-{
-    QTest::addColumn<bool>("batch");
-    QTest::addColumn<bool>("shelfLife");
-    QTest::addColumn<QString>("secondBatch");
-    QTest::addColumn<QDate>("secondDate");
+    QTest::addColumn<ItemInfo>("item");
+    QTest::addColumn<bool>("allocate");
+    QTest::addColumn<ApportionState>("apportion");
+    QTest::addColumn<Lines>("lines");
+    QTest::addColumn<int>("row"); // of the refusal
     QTest::addColumn<int>("col");
-    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("message"); // empty: the lines pass
 
+    const auto add = [](const char *name, const ItemInfo &it, const Lines &lines, int row = -1, int col = -1,
+                        const QString &message = {}, bool allocate = false, ApportionState state = {}) {
+        QTest::newRow(name) << it << allocate << state << lines << row << col << message;
+    };
+    const ItemInfo both = item(true, true);
+    const QDate stockIn(2024, 1, 1);
+    const QString after = QStringLiteral("该物料实行保质期管理，生产日期不能大于入库日期！");
+    add("production on the stock-in day", both, {Line(4).kf(stockIn)});
+    add("production the day before", both, {Line(4).kf(stockIn.addDays(-1))});
+    add("production one day later", both, {Line(4).kf(stockIn.addDays(1))}, 4, BatCol::KFDate, after);
+    add("production a year later, earlier month", both, {Line(4).kf(QDate(2024, 1, 1)).stockIn(QDate(2023, 12, 31))},
+        4, BatCol::KFDate, after);
+    add("no production date", both, {Line(4).kf(QDate())}, 4, BatCol::KFDate,
+        QStringLiteral("该物料实行保质期管理，生产日期不能为空，请输入生产日期！"));
+    add("no shelf life", both, {Line(4).noShelfLife()}, 4, BatCol::KFPeriod,
+        QStringLiteral("该物料实行保质期管理，保质期(天)不能为空，请输入保质期(天)！"));
+
+    // A repeat of line 1 after a line in between: the refusal points at the later one.
     const QDate first(2023, 12, 1);
     const QDate other(2023, 11, 1);
-    const QString both = QStringLiteral("批次+生产/采购日期不能重复!");
-    QTest::newRow("both, same batch other date") << true << true << "B1" << other << -1 << QString();
-    QTest::newRow("both, other batch same date") << true << true << "B2" << first << -1 << QString();
-    QTest::newRow("both, same batch and date") << true << true << "B1" << first << int(BatCol::BatchNo) << both;
-    QTest::newRow("batch only, same batch") << true << false << "B1" << other << int(BatCol::BatchNo)
-                                            << QStringLiteral("批次不能重复!");
-    QTest::newRow("batch only, other batch") << true << false << "B2" << first << -1 << QString();
-    QTest::newRow("shelf life only, same date") << false << true << "B2" << first << int(BatCol::KFDate)
-                                                << QStringLiteral("生产/采购日期不能重复!");
-    QTest::newRow("shelf life only, other date") << false << true << "B1" << other << -1 << QString();
+    const auto repeat = [&](const char *name, bool batch, bool shelfLife, const char *batchNo, const QDate &date,
+                            int col = -1, const QString &message = {}) {
+        add(name, item(batch, shelfLife),
+            {Line(1, QStringLiteral("B1")).kf(first), Line(2, QStringLiteral("B7")).kf(QDate(2022, 1, 1)),
+             Line(3, QLatin1String(batchNo)).kf(date)},
+            message.isEmpty() ? -1 : 3, col, message);
+    };
+    repeat("both, same batch other date", true, true, "B1", other);
+    repeat("both, other batch same date", true, true, "B2", first);
+    repeat("both, same batch and date", true, true, "B1", first, BatCol::BatchNo,
+           QStringLiteral("批次+生产/采购日期不能重复!"));
+    repeat("batch only, same batch", true, false, "B1", other, BatCol::BatchNo, QStringLiteral("批次不能重复!"));
+    repeat("batch only, other batch", true, false, "B2", first);
+    repeat("shelf life only, same date", false, true, "B2", first, BatCol::KFDate,
+           QStringLiteral("生产/采购日期不能重复!"));
+    repeat("shelf life only, other date", false, true, "B1", other);
+
+    // Unchanged lines are not checked, but the repeat test looks at every line.
+    add("unchanged line", item(true, false), {Line(1, QString()).unchanged()});
+    add("unchanged repeat", item(true, false), {Line(1).unchanged(), Line(2).unchanged()}, 2, BatCol::BatchNo,
+        QStringLiteral("批次不能重复!"));
+    add("empty line, on its fourth group", item(true, false), {Line(3).empty()}, 3, BatCol::BegQty,
+        QStringLiteral("录入的数据[数量=0，金额=0]！\r\n没有实际意义，数据非法！请重新录入！"));
+
+    // Received: no quantity but an amount, refused only where amounts are apportioned.
+    const Lines valueOnly{Line(2).figure(BatCol::Debit, 10)};
+    add("value without quantity, apportioned", item(true, false, 76), valueOnly, 2, BatCol::ReceiveQty,
+        QStringLiteral("分摊的数据[数量=0，金额<>0]！\r\n单价将不一致，数据非法！请重新录入！"), true);
+    add("value without quantity, not apportioned", item(true, false, 76), valueOnly);
+    add("value without quantity, FIFO", item(true, false, 78), valueOnly, -1, -1, {}, true);
+
+    // An empty batch number would be refused too; the missing apportioning comes first.
+    const ItemInfo average = item(true, false, 76);
+    const Lines noBatch{Line(1, QString())};
+    add("not apportioned", average, noBatch, -1, -1,
+        QStringLiteral("加权平均法、移动平均法的物料\r\n采用批次管理时，金额需要分摊来确定单价！\r\n"
+                       "系统检测到金额未分摊，请先分摊金额！"),
+        true, {true, false, true});
+    // Apportioned, unchanged or not offered: the line check speaks.
+    const QString batchRequired = QStringLiteral("该物料实行批次管理，批号不能为空，请输入批号！");
+    add("apportioned", average, noBatch, 1, BatCol::BatchNo, batchRequired, true, {true, true, true});
+    add("not apportioned, unchanged", average, noBatch, 1, BatCol::BatchNo, batchRequired, true, {true, false, false});
+    add("apportioning not offered", average, noBatch, 1, BatCol::BatchNo, batchRequired, true, {false, false, true});
 }
 
-void TestBatchRules::repeats()
+void TestBatchRules::saveCheck()
 {
-    QFETCH(bool, batch);
-    QFETCH(bool, shelfLife);
-    QFETCH(QString, secondBatch);
-    QFETCH(QDate, secondDate);
+    QFETCH(ItemInfo, item);
+    QFETCH(bool, allocate);
+    QFETCH(ApportionState, apportion);
+    QFETCH(Lines, lines);
+    QFETCH(int, row);
     QFETCH(int, col);
     QFETCH(QString, message);
 
-    // The repeat is a line in between and the refusal points at the later one.
-    const QList<BatchLine> lines{Line(1, QStringLiteral("B1")).kf(QDate(2023, 12, 1)),
-                                 Line(2, QStringLiteral("B7")).kf(QDate(2022, 1, 1)),
-                                 Line(3, secondBatch).kf(secondDate)};
-    const std::optional<BatchRefusal> refused = saveCheck(item(batch, shelfLife), lines);
-    QCOMPARE(refused ? refused->col : -1, col);
-    QCOMPARE(refused ? refused->message : QString(), message);
-    if (refused)
-        QCOMPARE(refused->row, 3);
-}
-
-void TestBatchRules::apportioningIsCheckedFirst()
-{
-    // An empty batch number would be refused too; the missing apportioning comes first.
-    const QList<BatchLine> lines{Line(1, QString())};
-    const ApportionState notApportioned{true, false, true};
     const std::optional<BatchRefusal> refused =
-        BatchValidation::checkBeforeSave(item(true, false, 76), amountRules(true), notApportioned, lines);
-    QVERIFY(refused);
-    QCOMPARE(refused->message, QStringLiteral("加权平均法、移动平均法的物料\r\n采用批次管理时，金额需要分摊来确定单价！\r\n"
-                                              "系统检测到金额未分摊，请先分摊金额！"));
-    QCOMPARE(refused->row, -1);
-
-    // Apportioned, unchanged or not offered: the line check speaks.
-    const QString batchRequired = QStringLiteral("该物料实行批次管理，批号不能为空，请输入批号！");
-    for (const ApportionState &state : {ApportionState{true, true, true}, ApportionState{true, false, false},
-                                        ApportionState{false, false, true}}) {
-        const std::optional<BatchRefusal> next =
-            BatchValidation::checkBeforeSave(item(true, false, 76), amountRules(true), state, lines);
-        QVERIFY(next);
-        QCOMPARE(next->message, batchRequired);
-        QCOMPARE(next->col, int(BatCol::BatchNo));
+        BatchValidation::checkBeforeSave(item, amountRules(allocate), apportion, lines);
+    QCOMPARE(refused.has_value(), !message.isEmpty());
+    if (refused) {
+        QCOMPARE(refused->message, message);
+        QCOMPARE(refused->row, row);
+        QCOMPARE(refused->col, col);
     }
 }
 
-void TestBatchRules::onlyChangedLinesAreChecked()
+// While typing, one group is judged alone: an empty one is no refusal, a value without quantity is.
+void TestBatchRules::checkGroupJudgesOneGroup()
 {
-    Line unchanged(1, QString());
-    unchanged.line.changed = false;
-    QVERIFY(!saveCheck(item(true, false), {unchanged}));
-
-    // The repeat test looks at every line, changed or not.
-    Line first(1);
-    first.line.changed = false;
-    Line second(2);
-    second.line.changed = false;
-    QVERIFY(saveCheck(item(true, false), {first, second}));
-}
-
-void TestBatchRules::allocationRefusesValueWithoutQuantity()
-{
-    // Received: no quantity but an amount of 10.
-    const BatchLine line = Line(2).figure(BatCol::Debit, 10);
     const ItemInfo average = item(true, false, 76);
-
-    const std::optional<BatchRefusal> refused = saveCheck(average, {line}, amountRules(true));
-    QVERIFY(refused);
-    QCOMPARE(refused->message, QStringLiteral("分摊的数据[数量=0，金额<>0]！\r\n单价将不一致，数据非法！请重新录入！"));
-    QCOMPARE(refused->col, int(BatCol::ReceiveQty));
-    QCOMPARE(refused->row, 2);
-
-    QVERIFY(!saveCheck(average, {line}, amountRules(false)));
-    QVERIFY(!saveCheck(item(true, false, 78), {line}, amountRules(true)));
-
-    const BalanceVerdict onEdit = BatchValidation::checkGroup(line, BatchGroups[1], average, amountRules(true));
-    QVERIFY(!onEdit.valid);
-}
-
-void TestBatchRules::emptyLineIsRefusedOnItsFourthGroup()
-{
-    BatchLine empty = Line(3);
-    empty.figures.fill(0);
-    const std::optional<BatchRefusal> refused = saveCheck(item(true, false), {empty});
-    QVERIFY(refused);
-    QCOMPARE(refused->col, int(BatCol::BegQty));
-    QCOMPARE(refused->message, QStringLiteral("录入的数据[数量=0，金额=0]！\r\n没有实际意义，数据非法！请重新录入！"));
-
-    // A single empty group after an edit is no refusal.
-    QVERIFY(BatchValidation::checkGroup(empty, BatchGroups[0], item(true, false), amountRules()).valid);
+    QVERIFY(BatchValidation::checkGroup(Line(3).empty(), BatchGroups[0], average, amountRules()).valid);
+    QVERIFY(!BatchValidation::checkGroup(Line(2).figure(BatCol::Debit, 10), BatchGroups[1], average, amountRules(true))
+                 .valid);
 }
 
 void TestBatchRules::scriptForOneLine()

@@ -17,14 +17,9 @@ private slots:
 
     void typedBatch_data();
     void typedBatch();
-    void productionDate_data();
-    void productionDate();
-    void repeats_data();
-    void repeats();
-    void apportioningIsCheckedFirst();
-    void onlyChangedLinesAreChecked();
-    void allocationRefusesValueWithoutQuantity();
-    void emptyLineIsRefusedOnItsFourthGroup();
+    void saveCheck_data();
+    void saveCheck();
+    void checkGroupJudgesOneGroup();
 
     void scriptForOneLine();
     void scriptWithoutLinesOnlyDeletes();
