@@ -22,7 +22,6 @@ private slots:
     void numberCellKeepsValueApartFromText();
     void typedNumber_data();
     void typedNumber();
-    void unchangedEditRaisesNoAfterEdit();
     void lockedCellRefusesWithoutAsking();
     void fixedCellsAreNotEditable_data();
     void fixedCellsAreNotEditable();

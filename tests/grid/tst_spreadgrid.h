@@ -12,7 +12,6 @@ private slots:
     void lockedCellOpensNoEditorAndAsksNothing();
     void editorFollowsCellType_data();
     void editorFollowsCellType();
-    void dateEditorCommitsDate();
     void buttonClick_data();
     void buttonClick();
     void spacePressesButton();
