@@ -123,47 +123,46 @@ private slots:
             QCOMPARE(refused.first().at(2).value<EditResult>(), result);
     }
 
-    void lockedCellRefusesWithoutAsking()
-    {
-        CellModel &cells = *m_cells;
-        cells.setText(1, 1, QStringLiteral("kept"));
-        cells.setCellStyle(1, 1, CellStyle().setLocked(true));
-        QSignalSpy before(&cells, &CellModel::beforeEdit);
-        QSignalSpy refused(&cells, &CellModel::editRefused);
-
-        QCOMPARE(cells.editCell(1, 1, QStringLiteral("new")), EditResult::Locked);
-        QCOMPARE(cells.text(1, 1), QStringLiteral("kept"));
-        QCOMPARE(before.count(), 0);
-        QCOMPARE(refused.count(), 1);
-        QVERIFY(!cells.flags(cells.cellIndex(1, 1)).testFlag(Qt::ItemIsEditable));
-        // A locked row default locks its cells as well.
-        cells.setRowStyle(2, CellStyle().setLocked(true));
-        QCOMPARE(cells.editCell(2, 3, QStringLiteral("x")), EditResult::Locked);
-    }
-
-    void fixedCellsAreNotEditable_data()
+    // Cells nobody may type into refuse before any handler is asked.
+    void refusedWithoutAsking_data()
     {
         QTest::addColumn<int>("row");
         QTest::addColumn<int>("col");
-        QTest::newRow("header row") << 0 << 2;
-        QTest::newRow("row header") << 2 << 0;
-        QTest::newRow("corner") << 0 << 0;
-        QTest::newRow("past last row") << 6 << 1;
-        QTest::newRow("past last col") << 1 << 5;
-        QTest::newRow("negative") << -1 << 1;
+        QTest::addColumn<int>("locked"); // 0: not, 1: the cell, 2: its row's default
+        QTest::addColumn<EditResult>("result");
+        QTest::newRow("locked cell") << 1 << 1 << 1 << EditResult::Locked;
+        QTest::newRow("locked row") << 2 << 3 << 2 << EditResult::Locked;
+        QTest::newRow("header row") << 0 << 2 << 0 << EditResult::NotEditable;
+        QTest::newRow("row header") << 2 << 0 << 0 << EditResult::NotEditable;
+        QTest::newRow("corner") << 0 << 0 << 0 << EditResult::NotEditable;
+        QTest::newRow("past last row") << 6 << 1 << 0 << EditResult::NotEditable;
+        QTest::newRow("past last col") << 1 << 5 << 0 << EditResult::NotEditable;
+        QTest::newRow("negative") << -1 << 1 << 0 << EditResult::NotEditable;
     }
 
-    void fixedCellsAreNotEditable()
+    void refusedWithoutAsking()
     {
         QFETCH(int, row);
         QFETCH(int, col);
+        QFETCH(int, locked);
+        QFETCH(EditResult, result);
         CellModel &cells = *m_cells;
-        QSignalSpy before(&cells, &CellModel::beforeEdit);
+        cells.setText(row, col, QStringLiteral("kept"));
+        if (locked == 1)
+            cells.setCellStyle(row, col, CellStyle().setLocked(true));
+        else if (locked == 2)
+            cells.setRowStyle(row, CellStyle().setLocked(true));
         const QString old = cells.text(row, col);
+        QSignalSpy before(&cells, &CellModel::beforeEdit);
+        QSignalSpy refused(&cells, &CellModel::editRefused);
 
-        QCOMPARE(cells.editCell(row, col, QStringLiteral("x")), EditResult::NotEditable);
+        QCOMPARE(cells.editCell(row, col, QStringLiteral("new")), result);
         QCOMPARE(cells.text(row, col), old);
         QCOMPARE(before.count(), 0);
+        if (locked) {
+            QCOMPARE(refused.count(), 1);
+            QVERIFY(!cells.flags(cells.cellIndex(row, col)).testFlag(Qt::ItemIsEditable));
+        }
     }
 
     void beforeEditHandlerCancels()
