@@ -1,5 +1,3 @@
-#include "tst_batchdialog.h"
-
 #include "fakeservices.h"
 
 #include "batch/batchsession.h"
@@ -7,6 +5,7 @@
 
 #include "frame/librarystate.h"
 #include "frame/logincontext.h"
+#include "frame/prompter.h"
 #include "frame/settingsstore.h"
 #include "frame/sysparams.h"
 
@@ -27,7 +26,6 @@ namespace {
 const QString CRLF = QStringLiteral("\r\n");
 const QColor LockedLineColor{200, 220, 240};
 const QString Caption = QStringLiteral("澄枫提示");
-const QString AskSave = QStringLiteral("数据已经改变，是否需要保存？");
 
 // Grid columns as the dialog publishes them.
 enum Col {
@@ -58,510 +56,349 @@ void setParams(const QVariantMap &changes = {})
     SysParams::replace(std::move(params));
 }
 
-int insertCount(const QString &script)
-{
-    return int(script.count(QStringLiteral(" Insert into ICInvInitial(")));
-}
-
 } // namespace
 
-void TestBatchDialog::initTestCase()
+// The batch dialog end to end: handed over, opened, typed into and saved like a person does,
+// against fake services that record what would reach the database.
+class TestBatchDialog : public QObject
 {
-    QStandardPaths::setTestModeEnabled(true);
-    registerFakeServices();
-    Prompter::install(&m_prompter);
-}
-
-void TestBatchDialog::init()
-{
-    FakeWorld::instance().reset();
-    m_prompter.clear();
-    setParams();
-    // The record counter starts where the parameters leave it, as when they are read.
-    LibraryState::instance().iniBillInterId = 0;
-    LoginContext::instance().reset();
-}
-
-void TestBatchDialog::cleanup()
-{
-    QCOMPARE(m_prompter.pendingAnswers(), 0);
-}
-
-std::unique_ptr<frmBatchManager> TestBatchDialog::openDialog(bool batch, bool shelfLife, int track)
-{
-    m_itemKey = std::make_unique<Dictionary>();
-    const QVariantMap values{{QStringLiteral("ID"), 3057},          {QStringLiteral("ShortNum"), QStringLiteral("LZB")},
-                             {QStringLiteral("Num"), QStringLiteral("01.002")},
-                             {QStringLiteral("Name"), QStringLiteral("冷轧板")},
-                             {QStringLiteral("Model"), QStringLiteral("1.0mm")},
-                             {QStringLiteral("FBM"), batch},            {QStringLiteral("FKF"), shelfLife},
-                             {QStringLiteral("Track"), track},          {QStringLiteral("PlanPrice"), 2.5},
-                             {QStringLiteral("UnitID"), 7},             {QStringLiteral("QtyDecimal"), 2},
-                             {QStringLiteral("PriceDecimal"), 4},       {QStringLiteral("KFPeriod"), 180},
-                             {QStringLiteral("SecUnitID"), 0},          {QStringLiteral("SecCoefficient"), 0},
-                             {QStringLiteral("AuxPropID"), 0}};
-    for (auto it = values.begin(); it != values.end(); ++it)
-        m_itemKey->Add(it.key(), it.value());
-
-    auto dialog = std::make_unique<frmBatchManager>();
-    dialog->setProperty("BMItemKey", QVariant::fromValue<QObject *>(m_itemKey.get()));
-    dialog->setProperty("CurrentBMStock", 12);
-    dialog->setProperty("CurrentBMSPlace", 3);
-    dialog->setProperty("CurrentBMItem", 3057);
-    dialog->setProperty("CurrentUnitID", 7);
-    dialog->setProperty("CurrentSecUnitID", 0);
-    dialog->setProperty("FieldCompose", QStringLiteral("12|3|1|3057|0"));
-    dialog->setProperty("LVSColor", int(SettingsStore::rgbNumber(LockedLineColor)));
-    dialog->prepare();
-    return dialog;
-}
-
-void TestBatchDialog::opensWithLinesAndTotals()
-{
-    FakeWorld &world = FakeWorld::instance();
-    world.detailRows = {record(QStringLiteral("B1"), 10, 500), record(QStringLiteral("B2"), 20.5, 1000.125)};
-    const auto dialog = openDialog(true, false);
-    SpreadGrid &grid = *dialog->grid();
-
-    QCOMPARE(world.executed.size(), 2);
-    QCOMPARE(world.executed[0], QStringLiteral("SELECT FScale FROM t_Currency WHERE FCurrencyID=1"));
-    QCOMPARE(world.executed[1],
-             QStringLiteral("select isnull((SELECT t2.FCoefficient AS FCoefficient") + CRLF
-                 + QStringLiteral(" FROM t_ICItem t1 INNER JOIN t_MeasureUnit t2 ON t1.FUnitGroupID=t2.FUnitGroupID")
-                 + CRLF + QStringLiteral(" WHERE t1.FItemID = 3057 AND t2.FMeasureUnitID=7),0),") + CRLF
-                 + QStringLiteral(" isnull((SELECT ISNULL(t2.FCoefficient,0) AS FCoefficient") + CRLF
-                 + QStringLiteral(" FROM t_ICItem t1 INNER JOIN t_MeasureUnit t2 ON t1.FUnitGroupID=t2.FUnitGroupID")
-                 + CRLF + QStringLiteral(" WHERE t1.FItemID = 3057 AND t2.fmeasureunitid= 0),0)"));
-    QCOMPARE(world.detailCalls.size(), 1);
-    QCOMPARE(world.detailCalls[0], (QVariantList{world.propsString, 1, 12, 3, 3057, 0, 7, true, false,
-                                                 QStringLiteral("12|3|1|3057|0")}));
-
-    // Two lines and the totals row under the header.
-    QCOMPARE(grid.rows(), 4);
-    QCOMPARE(grid.TextMatrix(1, BatchNo), QStringLiteral("B1"));
-    QCOMPARE(grid.TextMatrix(2, BegBal), QStringLiteral("1,000.13"));
-    QCOMPARE(grid.TextMatrix(3, BatchNo), QStringLiteral("合计"));
-    QCOMPARE(grid.TextMatrix(3, BegQty), QStringLiteral("30.50"));
-    QCOMPARE(grid.TextMatrix(3, BegBal), QStringLiteral("1,500.13"));
-    QCOMPARE(grid.cellBackColor(3, BegQty), SettingsStore::colorValue(Setting::SumColor));
-    QVERIFY(!grid.editCell(3, BegQty, 1));
-    QCOMPARE(grid.value(1, StockIn).toDate(), QDate(2024, 1, 1));
-
-    QCOMPARE(dialog->objectName(), QStringLiteral("frmBatchManager"));
-    QCOMPARE(grid.objectName(), QStringLiteral("vsBatMan"));
-    const auto *tabs = dialog->findChild<QTabBar *>(QStringLiteral("sstBatMan"));
-    QVERIFY(tabs);
-    QCOMPARE(tabs->tabText(0), QStringLiteral("批号/数量/金额"));
-    QVERIFY(dialog->findChild<QProgressBar *>(QStringLiteral("pbBatMan")));
-    const auto *toolBar = dialog->findChild<QToolBar *>(QStringLiteral("tbBatMan"));
-    QVERIFY(toolBar);
-    QStringList keys;
-    for (const QAction *action : toolBar->actions())
-        keys.append(action->objectName());
-    QCOMPARE(keys, (QStringList{"AddNew", "ShareBal", "Balance", "Delete", "Save", "Exit"}));
-    // A FIFO item is not apportioned.
-    QVERIFY(!dialog->button(QStringLiteral("ShareBal"))->isEnabled());
-    QVERIFY(!dialog->pressButton(QStringLiteral("ShareBal")));
-    QVERIFY(!dialog->pressButton(QStringLiteral("Nonsense")));
-}
-
-void TestBatchDialog::lockedLineStaysReadOnly()
-{
-    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500, 0, true),
-                                         record(QStringLiteral("B2"), 5, 50)};
-    const auto dialog = openDialog(true, false);
-    SpreadGrid &grid = *dialog->grid();
-
-    QCOMPARE(grid.cellBackColor(1, BegQty), LockedLineColor);
-    QVERIFY(!grid.editCell(1, BegQty, 11));
-    QVERIFY(!grid.editCell(1, BatchNo, QStringLiteral("B9")));
-    QVERIFY(grid.editCell(2, BegQty, 6));
-
-    grid.select(1, BegQty);
-    QVERIFY(dialog->pressButton(QStringLiteral("Delete")));
-    QCOMPARE(grid.rows(), 4);
-    QCOMPARE(grid.TextMatrix(1, BatchNo), QStringLiteral("B1"));
-}
-
-void TestBatchDialog::hiddenColumns_data()
-{
-    QTest::addColumn<int>("auditChoice");
-    QTest::addColumn<int>("track");
-    QTest::addColumn<int>("secUnit");
-    QTest::addColumn<bool>("amountsHidden");
-    QTest::addColumn<bool>("differencesHidden");
-    QTest::addColumn<bool>("secondaryHidden");
-    QTest::addColumn<QString>("caption");
-
-    QTest::newRow("quantities only") << 0 << 78 << 0 << true << true << true << "批号/数量";
-    QTest::newRow("quantity and amount") << 1 << 78 << 0 << false << false << true << "批号/数量/金额";
-    QTest::newRow("planned cost") << 1 << 81 << 0 << false << false << true << "批号/数量/金额/材料成本差异";
-    QTest::newRow("planned cost, quantities only") << 0 << 81 << 0 << true << true << true << "批号/数量";
-    QTest::newRow("with secondary unit") << 1 << 78 << 8 << false << false << false << "批号/数量/金额";
-}
-
-void TestBatchDialog::hiddenColumns()
-{
-    QFETCH(int, auditChoice);
-    QFETCH(int, track);
-    QFETCH(int, secUnit);
-    QFETCH(bool, amountsHidden);
-    QFETCH(bool, differencesHidden);
-    QFETCH(bool, secondaryHidden);
-    QFETCH(QString, caption);
-
-    setParams({{QStringLiteral("AuditChoice"), auditChoice}});
-    auto dialog = openDialog(true, false, track);
-    dialog->setProperty("CurrentSecUnitID", secUnit);
-    dialog->prepare();
-    const SpreadGrid &grid = *dialog->grid();
-    for (int col : {4, 8, 12, 16})
-        QCOMPARE(grid.colHidden(col), amountsHidden);
-    for (int col : {5, 9, 13, 17})
-        QCOMPARE(grid.colHidden(col), differencesHidden);
-    for (int col : {3, 7, 11, 15})
-        QCOMPARE(grid.colHidden(col), secondaryHidden);
-    for (int col : {1, 2, 6, 10, 14, 18})
-        QVERIFY(!grid.colHidden(col));
-    for (int col : {19, 20, 21, 24})
-        QVERIFY(grid.colHidden(col));
-    // Production date and shelf life belong to shelf-life items only.
-    for (int col : {22, 23})
-        QVERIFY(grid.colHidden(col));
-    QCOMPARE(dialog->findChild<QTabBar *>(QStringLiteral("sstBatMan"))->tabText(0), caption);
-}
-
-void TestBatchDialog::emptyItemNeedsAddNew()
-{
-    const auto dialog = openDialog(true, true);
-    SpreadGrid &grid = *dialog->grid();
-    QCOMPARE(grid.rows(), 2);
-    QCOMPARE(grid.TextMatrix(1, BatchNo), QStringLiteral("合计"));
-    QVERIFY(!grid.editCell(1, BegQty, 5));
-
-    QVERIFY(dialog->pressButton(QStringLiteral("AddNew")));
-    QCOMPARE(grid.rows(), 3);
-    QCOMPARE(grid.value(1, StockIn).toDate(), QDate(2024, 1, 1)); // "CPStartDate" 01012024
-    QCOMPARE(grid.number(1, KFPeriod), 180.0);
-    QCOMPARE(grid.TextMatrix(1, Flag), QStringLiteral("1"));
-    QCOMPARE(grid.row(), 1);
-    QCOMPARE(grid.col(), int(BatchNo));
-
-    QVERIFY(grid.editCell(1, BegQty, 5));
-    QCOMPARE(grid.TextMatrix(2, BegQty), QStringLiteral("5.00"));
-    // The amount is still to come: no warning of a zero amount in the middle of the pair.
-    QVERIFY(m_prompter.messages().isEmpty());
-}
-
-void TestBatchDialog::typedBatchRepeatIsRefused()
-{
-    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500), record(QStringLiteral("B2"), 5, 50)};
-    const auto dialog = openDialog(true, false);
-    SpreadGrid &grid = *dialog->grid();
-
-    QVERIFY(!grid.editCell(2, BatchNo, QStringLiteral("B1")));
-    QCOMPARE(grid.TextMatrix(2, BatchNo), QStringLiteral("B2"));
-    QVERIFY(!grid.editCell(2, BatchNo, QString()));
-    QCOMPARE(grid.TextMatrix(2, BatchNo), QStringLiteral("B2"));
-    QCOMPARE(m_prompter.messages().size(), 2);
-    QCOMPARE(m_prompter.messages()[0].text, QStringLiteral("当前批号已存在，请重新输入！"));
-    QCOMPARE(m_prompter.messages()[0].caption, Caption);
-    QCOMPARE(m_prompter.messages()[1].text, QStringLiteral("批号不能为空，请输入批号！"));
-    QCOMPARE(grid.row(), 2);
-    QCOMPARE(grid.col(), int(BatchNo));
-    QCOMPARE(grid.TextMatrix(2, Flag), QString()); // refused edits change nothing
-}
-
-void TestBatchDialog::apportioningSplitsTheTypedTotals()
-{
-    setParams({{QStringLiteral("ShareBal"), 1}});
-    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 1, 10), record(QStringLiteral("B2"), 1, 10),
-                                         record(QStringLiteral("B3"), 1, 10)};
-    const auto dialog = openDialog(true, false, 76);
-    SpreadGrid &grid = *dialog->grid();
-    QAction *shareBal = dialog->button(QStringLiteral("ShareBal"));
-    QVERIFY(shareBal->isEnabled());
-
-    QVERIFY(dialog->pressButton(QStringLiteral("ShareBal")));
-    QVERIFY(shareBal->isChecked());
-    QCOMPARE(grid.rows(), 6); // header, three lines, totals, input line
-    QCOMPARE(grid.TextMatrix(4, BatchNo), QStringLiteral("合计"));
-    QVERIFY(!grid.editCell(5, BegQty, 1)); // only the two totals are typed there
-    QVERIFY(grid.editCell(5, BegBal, 100));
-    QVERIFY(grid.editCell(5, YtdBal, 100));
-
-    for (int col : {BegBal, YtdBal}) {
-        QCOMPARE(grid.TextMatrix(1, col), QStringLiteral("33.33"));
-        QCOMPARE(grid.TextMatrix(2, col), QStringLiteral("33.33"));
-        QCOMPARE(grid.TextMatrix(3, col), QStringLiteral("33.34"));
-        QCOMPARE(grid.TextMatrix(4, col), QStringLiteral("100.00"));
+    Q_OBJECT
+private slots:
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        registerFakeServices();
+        Prompter::install(&m_prompter);
     }
-    // A changed quantity is apportioned again at once.
-    QVERIFY(grid.editCell(3, BegQty, 2));
-    QCOMPARE(grid.TextMatrix(1, BegBal), QStringLiteral("25.00"));
-    QCOMPARE(grid.TextMatrix(3, BegBal), QStringLiteral("50.00"));
-    QVERIFY(grid.editCell(3, YtdQty, 2));
 
-    QVERIFY(dialog->pressButton(QStringLiteral("Save")));
-    QCOMPARE(FakeWorld::instance().scripts.size(), 1);
-    const QString script = FakeWorld::instance().scripts.first();
-    QCOMPARE(insertCount(script), 3); // the input line is not a line
-    QVERIFY(script.contains(QStringLiteral("'B3',2,50,0,0,0,0,0,0,0,2,50,0,")));
+    void init()
+    {
+        FakeWorld::instance().reset();
+        m_prompter.clear();
+        setParams();
+        // The record counter starts where the parameters leave it, as when they are read.
+        LibraryState::instance().iniBillInterId = 0;
+        LoginContext::instance().reset();
+    }
 
-    QVERIFY(dialog->pressButton(QStringLiteral("ShareBal")));
-    QVERIFY(!shareBal->isChecked());
-    QCOMPARE(grid.rows(), 5);
-    QCOMPARE(grid.TextMatrix(4, BatchNo), QStringLiteral("合计"));
-}
+    void cleanup()
+    {
+        QCOMPARE(m_prompter.pendingAnswers(), 0);
+    }
 
-void TestBatchDialog::apportionedQuantityOfANewLineIsAccepted()
-{
-    setParams({{QStringLiteral("ShareBal"), 1}});
-    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 1, 10)};
-    const auto dialog = openDialog(true, false, 76);
-    SpreadGrid &grid = *dialog->grid();
-    QVERIFY(dialog->pressButton(QStringLiteral("ShareBal")));
-    const int input = grid.row();
-    QVERIFY(grid.editCell(input, BegBal, 100));
-    QVERIFY(dialog->pressButton(QStringLiteral("AddNew")));
-    const int added = grid.row();
-    QCOMPARE(added, 2);
-    QVERIFY(grid.editCell(added, BatchNo, QStringLiteral("B2")));
 
-    // The quantity is typed before any amount of the line: its share of the total comes with it,
-    // so the pair is judged with the amount and nobody is warned of a zero amount.
-    QVERIFY(grid.editCell(added, BegQty, 3));
-    QCOMPARE(m_prompter.messages().size(), 0);
-    QCOMPARE(grid.TextMatrix(1, BegBal), QStringLiteral("25.00"));
-    QCOMPARE(grid.TextMatrix(added, BegBal), QStringLiteral("75.00"));
-}
+    void opensWithLinesAndTotals()
+    {
+        FakeWorld &world = FakeWorld::instance();
+        world.detailRows = {record(QStringLiteral("B1"), 10, 500), record(QStringLiteral("B2"), 20.5, 1000.125)};
+        const auto dialog = openDialog(true, false);
+        SpreadGrid &grid = *dialog->grid();
 
-void TestBatchDialog::quantityEditsFillDependentCells()
-{
-    FakeWorld::instance().unitCoefficient = 1;
-    FakeWorld::instance().secCoefficient = 0.5;
-    auto dialog = openDialog(true, false, 81);
-    dialog->setProperty("CurrentSecUnitID", 8);
-    dialog->prepare();
-    SpreadGrid &grid = *dialog->grid();
-    dialog->pressButton(QStringLiteral("AddNew"));
+        QCOMPARE(world.executed.size(), 2);
+        QCOMPARE(world.executed[0], QStringLiteral("SELECT FScale FROM t_Currency WHERE FCurrencyID=1"));
+        QCOMPARE(world.executed[1],
+                 QStringLiteral("select isnull((SELECT t2.FCoefficient AS FCoefficient") + CRLF
+                     + QStringLiteral(" FROM t_ICItem t1 INNER JOIN t_MeasureUnit t2 ON t1.FUnitGroupID=t2.FUnitGroupID")
+                     + CRLF + QStringLiteral(" WHERE t1.FItemID = 3057 AND t2.FMeasureUnitID=7),0),") + CRLF
+                     + QStringLiteral(" isnull((SELECT ISNULL(t2.FCoefficient,0) AS FCoefficient") + CRLF
+                     + QStringLiteral(" FROM t_ICItem t1 INNER JOIN t_MeasureUnit t2 ON t1.FUnitGroupID=t2.FUnitGroupID")
+                     + CRLF + QStringLiteral(" WHERE t1.FItemID = 3057 AND t2.fmeasureunitid= 0),0)"));
+        QCOMPARE(world.detailCalls.size(), 1);
+        QCOMPARE(world.detailCalls[0], (QVariantList{world.propsString, 1, 12, 3, 3057, 0, 7, true, false,
+                                                     QStringLiteral("12|3|1|3057|0")}));
 
-    // Planned cost: the amount follows quantity x planned price 2.5; the secondary quantity
-    // follows the coefficients (1 entry unit = 2 secondary units).
-    QVERIFY(grid.editCell(1, BegQty, 4));
-    QCOMPARE(grid.number(1, BegBal), 10.0);
-    QCOMPARE(grid.number(1, BegSecQty), 8.0);
-    QVERIFY(grid.editCell(1, YtdSecQty, 6));
-    QCOMPARE(grid.number(1, YtdQty), 3.0);
-    QCOMPARE(grid.number(1, YtdBal), 7.5);
-    QCOMPARE(grid.TextMatrix(2, YtdBal), QStringLiteral("7.50"));
-}
+        // Two lines and the totals row under the header.
+        QCOMPARE(grid.rows(), 4);
+        QCOMPARE(grid.TextMatrix(1, BatchNo), QStringLiteral("B1"));
+        QCOMPARE(grid.TextMatrix(2, BegBal), QStringLiteral("1,000.13"));
+        QCOMPARE(grid.TextMatrix(3, BatchNo), QStringLiteral("合计"));
+        QCOMPARE(grid.TextMatrix(3, BegQty), QStringLiteral("30.50"));
+        QCOMPARE(grid.TextMatrix(3, BegBal), QStringLiteral("1,500.13"));
+        QCOMPARE(grid.cellBackColor(3, BegQty), SettingsStore::colorValue(Setting::SumColor));
+        QVERIFY(!grid.editCell(3, BegQty, 1));
+        QCOMPARE(grid.value(1, StockIn).toDate(), QDate(2024, 1, 1));
 
-void TestBatchDialog::refusedGroupKeepsTheFigure()
-{
-    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
-    const auto dialog = openDialog(true, false);
-    SpreadGrid &grid = *dialog->grid();
+        QCOMPARE(dialog->objectName(), QStringLiteral("frmBatchManager"));
+        QCOMPARE(grid.objectName(), QStringLiteral("vsBatMan"));
+        const auto *tabs = dialog->findChild<QTabBar *>(QStringLiteral("sstBatMan"));
+        QVERIFY(tabs);
+        QCOMPARE(tabs->tabText(0), QStringLiteral("批号/数量/金额"));
+        QVERIFY(dialog->findChild<QProgressBar *>(QStringLiteral("pbBatMan")));
+        const auto *toolBar = dialog->findChild<QToolBar *>(QStringLiteral("tbBatMan"));
+        QVERIFY(toolBar);
+        QStringList keys;
+        for (const QAction *action : toolBar->actions())
+            keys.append(action->objectName());
+        QCOMPARE(keys, (QStringList{"AddNew", "ShareBal", "Balance", "Delete", "Save", "Exit"}));
+        // A FIFO item is not apportioned.
+        QVERIFY(!dialog->button(QStringLiteral("ShareBal"))->isEnabled());
+        QVERIFY(!dialog->pressButton(QStringLiteral("ShareBal")));
+        QVERIFY(!dialog->pressButton(QStringLiteral("Nonsense")));
+    }
 
-    // Negative stock is not allowed: the user is told at once, the figure stays to be corrected.
-    QVERIFY(grid.editCell(1, SendQty, -5));
-    QCOMPARE(m_prompter.messages().size(), 1);
-    QCOMPARE(m_prompter.messages()[0].text,
-             QStringLiteral("录入的数据[数量<0]！\r\n但账套不允许负结存,因此数量不能<0！\r\n数据非法！请重新录入！"));
-    QCOMPARE(grid.number(1, SendQty), -5.0);
-    QCOMPARE(grid.TextMatrix(1, Flag), QStringLiteral("1"));
-    QCOMPARE(grid.col(), int(SendQty));
+    void lockedLineStaysReadOnly()
+    {
+        FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500, 0, true),
+                                             record(QStringLiteral("B2"), 5, 50)};
+        const auto dialog = openDialog(true, false);
+        SpreadGrid &grid = *dialog->grid();
 
-    // And the save refuses the line.
-    dialog->pressButton(QStringLiteral("Save"));
-    QVERIFY(FakeWorld::instance().scripts.isEmpty());
-    QCOMPARE(m_prompter.messages().size(), 2);
-}
+        QCOMPARE(grid.cellBackColor(1, BegQty), LockedLineColor);
+        QVERIFY(!grid.editCell(1, BegQty, 11));
+        QVERIFY(!grid.editCell(1, BatchNo, QStringLiteral("B9")));
+        QVERIFY(grid.editCell(2, BegQty, 6));
 
-void TestBatchDialog::renamedBatchIsDeletedAndInserted()
-{
-    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
-    const auto dialog = openDialog(true, false);
-    QVERIFY(dialog->grid()->editCell(1, BatchNo, QStringLiteral("B1-01")));
-    QVERIFY(dialog->pressButton(QStringLiteral("Save")));
-
-    QCOMPARE(FakeWorld::instance().scripts.size(), 1);
-    const QString script = FakeWorld::instance().scripts.first();
-    QVERIFY(script.startsWith(QStringLiteral(" Delete from ICInvInitial  Where FStockID=12 And")));
-    QCOMPARE(insertCount(script), 1);
-    QVERIFY(script.contains(QStringLiteral(" Values('0',1,12,3,3057,7,'B1-01',")));
-    QVERIFY(!script.contains(QStringLiteral("'B1'")));
-    QVERIFY(!script.contains(QStringLiteral("update"), Qt::CaseInsensitive));
-}
-
-void TestBatchDialog::deletingEveryLineLeavesOnlyDeletes()
-{
-    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500, 77),
-                                         record(QStringLiteral("B2"), 5, 50, 77),
-                                         record(QStringLiteral("B3"), 5, 50, 81)};
-    const auto dialog = openDialog(true, false);
-    SpreadGrid &grid = *dialog->grid();
-    for (int i = 0; i < 3; ++i) {
         grid.select(1, BegQty);
         QVERIFY(dialog->pressButton(QStringLiteral("Delete")));
+        QCOMPARE(grid.rows(), 4);
+        QCOMPARE(grid.TextMatrix(1, BatchNo), QStringLiteral("B1"));
     }
-    QCOMPARE(grid.rows(), 2);
-    QCOMPARE(grid.number(1, BegQty), 0.0); // the totals row
 
-    QVERIFY(dialog->pressButton(QStringLiteral("Save")));
-    QCOMPARE(FakeWorld::instance().scripts,
-             QStringList{QStringLiteral(" Delete from ICInvInitial  Where FStockID=12 And        FSPID=3 And        "
-                                        "FPeriod=1 And        FItemID=3057 and        FAuxPropID=0")
-                         + CRLF + QStringLiteral(" Delete from ICInvInitial where FFieldCompose='12|3|1|3057|0'") + CRLF
-                         + QStringLiteral("Delete ICSerial Where FSNListID In (77,81)") + CRLF
-                         + QStringLiteral("Delete ICSerialFlow Where FSNListID In (77,81)") + CRLF
-                         + QStringLiteral("Delete ICSerial_F1 Where FSNListID In (77,81)")});
-    QVERIFY(dialog->SavedBatMan());
-}
+    void hiddenColumns_data()
+    {
+        QTest::addColumn<int>("auditChoice");
+        QTest::addColumn<int>("track");
+        QTest::addColumn<int>("secUnit");
+        QTest::addColumn<bool>("amountsHidden");
+        QTest::addColumn<bool>("differencesHidden");
+        QTest::addColumn<bool>("secondaryHidden");
 
-void TestBatchDialog::saveScriptReachesTheService()
-{
-    FakeWorld::instance().detailRows = {
-        record(QStringLiteral("A'1"), 10, 500, 0, false, QStringLiteral("2023-12-20"), QVariant(QDate(2024, 1, 5)))};
-    const auto dialog = openDialog(true, true);
-    SpreadGrid &grid = *dialog->grid();
-    QVERIFY(grid.editCell(1, RecvBal, 100.123456789012));
-    QVERIFY(grid.editCell(1, RecvQty, 2));
-    QVERIFY(grid.editCell(1, YtdQty, 8));
-    QVERIFY(grid.editCell(1, YtdBal, QStringLiteral("399.876543211")));
-    QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+        QTest::newRow("quantities only") << 0 << 78 << 0 << true << true << true;
+        QTest::newRow("quantity and amount") << 1 << 78 << 0 << false << false << true;
+        QTest::newRow("planned cost") << 1 << 81 << 0 << false << false << true;
+        QTest::newRow("planned cost, quantities only") << 0 << 81 << 0 << true << true << true;
+        QTest::newRow("with secondary unit") << 1 << 78 << 8 << false << false << false;
+    }
 
-    const QString indent(26, QLatin1Char(' '));
-    const QString expected =
-        QStringLiteral(" Delete from ICInvInitial  Where FStockID=12 And        FSPID=3 And        FPeriod=1 And        "
-                       "FItemID=3057 and        FAuxPropID=0")
-        + CRLF + QStringLiteral(" Delete from ICInvInitial where FFieldCompose='12|3|1|3057|0'") + CRLF
-        + QStringLiteral(" Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo,") + CRLF
-        + indent + QStringLiteral("FYtdAuxBegQty,FYtdBegBal,FYtdBegDiff,") + CRLF + indent
-        + QStringLiteral("FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff,") + CRLF + indent
-        + QStringLiteral("FYtdAuxSend,FYtdCredit,FYtdSendDiff,") + CRLF + indent
-        + QStringLiteral("FAuxBegQty,FBegBal,FBegDiff,FBillInterID,") + CRLF + indent
-        + QStringLiteral("FKFDate,FKFPeriod,") + CRLF + indent
-        + QStringLiteral("FAuxUnitBegQty,FYtdAuxUnitBegQty,FYtdAuxUnitSend,") + CRLF + indent
-        + QStringLiteral("FYtdAuxUnitReceive,FStockInDate,FSecUnitID,FAuxPropID,FSecCoefficient,FSNListID,FFieldCompose)")
-        + QStringLiteral(" Values('0',1,12,3,3057,7,'A''1',8,399.876543211,0,2,100.123456789,0,0,0,0,10,500,0,1,"
-                         "'2023-12-20',180,0,0,0,0,'2024-01-05',0,0,0,0,'12|3|1|3057|0')");
-    QCOMPARE(FakeWorld::instance().scripts, QStringList{expected});
-    QCOMPARE(FakeWorld::instance().updateProps, QStringList{FakeWorld::instance().propsString});
+    void hiddenColumns()
+    {
+        QFETCH(int, auditChoice);
+        QFETCH(int, track);
+        QFETCH(int, secUnit);
+        QFETCH(bool, amountsHidden);
+        QFETCH(bool, differencesHidden);
+        QFETCH(bool, secondaryHidden);
 
-    // Saved: nothing is pending any more, and closing asks nothing.
-    QCOMPARE(grid.TextMatrix(1, Flag), QString());
-    QVERIFY(!dialog->session()->hasChanges());
-    const qsizetype asked = m_prompter.messages().size();
-    QVERIFY(dialog->pressButton(QStringLiteral("Exit")));
-    QCOMPARE(m_prompter.messages().size(), asked);
-}
+        setParams({{QStringLiteral("AuditChoice"), auditChoice}});
+        auto dialog = openDialog(true, false, track);
+        dialog->setProperty("CurrentSecUnitID", secUnit);
+        dialog->prepare();
+        const SpreadGrid &grid = *dialog->grid();
+        for (int col : {4, 8, 12, 16})
+            QCOMPARE(grid.colHidden(col), amountsHidden);
+        for (int col : {5, 9, 13, 17})
+            QCOMPARE(grid.colHidden(col), differencesHidden);
+        for (int col : {3, 7, 11, 15})
+            QCOMPARE(grid.colHidden(col), secondaryHidden);
+        for (int col : {1, 2, 6, 10, 14, 18})
+            QVERIFY(!grid.colHidden(col));
+        for (int col : {19, 20, 21, 24})
+            QVERIFY(grid.colHidden(col));
+        // Production date and shelf life belong to shelf-life items only.
+        for (int col : {22, 23})
+            QVERIFY(grid.colHidden(col));
+    }
 
-void TestBatchDialog::failedSaveKeepsTheChanges()
-{
-    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
-    FakeWorld::instance().failUpdate = true;
-    const auto dialog = openDialog(true, false);
-    QVERIFY(dialog->grid()->editCell(1, BatchNo, QStringLiteral("B5")));
-    QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+    void emptyItemNeedsAddNew()
+    {
+        const auto dialog = openDialog(true, true);
+        SpreadGrid &grid = *dialog->grid();
+        QCOMPARE(grid.rows(), 2);
+        QCOMPARE(grid.TextMatrix(1, BatchNo), QStringLiteral("合计"));
+        QVERIFY(!grid.editCell(1, BegQty, 5));
 
-    QVERIFY(!dialog->SavedBatMan());
-    QCOMPARE(m_prompter.messages().size(), 1);
-    QVERIFY(m_prompter.messages()[0].text.startsWith(QStringLiteral("系统在调用函数SaveBatManDetail()时发生错误\r\n")));
-    QVERIFY(m_prompter.messages()[0].text.contains(UpdateFailure));
-    QVERIFY(dialog->session()->hasChanges());
-    QCOMPARE(dialog->grid()->TextMatrix(1, BatchNo), QStringLiteral("B5"));
+        QVERIFY(dialog->pressButton(QStringLiteral("AddNew")));
+        QCOMPARE(grid.rows(), 3);
+        QCOMPARE(grid.value(1, StockIn).toDate(), QDate(2024, 1, 1)); // "CPStartDate" 01012024
+        QCOMPARE(grid.number(1, KFPeriod), 180.0);
+        QCOMPARE(grid.TextMatrix(1, Flag), QStringLiteral("1"));
+        QCOMPARE(grid.row(), 1);
+        QCOMPARE(grid.col(), int(BatchNo));
 
-    FakeWorld::instance().failUpdate = false;
-    QVERIFY(dialog->pressButton(QStringLiteral("Save")));
-    QCOMPARE(FakeWorld::instance().scripts.size(), 1);
-    QVERIFY(dialog->SavedBatMan());
-}
-
-void TestBatchDialog::failedLoadIsReported()
-{
-    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
-    FakeWorld::instance().failDetail = true;
-    const auto dialog = openDialog(true, false);
-
-    QCOMPARE(m_prompter.messages().size(), 1);
-    QCOMPARE(m_prompter.messages()[0].text,
-             QStringLiteral("系统在调用函数FillBatManDetailByRs()时发生错误\r\n错误原因：") + DetailFailure
-                 + QStringLiteral("\r\n错误来源：FakeData"));
-    QCOMPARE(dialog->grid()->rows(), 2);
-    QCOMPARE(dialog->grid()->TextMatrix(1, BatchNo), QStringLiteral("合计"));
-}
-
-void TestBatchDialog::closePrompt_data()
-{
-    QTest::addColumn<bool>("change");
-    QTest::addColumn<bool>("validChange");
-    QTest::addColumn<bool>("byWindow"); // the window's close button instead of "Exit"
-    QTest::addColumn<int>("answer");    // Prompter::Answer, -1: not asked
-    QTest::addColumn<bool>("staysOpen");
-    QTest::addColumn<int>("scripts");
-
-    const int yes = int(Prompter::Answer::Yes);
-    const int no = int(Prompter::Answer::No);
-    QTest::newRow("no change") << false << false << false << -1 << false << 0;
-    QTest::newRow("yes, valid") << true << true << false << yes << false << 1;
-    QTest::newRow("yes, check fails, window") << true << false << true << yes << true << 0;
-    QTest::newRow("no, window") << true << false << true << no << false << 0;
-}
-
-void TestBatchDialog::closePrompt()
-{
-    QFETCH(bool, change);
-    QFETCH(bool, validChange);
-    QFETCH(bool, byWindow);
-    QFETCH(int, answer);
-    QFETCH(bool, staysOpen);
-    QFETCH(int, scripts);
-
-    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
-    const auto dialog = openDialog(true, false);
-    dialog->show();
-    QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
-    if (change && validChange)
-        QVERIFY(dialog->grid()->editCell(1, BatchNo, QStringLiteral("B2")));
-    else if (change)
-        dialog->pressButton(QStringLiteral("AddNew")); // an empty line fails the check
-    if (answer >= 0)
-        m_prompter.queueAnswer(Prompter::Answer(answer));
-
-    if (byWindow)
-        dialog->close();
-    else
-        QVERIFY(dialog->pressButton(QStringLiteral("Exit")));
-
-    QCOMPARE(dialog->isVisible(), staysOpen);
-    QCOMPARE(FakeWorld::instance().scripts.size(), scripts);
-    QCOMPARE(dialog->SavedBatMan(), scripts > 0);
-    if (answer < 0) {
+        QVERIFY(grid.editCell(1, BegQty, 5));
+        QCOMPARE(grid.TextMatrix(2, BegQty), QStringLiteral("5.00"));
+        // The amount is still to come: no warning of a zero amount in the middle of the pair.
         QVERIFY(m_prompter.messages().isEmpty());
-        return;
     }
-    const Prompter::Message &asked = m_prompter.messages().first();
-    QCOMPARE(asked.text, AskSave);
-    QCOMPARE(asked.caption, Caption);
-    QCOMPARE(asked.buttons, Prompter::Buttons::YesNo);
-    QCOMPARE(asked.icon, Prompter::Icon::Question);
-    if (staysOpen)
-        QCOMPARE(m_prompter.messages().size(), 2); // the refusal of the check
-    else
-        QCOMPARE(dialog->result(), scripts > 0 ? int(QDialog::Accepted) : int(QDialog::Rejected));
-}
 
-void TestBatchDialog::showDialogRunsModally()
-{
-    FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
-    auto dialog = openDialog(true, false);
-    QTimer::singleShot(0, dialog.get(), [&dialog] {
-        dialog->grid()->editCell(1, BatchNo, QStringLiteral("B7"));
+    void apportionedQuantityOfANewLineIsAccepted()
+    {
+        setParams({{QStringLiteral("ShareBal"), 1}});
+        FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 1, 10)};
+        const auto dialog = openDialog(true, false, 76);
+        SpreadGrid &grid = *dialog->grid();
+        QVERIFY(dialog->pressButton(QStringLiteral("ShareBal")));
+        const int input = grid.row();
+        QVERIFY(grid.editCell(input, BegBal, 100));
+        QVERIFY(dialog->pressButton(QStringLiteral("AddNew")));
+        const int added = grid.row();
+        QCOMPARE(added, 2);
+        QVERIFY(grid.editCell(added, BatchNo, QStringLiteral("B2")));
+
+        // The quantity is typed before any amount of the line: its share of the total comes with it,
+        // so the pair is judged with the amount and nobody is warned of a zero amount.
+        QVERIFY(grid.editCell(added, BegQty, 3));
+        QCOMPARE(m_prompter.messages().size(), 0);
+        QCOMPARE(grid.TextMatrix(1, BegBal), QStringLiteral("25.00"));
+        QCOMPARE(grid.TextMatrix(added, BegBal), QStringLiteral("75.00"));
+    }
+
+    void quantityEditsFillDependentCells()
+    {
+        FakeWorld::instance().unitCoefficient = 1;
+        FakeWorld::instance().secCoefficient = 0.5;
+        auto dialog = openDialog(true, false, 81);
+        dialog->setProperty("CurrentSecUnitID", 8);
+        dialog->prepare();
+        SpreadGrid &grid = *dialog->grid();
+        dialog->pressButton(QStringLiteral("AddNew"));
+
+        // Planned cost: the amount follows quantity x planned price 2.5; the secondary quantity
+        // follows the coefficients (1 entry unit = 2 secondary units).
+        QVERIFY(grid.editCell(1, BegQty, 4));
+        QCOMPARE(grid.number(1, BegBal), 10.0);
+        QCOMPARE(grid.number(1, BegSecQty), 8.0);
+        QVERIFY(grid.editCell(1, YtdSecQty, 6));
+        QCOMPARE(grid.number(1, YtdQty), 3.0);
+        QCOMPARE(grid.number(1, YtdBal), 7.5);
+        QCOMPARE(grid.TextMatrix(2, YtdBal), QStringLiteral("7.50"));
+    }
+
+    void refusedGroupKeepsTheFigure()
+    {
+        FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
+        const auto dialog = openDialog(true, false);
+        SpreadGrid &grid = *dialog->grid();
+
+        // Negative stock is not allowed: the user is told at once, the figure stays to be corrected.
+        QVERIFY(grid.editCell(1, SendQty, -5));
+        QCOMPARE(m_prompter.messages().size(), 1);
+        QCOMPARE(m_prompter.messages()[0].text,
+                 QStringLiteral("录入的数据[数量<0]！\r\n但账套不允许负结存,因此数量不能<0！\r\n数据非法！请重新录入！"));
+        QCOMPARE(grid.number(1, SendQty), -5.0);
+        QCOMPARE(grid.TextMatrix(1, Flag), QStringLiteral("1"));
+        QCOMPARE(grid.col(), int(SendQty));
+
+        // And the save refuses the line.
         dialog->pressButton(QStringLiteral("Save"));
-        dialog->pressButton(QStringLiteral("Exit"));
-    });
-    QCOMPARE(dialog->ShowDialog(), int(QDialog::Accepted));
-    QVERIFY(dialog->property("SavedBatMan").toBool());
-    QCOMPARE(FakeWorld::instance().detailCalls.size(), 2); // opened again by ShowDialog
-}
+        QVERIFY(FakeWorld::instance().scripts.isEmpty());
+        QCOMPARE(m_prompter.messages().size(), 2);
+    }
+
+    void saveScriptReachesTheService()
+    {
+        FakeWorld::instance().detailRows = {
+            record(QStringLiteral("A'1"), 10, 500, 0, false, QStringLiteral("2023-12-20"), QVariant(QDate(2024, 1, 5)))};
+        const auto dialog = openDialog(true, true);
+        SpreadGrid &grid = *dialog->grid();
+        QVERIFY(grid.editCell(1, RecvBal, 100.123456789012));
+        QVERIFY(grid.editCell(1, RecvQty, 2));
+        QVERIFY(grid.editCell(1, YtdQty, 8));
+        QVERIFY(grid.editCell(1, YtdBal, QStringLiteral("399.876543211")));
+        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+
+        // The statement's columns are the script builder's; here the dialog's figures must reach it.
+        QCOMPARE(FakeWorld::instance().scripts.size(), 1);
+        QVERIFY2(FakeWorld::instance().scripts.first().endsWith(
+                     QStringLiteral(" Values('0',1,12,3,3057,7,'A''1',8,399.876543211,0,2,100.123456789,0,0,0,0,10,500,0,1,"
+                                    "'2023-12-20',180,0,0,0,0,'2024-01-05',0,0,0,0,'12|3|1|3057|0')")),
+                 qPrintable(FakeWorld::instance().scripts.first()));
+        QCOMPARE(FakeWorld::instance().updateProps, QStringList{FakeWorld::instance().propsString});
+
+        // Saved: nothing is pending any more, and closing asks nothing.
+        QCOMPARE(grid.TextMatrix(1, Flag), QString());
+        QVERIFY(!dialog->session()->hasChanges());
+        const qsizetype asked = m_prompter.messages().size();
+        QVERIFY(dialog->pressButton(QStringLiteral("Exit")));
+        QCOMPARE(m_prompter.messages().size(), asked);
+    }
+
+    void failedSaveKeepsTheChanges()
+    {
+        FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
+        FakeWorld::instance().failUpdate = true;
+        const auto dialog = openDialog(true, false);
+        QVERIFY(dialog->grid()->editCell(1, BatchNo, QStringLiteral("B5")));
+        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+
+        QVERIFY(!dialog->SavedBatMan());
+        QCOMPARE(m_prompter.messages().size(), 1);
+        QVERIFY(m_prompter.messages()[0].text.startsWith(QStringLiteral("系统在调用函数SaveBatManDetail()时发生错误\r\n")));
+        QVERIFY(m_prompter.messages()[0].text.contains(UpdateFailure));
+        QVERIFY(dialog->session()->hasChanges());
+        QCOMPARE(dialog->grid()->TextMatrix(1, BatchNo), QStringLiteral("B5"));
+
+        FakeWorld::instance().failUpdate = false;
+        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+        QCOMPARE(FakeWorld::instance().scripts.size(), 1);
+        QVERIFY(dialog->SavedBatMan());
+    }
+
+    void failedLoadIsReported()
+    {
+        FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
+        FakeWorld::instance().failDetail = true;
+        const auto dialog = openDialog(true, false);
+
+        QCOMPARE(m_prompter.messages().size(), 1);
+        QCOMPARE(m_prompter.messages()[0].text,
+                 QStringLiteral("系统在调用函数FillBatManDetailByRs()时发生错误\r\n错误原因：") + DetailFailure
+                     + QStringLiteral("\r\n错误来源：FakeData"));
+        QCOMPARE(dialog->grid()->rows(), 2);
+        QCOMPARE(dialog->grid()->TextMatrix(1, BatchNo), QStringLiteral("合计"));
+    }
+
+    void showDialogRunsModally()
+    {
+        FakeWorld::instance().detailRows = {record(QStringLiteral("B1"), 10, 500)};
+        auto dialog = openDialog(true, false);
+        QTimer::singleShot(0, dialog.get(), [&dialog] {
+            dialog->grid()->editCell(1, BatchNo, QStringLiteral("B7"));
+            dialog->pressButton(QStringLiteral("Save"));
+            dialog->pressButton(QStringLiteral("Exit"));
+        });
+        QCOMPARE(dialog->ShowDialog(), int(QDialog::Accepted));
+        QVERIFY(dialog->property("SavedBatMan").toBool());
+        QCOMPARE(FakeWorld::instance().detailCalls.size(), 2); // opened again by ShowDialog
+    }
+
+
+private:
+    // A dialog opened for item 3057 in warehouse 12, stock place 3, with the records queued in
+    // the fake data service.
+    std::unique_ptr<frmBatchManager> openDialog(bool batch, bool shelfLife, int track = 78)
+    {
+        m_itemKey = std::make_unique<Dictionary>();
+        const QVariantMap values{{QStringLiteral("ID"), 3057},          {QStringLiteral("ShortNum"), QStringLiteral("LZB")},
+                                 {QStringLiteral("Num"), QStringLiteral("01.002")},
+                                 {QStringLiteral("Name"), QStringLiteral("冷轧板")},
+                                 {QStringLiteral("Model"), QStringLiteral("1.0mm")},
+                                 {QStringLiteral("FBM"), batch},            {QStringLiteral("FKF"), shelfLife},
+                                 {QStringLiteral("Track"), track},          {QStringLiteral("PlanPrice"), 2.5},
+                                 {QStringLiteral("UnitID"), 7},             {QStringLiteral("QtyDecimal"), 2},
+                                 {QStringLiteral("PriceDecimal"), 4},       {QStringLiteral("KFPeriod"), 180},
+                                 {QStringLiteral("SecUnitID"), 0},          {QStringLiteral("SecCoefficient"), 0},
+                                 {QStringLiteral("AuxPropID"), 0}};
+        for (auto it = values.begin(); it != values.end(); ++it)
+            m_itemKey->Add(it.key(), it.value());
+
+        auto dialog = std::make_unique<frmBatchManager>();
+        dialog->setProperty("BMItemKey", QVariant::fromValue<QObject *>(m_itemKey.get()));
+        dialog->setProperty("CurrentBMStock", 12);
+        dialog->setProperty("CurrentBMSPlace", 3);
+        dialog->setProperty("CurrentBMItem", 3057);
+        dialog->setProperty("CurrentUnitID", 7);
+        dialog->setProperty("CurrentSecUnitID", 0);
+        dialog->setProperty("FieldCompose", QStringLiteral("12|3|1|3057|0"));
+        dialog->setProperty("LVSColor", int(SettingsStore::rgbNumber(LockedLineColor)));
+        dialog->prepare();
+        return dialog;
+    }
+
+
+    ScriptedPrompter m_prompter;
+    std::unique_ptr<Dictionary> m_itemKey;
+};
+
+QTEST_MAIN(TestBatchDialog)
+#include "tst_batchdialog.moc"

@@ -1,10 +1,7 @@
-#include "tst_batchrules.h"
-
 #include "batch/apportion.h"
 #include "sheet/iteminfo.h"
 #include "batch/batchline.h"
 #include "batch/batchscript.h"
-#include "sheet/sqltext.h"
 #include "batch/batchsheet.h"
 #include "batch/batchvalidation.h"
 #include "batch/linebalance.h"
@@ -17,6 +14,10 @@ using Amounts = QList<std::optional<double>>;
 Q_DECLARE_METATYPE(Amounts)
 Q_DECLARE_METATYPE(FigureKind)
 Q_DECLARE_METATYPE(QList<FigureKind>)
+using Lines = QList<BatchLine>;
+Q_DECLARE_METATYPE(Lines)
+Q_DECLARE_METATYPE(ItemInfo)
+Q_DECLARE_METATYPE(ApportionState)
 
 namespace {
 
@@ -53,6 +54,26 @@ struct Line
         line.kfDate = date;
         return *this;
     }
+    Line &stockIn(const QDate &date)
+    {
+        line.stockInDate = date;
+        return *this;
+    }
+    Line &noShelfLife()
+    {
+        line.kfPeriod.reset();
+        return *this;
+    }
+    Line &unchanged()
+    {
+        line.changed = false;
+        return *this;
+    }
+    Line &empty()
+    {
+        line.figures.fill(0);
+        return *this;
+    }
     operator BatchLine() const { return line; }
 };
 
@@ -75,446 +96,371 @@ BatchRules amountRules(bool allocate = false)
     return rules;
 }
 
-std::optional<BatchRefusal> saveCheck(const ItemInfo &it, const QList<BatchLine> &lines,
-                                      const BatchRules &rules = amountRules())
-{
-    return BatchValidation::checkBeforeSave(it, rules, ApportionState{}, lines);
-}
-
 } // namespace
 
-void TestBatchRules::apportion_data()
+// The batch dialog's rules without a widget: apportioning, the line balance, the checks, the
+// save script and the member handover.
+class TestBatchRules : public QObject
 {
-    QTest::addColumn<Amounts>("quantities");
-    QTest::addColumn<double>("total");
-    QTest::addColumn<int>("scale");
-    QTest::addColumn<Amounts>("expected");
+    Q_OBJECT
+private slots:
+    void apportion_data()
+    {
+        QTest::addColumn<Amounts>("quantities");
+        QTest::addColumn<double>("total");
+        QTest::addColumn<int>("scale");
+        QTest::addColumn<Amounts>("expected");
 
-    QTest::newRow("three batches of one") << Amounts{1, 1, 1} << 100.0 << 2 << Amounts{33.33, 33.33, 33.34};
-    QTest::newRow("negative total") << Amounts{1, 1, 1} << -100.0 << 2 << Amounts{-33.33, -33.33, -33.34};
-    // Empty quantity cells are passed over and keep their amounts.
-    QTest::newRow("empty cell skipped") << Amounts{1, std::nullopt, 2} << 10.0 << 2
-                                        << Amounts{3.33, std::nullopt, 6.67};
-    // The residue goes to the last line with quantity; a zero line after it gets nothing.
-    QTest::newRow("zero after the last") << Amounts{1, 2, 0} << 10.0 << 2 << Amounts{3.33, 6.67, 0.0};
-    QTest::newRow("no total typed") << Amounts{4, 6} << 0.0 << 2 << Amounts{0.0, 0.0};
-    // 0.025 per unit rounds half away from zero on its decimal text, not down on its binary value.
-    QTest::newRow("halves away from zero") << Amounts{1, 1, 2} << 0.1 << 2 << Amounts{0.03, 0.03, 0.04};
-    QTest::newRow("no decimals") << Amounts{1, 1, 1} << 100.0 << 0 << Amounts{33.0, 33.0, 34.0};
-}
-
-void TestBatchRules::apportion()
-{
-    QFETCH(Amounts, quantities);
-    QFETCH(double, total);
-    QFETCH(int, scale);
-    QFETCH(Amounts, expected);
-
-    const Amounts amounts = Apportion::split(quantities, total, scale);
-    QCOMPARE(amounts.size(), expected.size());
-    double sum = 0;
-    for (int i = 0; i < amounts.size(); ++i) {
-        QCOMPARE(amounts[i].has_value(), expected[i].has_value());
-        if (!expected[i])
-            continue;
-        QCOMPARE(*amounts[i] + 1.0, *expected[i] + 1.0); // fuzzy, also near zero
-        sum += *amounts[i];
+        QTest::newRow("three batches of one") << Amounts{1, 1, 1} << 100.0 << 2 << Amounts{33.33, 33.33, 33.34};
+        QTest::newRow("negative total") << Amounts{1, 1, 1} << -100.0 << 2 << Amounts{-33.33, -33.33, -33.34};
+        // Empty quantity cells are passed over and keep their amounts.
+        QTest::newRow("empty cell skipped") << Amounts{1, std::nullopt, 2} << 10.0 << 2
+                                            << Amounts{3.33, std::nullopt, 6.67};
+        // The residue goes to the last line with quantity; a zero line after it gets nothing.
+        QTest::newRow("zero after the last") << Amounts{1, 2, 0} << 10.0 << 2 << Amounts{3.33, 6.67, 0.0};
+        QTest::newRow("no total typed") << Amounts{4, 6} << 0.0 << 2 << Amounts{0.0, 0.0};
+        // 0.025 per unit rounds half away from zero on its decimal text, not down on its binary value.
+        QTest::newRow("halves away from zero") << Amounts{1, 1, 2} << 0.1 << 2 << Amounts{0.03, 0.03, 0.04};
+        QTest::newRow("no decimals") << Amounts{1, 1, 1} << 100.0 << 0 << Amounts{33.0, 33.0, 34.0};
     }
-    QCOMPARE(sum + 1.0, total + 1.0); // the lines add up to the total exactly
-}
 
-void TestBatchRules::apportionFloatingRemainderTakesNoResidue()
-{
-    // 0.1 + 0.2 + 0.3 leaves a remainder of about 5.5e-17 when taken away again one by one: the
-    // remaining quantity never becomes exactly 0, so every line is priced and nobody takes the rest.
-    const Amounts quantities{0.1, 0.2, 0.3};
-    QVERIFY(0.1 + 0.2 + 0.3 - 0.1 - 0.2 - 0.3 != 0.0);
+    void apportion()
+    {
+        QFETCH(Amounts, quantities);
+        QFETCH(double, total);
+        QFETCH(int, scale);
+        QFETCH(Amounts, expected);
 
-    const Amounts amounts = Apportion::split(quantities, 0.01, 2);
-    QCOMPARE(amounts.size(), 3);
-    // Price 0.01 / 0.6: each line rounds to 0.00, and the lost cent is not given to the last line.
-    for (const std::optional<double> &amount : amounts)
-        QCOMPARE(*amount + 1.0, 1.0);
-
-    const Amounts hundred = Apportion::split(quantities, 100.0, 2);
-    QCOMPARE(*hundred[0], 16.67);
-    QCOMPARE(*hundred[1], 33.33);
-    QCOMPARE(*hundred[2], 50.0);
-}
-
-void TestBatchRules::lineBalance_data()
-{
-    QTest::addColumn<QList<double>>("figures"); // columns 2 to 17
-    QTest::addColumn<QList<FigureKind>>("unbalanced");
-
-    //                          qty  sec  amt   diff | received        | sent            | period
-    QTest::newRow("balanced") << QList<double>{10, 5, 100, 1, 2, 1, 20, 0, 4, 2, 40, 0.5, 8, 4, 80, 0.5}
-                              << QList<FigureKind>{};
-    QTest::newRow("quantity off") << QList<double>{11, 5, 100, 1, 2, 1, 20, 0, 4, 2, 40, 0.5, 8, 4, 80, 0.5}
-                                  << QList<FigureKind>{FigureKind::Quantity};
-    QTest::newRow("amount and difference off")
-        << QList<double>{10, 5, 100, 1, 2, 1, 20, 0, 4, 2, 41, 0.5, 8, 4, 80, 1}
-        << QList<FigureKind>{FigureKind::Amount, FigureKind::Difference};
-    // -10 = -9 + (-3) - (-2): negative figures that balance pass.
-    QTest::newRow("negatives balanced") << QList<double>{-10, 0, -100, 0, -2, 0, -20, 0, -3, 0, -30, 0, -9, 0, -90, 0}
-                                        << QList<FigureKind>{};
-    // All negative and off: -10 against -5 + (-3) - (-2) = -6.
-    QTest::newRow("negatives off") << QList<double>{-10, 0, -100, 0, -2, 0, -20, 0, -3, 0, -30, 0, -5, 0, -90, 0}
-                                   << QList<FigureKind>{FigureKind::Quantity};
-    // Unrounded: 0.004 apart is a difference even where the display shows two decimals.
-    QTest::newRow("below display precision") << QList<double>{1.004, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0}
-                                             << QList<FigureKind>{FigureKind::Quantity};
-    // 0.1 + 0.2 is 0.30000000000000004: the figures are compared as the cells hold them, unrounded.
-    QTest::newRow("unrounded sum") << QList<double>{0.3, 0, 0, 0, 0, 0, 0, 0, 0.2, 0, 0, 0, 0.1, 0, 0, 0}
-                                   << QList<FigureKind>{FigureKind::Quantity};
-}
-
-void TestBatchRules::lineBalance()
-{
-    QFETCH(QList<double>, figures);
-    QFETCH(QList<FigureKind>, unbalanced);
-
-    BatchLine line;
-    for (int i = 0; i < figures.size(); ++i)
-        line.setFigure(BatCol::FirstFigure + i, figures[i]);
-    QCOMPARE(LineBalance::unbalanced(line), unbalanced);
-}
-
-void TestBatchRules::typedBatch_data()
-{
-    QTest::addColumn<bool>("shelfLife");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("loaded");
-    QTest::addColumn<QString>("message"); // empty: accepted
-
-    const QString empty = QStringLiteral("批号不能为空，请输入批号！");
-    const QString exists = QStringLiteral("当前批号已存在，请重新输入！");
-    QTest::newRow("empty") << false << QString() << QStringLiteral("B1") << empty;
-    QTest::newRow("blanks") << false << QStringLiteral("   ") << QString() << empty;
-    QTest::newRow("new number") << false << QStringLiteral("B9") << QString() << QString();
-    QTest::newRow("held by another line") << false << QStringLiteral("B2") << QString() << exists;
-    QTest::newRow("held, blanks around") << false << QStringLiteral(" B2 ") << QStringLiteral("B1") << exists;
-    // With shelf life the same batch may come again under another production date.
-    QTest::newRow("held, shelf-life item") << true << QStringLiteral("B2") << QString() << QString();
-}
-
-void TestBatchRules::typedBatch()
-{
-    QFETCH(bool, shelfLife);
-    QFETCH(QString, typed);
-    QFETCH(QString, loaded);
-    QFETCH(QString, message);
-
-    const std::optional<QString> refused = BatchValidation::checkTypedBatch(
-        item(true, shelfLife), typed, loaded, {QStringLiteral("B2"), QStringLiteral("B3")});
-    QCOMPARE(refused.value_or(QString()), message);
-}
-
-void TestBatchRules::productionDate_data()
-{
-    QTest::addColumn<QDate>("kfDate");
-    QTest::addColumn<QDate>("stockIn");
-    QTest::addColumn<bool>("withShelfLife");
-    QTest::addColumn<int>("col"); // -1: accepted
-    QTest::addColumn<QString>("message");
-
-    const QDate stockIn(2024, 1, 1);
-    QTest::newRow("same day") << stockIn << stockIn << true << -1 << QString();
-    QTest::newRow("day before") << stockIn.addDays(-1) << stockIn << true << -1 << QString();
-    QTest::newRow("one day later") << stockIn.addDays(1) << stockIn << true << int(BatCol::KFDate)
-                                   << QStringLiteral("该物料实行保质期管理，生产日期不能大于入库日期！");
-    QTest::newRow("a year later, earlier month")
-        << QDate(2024, 1, 1) << QDate(2023, 12, 31) << true << int(BatCol::KFDate)
-        << QStringLiteral("该物料实行保质期管理，生产日期不能大于入库日期！");
-    QTest::newRow("no production date") << QDate() << stockIn << true << int(BatCol::KFDate)
-                                         << QStringLiteral("该物料实行保质期管理，生产日期不能为空，请输入生产日期！");
-    QTest::newRow("no shelf life") << stockIn << stockIn << false << int(BatCol::KFPeriod)
-                                   << QStringLiteral("该物料实行保质期管理，保质期(天)不能为空，请输入保质期(天)！");
-}
-
-void TestBatchRules::productionDate()
-{
-    QFETCH(QDate, kfDate);
-    QFETCH(QDate, stockIn);
-    QFETCH(bool, withShelfLife);
-    QFETCH(int, col);
-    QFETCH(QString, message);
-
-    Line line(4);
-    line.kf(kfDate);
-    line.line.stockInDate = stockIn;
-    if (!withShelfLife)
-        line.line.kfPeriod.reset();
-    const std::optional<BatchRefusal> refused = saveCheck(item(true, true), {line});
-    QCOMPARE(refused ? refused->col : -1, col);
-    QCOMPARE(refused ? refused->message : QString(), message);
-    if (refused)
-        QCOMPARE(refused->row, 4);
-}
-
-void TestBatchRules::repeats_data()
-{
-    QTest::addColumn<bool>("batch");
-    QTest::addColumn<bool>("shelfLife");
-    QTest::addColumn<QString>("secondBatch");
-    QTest::addColumn<QDate>("secondDate");
-    QTest::addColumn<int>("col");
-    QTest::addColumn<QString>("message");
-
-    const QDate first(2023, 12, 1);
-    const QDate other(2023, 11, 1);
-    const QString both = QStringLiteral("批次+生产/采购日期不能重复!");
-    QTest::newRow("both, same batch other date") << true << true << "B1" << other << -1 << QString();
-    QTest::newRow("both, other batch same date") << true << true << "B2" << first << -1 << QString();
-    QTest::newRow("both, same batch and date") << true << true << "B1" << first << int(BatCol::BatchNo) << both;
-    QTest::newRow("batch only, same batch") << true << false << "B1" << other << int(BatCol::BatchNo)
-                                            << QStringLiteral("批次不能重复!");
-    QTest::newRow("batch only, other batch") << true << false << "B2" << first << -1 << QString();
-    QTest::newRow("shelf life only, same date") << false << true << "B2" << first << int(BatCol::KFDate)
-                                                << QStringLiteral("生产/采购日期不能重复!");
-    QTest::newRow("shelf life only, other date") << false << true << "B1" << other << -1 << QString();
-}
-
-void TestBatchRules::repeats()
-{
-    QFETCH(bool, batch);
-    QFETCH(bool, shelfLife);
-    QFETCH(QString, secondBatch);
-    QFETCH(QDate, secondDate);
-    QFETCH(int, col);
-    QFETCH(QString, message);
-
-    // The repeat is a line in between and the refusal points at the later one.
-    const QList<BatchLine> lines{Line(1, QStringLiteral("B1")).kf(QDate(2023, 12, 1)),
-                                 Line(2, QStringLiteral("B7")).kf(QDate(2022, 1, 1)),
-                                 Line(3, secondBatch).kf(secondDate)};
-    const std::optional<BatchRefusal> refused = saveCheck(item(batch, shelfLife), lines);
-    QCOMPARE(refused ? refused->col : -1, col);
-    QCOMPARE(refused ? refused->message : QString(), message);
-    if (refused)
-        QCOMPARE(refused->row, 3);
-}
-
-void TestBatchRules::apportioningIsCheckedFirst()
-{
-    // An empty batch number would be refused too; the missing apportioning comes first.
-    const QList<BatchLine> lines{Line(1, QString())};
-    const ApportionState notApportioned{true, false, true};
-    const std::optional<BatchRefusal> refused =
-        BatchValidation::checkBeforeSave(item(true, false, 76), amountRules(true), notApportioned, lines);
-    QVERIFY(refused);
-    QCOMPARE(refused->message, QStringLiteral("加权平均法、移动平均法的物料\r\n采用批次管理时，金额需要分摊来确定单价！\r\n"
-                                              "系统检测到金额未分摊，请先分摊金额！"));
-    QCOMPARE(refused->row, -1);
-
-    // Apportioned, unchanged or not offered: the line check speaks.
-    const QString batchRequired = QStringLiteral("该物料实行批次管理，批号不能为空，请输入批号！");
-    for (const ApportionState &state : {ApportionState{true, true, true}, ApportionState{true, false, false},
-                                        ApportionState{false, false, true}}) {
-        const std::optional<BatchRefusal> next =
-            BatchValidation::checkBeforeSave(item(true, false, 76), amountRules(true), state, lines);
-        QVERIFY(next);
-        QCOMPARE(next->message, batchRequired);
-        QCOMPARE(next->col, int(BatCol::BatchNo));
+        const Amounts amounts = Apportion::split(quantities, total, scale);
+        QCOMPARE(amounts.size(), expected.size());
+        double sum = 0;
+        for (int i = 0; i < amounts.size(); ++i) {
+            QCOMPARE(amounts[i].has_value(), expected[i].has_value());
+            if (!expected[i])
+                continue;
+            QCOMPARE(*amounts[i] + 1.0, *expected[i] + 1.0); // fuzzy, also near zero
+            sum += *amounts[i];
+        }
+        QCOMPARE(sum + 1.0, total + 1.0); // the lines add up to the total exactly
     }
-}
 
-void TestBatchRules::onlyChangedLinesAreChecked()
-{
-    Line unchanged(1, QString());
-    unchanged.line.changed = false;
-    QVERIFY(!saveCheck(item(true, false), {unchanged}));
+    void apportionFloatingRemainderTakesNoResidue()
+    {
+        // 0.1 + 0.2 + 0.3 leaves a remainder of about 5.5e-17 when taken away again one by one: the
+        // remaining quantity never becomes exactly 0, so every line is priced and nobody takes the rest.
+        const Amounts quantities{0.1, 0.2, 0.3};
+        QVERIFY(0.1 + 0.2 + 0.3 - 0.1 - 0.2 - 0.3 != 0.0);
 
-    // The repeat test looks at every line, changed or not.
-    Line first(1);
-    first.line.changed = false;
-    Line second(2);
-    second.line.changed = false;
-    QVERIFY(saveCheck(item(true, false), {first, second}));
-}
+        const Amounts amounts = Apportion::split(quantities, 0.01, 2);
+        QCOMPARE(amounts.size(), 3);
+        // Price 0.01 / 0.6: each line rounds to 0.00, and the lost cent is not given to the last line.
+        for (const std::optional<double> &amount : amounts)
+            QCOMPARE(*amount + 1.0, 1.0);
 
-void TestBatchRules::allocationRefusesValueWithoutQuantity()
-{
-    // Received: no quantity but an amount of 10.
-    const BatchLine line = Line(2).figure(BatCol::Debit, 10);
-    const ItemInfo average = item(true, false, 76);
+        const Amounts hundred = Apportion::split(quantities, 100.0, 2);
+        QCOMPARE(*hundred[0], 16.67);
+        QCOMPARE(*hundred[1], 33.33);
+        QCOMPARE(*hundred[2], 50.0);
+    }
 
-    const std::optional<BatchRefusal> refused = saveCheck(average, {line}, amountRules(true));
-    QVERIFY(refused);
-    QCOMPARE(refused->message, QStringLiteral("分摊的数据[数量=0，金额<>0]！\r\n单价将不一致，数据非法！请重新录入！"));
-    QCOMPARE(refused->col, int(BatCol::ReceiveQty));
-    QCOMPARE(refused->row, 2);
 
-    QVERIFY(!saveCheck(average, {line}, amountRules(false)));
-    QVERIFY(!saveCheck(item(true, false, 78), {line}, amountRules(true)));
+    void lineBalance_data()
+    {
+        QTest::addColumn<QList<double>>("figures"); // columns 2 to 17
+        QTest::addColumn<QList<FigureKind>>("unbalanced");
 
-    const BalanceVerdict onEdit = BatchValidation::checkGroup(line, BatchGroups[1], average, amountRules(true));
-    QVERIFY(!onEdit.valid);
-}
+        //                          qty  sec  amt   diff | received        | sent            | period
+        QTest::newRow("balanced") << QList<double>{10, 5, 100, 1, 2, 1, 20, 0, 4, 2, 40, 0.5, 8, 4, 80, 0.5}
+                                  << QList<FigureKind>{};
+        QTest::newRow("quantity off") << QList<double>{11, 5, 100, 1, 2, 1, 20, 0, 4, 2, 40, 0.5, 8, 4, 80, 0.5}
+                                      << QList<FigureKind>{FigureKind::Quantity};
+        QTest::newRow("amount and difference off")
+            << QList<double>{10, 5, 100, 1, 2, 1, 20, 0, 4, 2, 41, 0.5, 8, 4, 80, 1}
+            << QList<FigureKind>{FigureKind::Amount, FigureKind::Difference};
+        // -10 = -9 + (-3) - (-2): negative figures that balance pass.
+        QTest::newRow("negatives balanced") << QList<double>{-10, 0, -100, 0, -2, 0, -20, 0, -3, 0, -30, 0, -9, 0, -90, 0}
+                                            << QList<FigureKind>{};
+        // All negative and off: -10 against -5 + (-3) - (-2) = -6.
+        QTest::newRow("negatives off") << QList<double>{-10, 0, -100, 0, -2, 0, -20, 0, -3, 0, -30, 0, -5, 0, -90, 0}
+                                       << QList<FigureKind>{FigureKind::Quantity};
+        // Unrounded: 0.004 apart is a difference even where the display shows two decimals.
+        QTest::newRow("below display precision") << QList<double>{1.004, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0}
+                                                 << QList<FigureKind>{FigureKind::Quantity};
+        // 0.1 + 0.2 is 0.30000000000000004: the figures are compared as the cells hold them, unrounded.
+        QTest::newRow("unrounded sum") << QList<double>{0.3, 0, 0, 0, 0, 0, 0, 0, 0.2, 0, 0, 0, 0.1, 0, 0, 0}
+                                       << QList<FigureKind>{FigureKind::Quantity};
+    }
 
-void TestBatchRules::emptyLineIsRefusedOnItsFourthGroup()
-{
-    BatchLine empty = Line(3);
-    empty.figures.fill(0);
-    const std::optional<BatchRefusal> refused = saveCheck(item(true, false), {empty});
-    QVERIFY(refused);
-    QCOMPARE(refused->col, int(BatCol::BegQty));
-    QCOMPARE(refused->message, QStringLiteral("录入的数据[数量=0，金额=0]！\r\n没有实际意义，数据非法！请重新录入！"));
+    void lineBalance()
+    {
+        QFETCH(QList<double>, figures);
+        QFETCH(QList<FigureKind>, unbalanced);
 
-    // A single empty group after an edit is no refusal.
-    QVERIFY(BatchValidation::checkGroup(empty, BatchGroups[0], item(true, false), amountRules()).valid);
-}
+        BatchLine line;
+        for (int i = 0; i < figures.size(); ++i)
+            line.setFigure(BatCol::FirstFigure + i, figures[i]);
+        QCOMPARE(LineBalance::unbalanced(line), unbalanced);
+    }
 
-void TestBatchRules::sqlNumber_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("text");
 
-    QTest::newRow("integer") << 10.0 << "10";
-    QTest::newRow("negative") << -5.5 << "-5.5";
-    QTest::newRow("binary noise") << 0.1 + 0.2 << "0.3";
-    QTest::newRow("ten decimals") << 1.23456789012345 << "1.2345678901";
-    QTest::newRow("tiny") << 0.00000000004 << "0";
-    QTest::newRow("tiny negative") << -0.00000000004 << "0";
-    QTest::newRow("large, no exponent") << 1e15 << "1000000000000000";
-    QTest::newRow("money") << 123456789012.35 << "123456789012.35";
-}
+    void typedBatch_data()
+    {
+        QTest::addColumn<bool>("shelfLife");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("loaded");
+        QTest::addColumn<QString>("message"); // empty: accepted
 
-void TestBatchRules::sqlNumber()
-{
-    QFETCH(double, value);
-    QFETCH(QString, text);
-    QCOMPARE(SqlText::number(value), text);
-}
+        const QString empty = QStringLiteral("批号不能为空，请输入批号！");
+        const QString exists = QStringLiteral("当前批号已存在，请重新输入！");
+        QTest::newRow("empty") << false << QString() << QStringLiteral("B1") << empty;
+        QTest::newRow("blanks") << false << QStringLiteral("   ") << QString() << empty;
+        QTest::newRow("new number") << false << QStringLiteral("B9") << QString() << QString();
+        QTest::newRow("held by another line") << false << QStringLiteral("B2") << QString() << exists;
+        QTest::newRow("held, blanks around") << false << QStringLiteral(" B2 ") << QStringLiteral("B1") << exists;
+        // With shelf life the same batch may come again under another production date.
+        QTest::newRow("held, shelf-life item") << true << QStringLiteral("B2") << QString() << QString();
+    }
 
-void TestBatchRules::scriptForOneLine()
-{
-    BatchScriptKey key;
-    key.stockId = 12;
-    key.spId = 3;
-    key.period = 1;
-    key.itemId = 3057;
-    key.auxPropId = 0;
-    key.unitId = 7;
-    key.fieldCompose = QStringLiteral("12|3|1|3057|0");
+    void typedBatch()
+    {
+        QFETCH(bool, shelfLife);
+        QFETCH(QString, typed);
+        QFETCH(QString, loaded);
+        QFETCH(QString, message);
 
-    BatchLine line = Line(1, QStringLiteral("B'01"))
-                         .figure(BatCol::YtdBegQty, 10)
-                         .figure(BatCol::YtdBegBal, 1234.5)
-                         .figure(BatCol::ReceiveQty, 2)
-                         .figure(BatCol::Debit, 20.123456789012)
-                         .figure(BatCol::SendQty, 4)
-                         .figure(BatCol::Credit, 40)
-                         .figure(BatCol::BegQty, 8)
-                         .figure(BatCol::BegBal, 1214.623456789)
-                         .figure(BatCol::BegDiff, 0.1)
-                         .figure(BatCol::BegSecQty, 0.5)
-                         .figure(BatCol::YtdBegSecQty, 0.25)
-                         .figure(BatCol::SendSecQty, 0.125)
-                         .figure(BatCol::ReceiveSecQty, 0.0625)
-                         .kf(QDate(2023, 12, 20));
-    line.billInterId = 5;
-    line.snListId = 77;
+        const std::optional<QString> refused = BatchValidation::checkTypedBatch(
+            item(true, shelfLife), typed, loaded, {QStringLiteral("B2"), QStringLiteral("B3")});
+        QCOMPARE(refused.value_or(QString()), message);
+    }
 
-    const QString indent(26, QLatin1Char(' '));
-    const QString expected =
-        QStringLiteral(" Delete from ICInvInitial  Where FStockID=12 And        FSPID=3 And        FPeriod=1 And        "
-                       "FItemID=3057 and        FAuxPropID=0")
-        + CRLF + QStringLiteral(" Delete from ICInvInitial where FFieldCompose='12|3|1|3057|0'") + CRLF
-        + QStringLiteral(" Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo,") + CRLF
-        + indent + QStringLiteral("FYtdAuxBegQty,FYtdBegBal,FYtdBegDiff,") + CRLF + indent
-        + QStringLiteral("FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff,") + CRLF + indent
-        + QStringLiteral("FYtdAuxSend,FYtdCredit,FYtdSendDiff,") + CRLF + indent
-        + QStringLiteral("FAuxBegQty,FBegBal,FBegDiff,FBillInterID,") + CRLF + indent
-        + QStringLiteral("FKFDate,FKFPeriod,") + CRLF + indent
-        + QStringLiteral("FAuxUnitBegQty,FYtdAuxUnitBegQty,FYtdAuxUnitSend,") + CRLF + indent
-        + QStringLiteral("FYtdAuxUnitReceive,FStockInDate,FSecUnitID,FAuxPropID,FSecCoefficient,FSNListID,FFieldCompose)")
-        + QStringLiteral(" Values('0',1,12,3,3057,7,'B''01',10,1234.5,0,2,20.123456789,0,4,40,0,8,1214.623456789,0.1,5,"
-                         "'2023-12-20',180,0.5,0.25,0.125,0.0625,'2024-01-01',0,0,0,77,'12|3|1|3057|0')");
-    QCOMPARE(BatchScript::build(key, {line}, {}), expected);
-}
+    void saveCheck_data()
+    {
+        QTest::addColumn<ItemInfo>("item");
+        QTest::addColumn<bool>("allocate");
+        QTest::addColumn<ApportionState>("apportion");
+        QTest::addColumn<Lines>("lines");
+        QTest::addColumn<int>("row"); // of the refusal
+        QTest::addColumn<int>("col");
+        QTest::addColumn<QString>("message"); // empty: the lines pass
 
-void TestBatchRules::scriptWithoutLinesOnlyDeletes()
-{
-    BatchScriptKey key;
-    key.stockId = 5;
-    key.spId = 0;
-    key.period = 3;
-    key.itemId = 41;
-    key.auxPropId = 9;
-    const QString expected =
-        QStringLiteral(" Delete from ICInvInitial  Where FStockID=5 And        FSPID=0 And        FPeriod=3 And        "
-                       "FItemID=41 and        FAuxPropID=9")
-        + CRLF + QStringLiteral("Delete ICSerial Where FSNListID In (77,81)") + CRLF
-        + QStringLiteral("Delete ICSerialFlow Where FSNListID In (77,81)") + CRLF
-        + QStringLiteral("Delete ICSerial_F1 Where FSNListID In (77,81)");
-    QCOMPARE(BatchScript::build(key, {}, {77, 81}), expected);
+        const auto add = [](const char *name, const ItemInfo &it, const Lines &lines, int row = -1, int col = -1,
+                            const QString &message = {}, bool allocate = false, ApportionState state = {}) {
+            QTest::newRow(name) << it << allocate << state << lines << row << col << message;
+        };
+        const ItemInfo both = item(true, true);
+        const QDate stockIn(2024, 1, 1);
+        const QString after = QStringLiteral("该物料实行保质期管理，生产日期不能大于入库日期！");
+        add("production on the stock-in day", both, {Line(4).kf(stockIn)});
+        add("production the day before", both, {Line(4).kf(stockIn.addDays(-1))});
+        add("production one day later", both, {Line(4).kf(stockIn.addDays(1))}, 4, BatCol::KFDate, after);
+        add("production a year later, earlier month", both, {Line(4).kf(QDate(2024, 1, 1)).stockIn(QDate(2023, 12, 31))},
+            4, BatCol::KFDate, after);
+        add("no production date", both, {Line(4).kf(QDate())}, 4, BatCol::KFDate,
+            QStringLiteral("该物料实行保质期管理，生产日期不能为空，请输入生产日期！"));
+        add("no shelf life", both, {Line(4).noShelfLife()}, 4, BatCol::KFPeriod,
+            QStringLiteral("该物料实行保质期管理，保质期(天)不能为空，请输入保质期(天)！"));
 
-    key.fieldCompose = QStringLiteral("it's");
-    QVERIFY(BatchScript::build(key, {}, {}).endsWith(QStringLiteral(" where FFieldCompose='it''s'")));
-}
+        // A repeat of line 1 after a line in between: the refusal points at the later one.
+        const QDate first(2023, 12, 1);
+        const QDate other(2023, 11, 1);
+        const auto repeat = [&](const char *name, bool batch, bool shelfLife, const char *batchNo, const QDate &date,
+                                int col = -1, const QString &message = {}) {
+            add(name, item(batch, shelfLife),
+                {Line(1, QStringLiteral("B1")).kf(first), Line(2, QStringLiteral("B7")).kf(QDate(2022, 1, 1)),
+                 Line(3, QLatin1String(batchNo)).kf(date)},
+                message.isEmpty() ? -1 : 3, col, message);
+        };
+        repeat("both, same batch other date", true, true, "B1", other);
+        repeat("both, other batch same date", true, true, "B2", first);
+        repeat("both, same batch and date", true, true, "B1", first, BatCol::BatchNo,
+               QStringLiteral("批次+生产/采购日期不能重复!"));
+        repeat("batch only, same batch", true, false, "B1", other, BatCol::BatchNo, QStringLiteral("批次不能重复!"));
+        repeat("batch only, other batch", true, false, "B2", first);
+        repeat("shelf life only, same date", false, true, "B2", first, BatCol::KFDate,
+               QStringLiteral("生产/采购日期不能重复!"));
+        repeat("shelf life only, other date", false, true, "B1", other);
 
-void TestBatchRules::itemFromKey()
-{
-    Dictionary key;
-    key.Add(QStringLiteral("ID"), 3057);
-    key.Add(QStringLiteral("ShortNum"), QStringLiteral("LZB"));
-    key.Add(QStringLiteral("Num"), QStringLiteral("01.002"));
-    key.Add(QStringLiteral("Name"), QStringLiteral("冷轧板"));
-    key.Add(QStringLiteral("Model"), QStringLiteral("1.0mm"));
-    key.Add(QStringLiteral("FBM"), QStringLiteral("True"));
-    key.Add(QStringLiteral("FKF"), 0);
-    key.Add(QStringLiteral("Track"), 81);
-    key.Add(QStringLiteral("PlanPrice"), 12.5);
-    key.Add(QStringLiteral("UnitID"), 7);
-    key.Add(QStringLiteral("QtyDecimal"), 3);
-    key.Add(QStringLiteral("PriceDecimal"), 4);
-    key.Add(QStringLiteral("KFPeriod"), 180);
-    key.Add(QStringLiteral("SecUnitID"), 8);
-    key.Add(QStringLiteral("SecCoefficient"), 2.5);
-    key.Add(QStringLiteral("AuxPropID"), 11);
+        // Unchanged lines are not checked, but the repeat test looks at every line.
+        add("unchanged line", item(true, false), {Line(1, QString()).unchanged()});
+        add("unchanged repeat", item(true, false), {Line(1).unchanged(), Line(2).unchanged()}, 2, BatCol::BatchNo,
+            QStringLiteral("批次不能重复!"));
+        add("empty line, on its fourth group", item(true, false), {Line(3).empty()}, 3, BatCol::BegQty,
+            QStringLiteral("录入的数据[数量=0，金额=0]！\r\n没有实际意义，数据非法！请重新录入！"));
 
-    const ItemInfo it = ItemInfo::fromItemKey(key);
-    QCOMPARE(it.id, 3057);
-    QCOMPARE(it.shortNumber, QStringLiteral("LZB"));
-    QCOMPARE(it.number, QStringLiteral("01.002"));
-    QVERIFY(it.batchManaged);
-    QVERIFY(!it.shelfLifeManaged);
-    QVERIFY(it.plannedCost());
-    QCOMPARE(it.planPrice, 12.5);
-    QCOMPARE(it.unitId, 7);
-    QCOMPARE(it.qtyDecimal, 3);
-    QCOMPARE(it.priceDecimal, 4);
-    QCOMPARE(it.kfPeriod, 180);
-    QCOMPARE(it.secUnitId, 8);
-    QCOMPARE(it.secCoefficient, 2.5);
-    QCOMPARE(it.auxPropId, 11);
-    QCOMPARE(it.title(), QStringLiteral("冷轧板/1.0mm"));
+        // Received: no quantity but an amount, refused only where amounts are apportioned.
+        const Lines valueOnly{Line(2).figure(BatCol::Debit, 10)};
+        add("value without quantity, apportioned", item(true, false, 76), valueOnly, 2, BatCol::ReceiveQty,
+            QStringLiteral("分摊的数据[数量=0，金额<>0]！\r\n单价将不一致，数据非法！请重新录入！"), true);
+        add("value without quantity, not apportioned", item(true, false, 76), valueOnly);
+        add("value without quantity, FIFO", item(true, false, 78), valueOnly, -1, -1, {}, true);
 
-    key.setItem(QStringLiteral("Model"), QStringLiteral(" "));
-    QCOMPARE(ItemInfo::fromItemKey(key).title(), QStringLiteral("冷轧板"));
-}
+        // An empty batch number would be refused too; the missing apportioning comes first.
+        const ItemInfo average = item(true, false, 76);
+        const Lines noBatch{Line(1, QString())};
+        add("not apportioned", average, noBatch, -1, -1,
+            QStringLiteral("加权平均法、移动平均法的物料\r\n采用批次管理时，金额需要分摊来确定单价！\r\n"
+                           "系统检测到金额未分摊，请先分摊金额！"),
+            true, {true, false, true});
+        // Apportioned, unchanged or not offered: the line check speaks.
+        const QString batchRequired = QStringLiteral("该物料实行批次管理，批号不能为空，请输入批号！");
+        add("apportioned", average, noBatch, 1, BatCol::BatchNo, batchRequired, true, {true, true, true});
+        add("not apportioned, unchanged", average, noBatch, 1, BatCol::BatchNo, batchRequired, true, {true, false, false});
+        add("apportioning not offered", average, noBatch, 1, BatCol::BatchNo, batchRequired, true, {false, false, true});
+    }
 
-void TestBatchRules::modeCaption_data()
-{
-    QTest::addColumn<bool>("batch");
-    QTest::addColumn<int>("track");
-    QTest::addColumn<bool>("quantitiesOnly");
-    QTest::addColumn<QString>("caption");
+    void saveCheck()
+    {
+        QFETCH(ItemInfo, item);
+        QFETCH(bool, allocate);
+        QFETCH(ApportionState, apportion);
+        QFETCH(Lines, lines);
+        QFETCH(int, row);
+        QFETCH(int, col);
+        QFETCH(QString, message);
 
-    QTest::newRow("batch, amounts") << true << 78 << false << "批号/数量/金额";
-    QTest::newRow("batch, quantities") << true << 78 << true << "批号/数量";
-    QTest::newRow("batch, planned cost") << true << 81 << false << "批号/数量/金额/材料成本差异";
-    QTest::newRow("batch, planned cost, quantities") << true << 81 << true << "批号/数量";
-    QTest::newRow("shelf life, amounts") << false << 81 << false << "数量/金额";
-    QTest::newRow("shelf life, quantities") << false << 76 << true << "数量";
-}
+        const std::optional<BatchRefusal> refused =
+            BatchValidation::checkBeforeSave(item, amountRules(allocate), apportion, lines);
+        QCOMPARE(refused.has_value(), !message.isEmpty());
+        if (refused) {
+            QCOMPARE(refused->message, message);
+            QCOMPARE(refused->row, row);
+            QCOMPARE(refused->col, col);
+        }
+    }
 
-void TestBatchRules::modeCaption()
-{
-    QFETCH(bool, batch);
-    QFETCH(int, track);
-    QFETCH(bool, quantitiesOnly);
-    QFETCH(QString, caption);
-    QCOMPARE(batchModeCaption(item(batch, !batch, track), quantitiesOnly), caption);
-}
+    // While typing, one group is judged alone: an empty one is no refusal, a value without quantity is.
+    void checkGroupJudgesOneGroup()
+    {
+        const ItemInfo average = item(true, false, 76);
+        QVERIFY(BatchValidation::checkGroup(Line(3).empty(), BatchGroups[0], average, amountRules()).valid);
+        QVERIFY(!BatchValidation::checkGroup(Line(2).figure(BatCol::Debit, 10), BatchGroups[1], average, amountRules(true))
+                     .valid);
+    }
+
+
+    void scriptForOneLine()
+    {
+        BatchScriptKey key;
+        key.stockId = 12;
+        key.spId = 3;
+        key.period = 1;
+        key.itemId = 3057;
+        key.auxPropId = 0;
+        key.unitId = 7;
+        key.fieldCompose = QStringLiteral("12|3|1|3057|0");
+
+        BatchLine line = Line(1, QStringLiteral("B'01"))
+                             .figure(BatCol::YtdBegQty, 10)
+                             .figure(BatCol::YtdBegBal, 1234.5)
+                             .figure(BatCol::ReceiveQty, 2)
+                             .figure(BatCol::Debit, 20.123456789012)
+                             .figure(BatCol::SendQty, 4)
+                             .figure(BatCol::Credit, 40)
+                             .figure(BatCol::BegQty, 8)
+                             .figure(BatCol::BegBal, 1214.623456789)
+                             .figure(BatCol::BegDiff, 0.1)
+                             .figure(BatCol::BegSecQty, 0.5)
+                             .figure(BatCol::YtdBegSecQty, 0.25)
+                             .figure(BatCol::SendSecQty, 0.125)
+                             .figure(BatCol::ReceiveSecQty, 0.0625)
+                             .kf(QDate(2023, 12, 20));
+        line.billInterId = 5;
+        line.snListId = 77;
+
+        const QString indent(26, QLatin1Char(' '));
+        const QString expected =
+            QStringLiteral(" Delete from ICInvInitial  Where FStockID=12 And        FSPID=3 And        FPeriod=1 And        "
+                           "FItemID=3057 and        FAuxPropID=0")
+            + CRLF + QStringLiteral(" Delete from ICInvInitial where FFieldCompose='12|3|1|3057|0'") + CRLF
+            + QStringLiteral(" Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo,") + CRLF
+            + indent + QStringLiteral("FYtdAuxBegQty,FYtdBegBal,FYtdBegDiff,") + CRLF + indent
+            + QStringLiteral("FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff,") + CRLF + indent
+            + QStringLiteral("FYtdAuxSend,FYtdCredit,FYtdSendDiff,") + CRLF + indent
+            + QStringLiteral("FAuxBegQty,FBegBal,FBegDiff,FBillInterID,") + CRLF + indent
+            + QStringLiteral("FKFDate,FKFPeriod,") + CRLF + indent
+            + QStringLiteral("FAuxUnitBegQty,FYtdAuxUnitBegQty,FYtdAuxUnitSend,") + CRLF + indent
+            + QStringLiteral("FYtdAuxUnitReceive,FStockInDate,FSecUnitID,FAuxPropID,FSecCoefficient,FSNListID,FFieldCompose)")
+            + QStringLiteral(" Values('0',1,12,3,3057,7,'B''01',10,1234.5,0,2,20.123456789,0,4,40,0,8,1214.623456789,0.1,5,"
+                             "'2023-12-20',180,0.5,0.25,0.125,0.0625,'2024-01-01',0,0,0,77,'12|3|1|3057|0')");
+        QCOMPARE(BatchScript::build(key, {line}, {}), expected);
+    }
+
+    void scriptWithoutLinesOnlyDeletes()
+    {
+        BatchScriptKey key;
+        key.stockId = 5;
+        key.spId = 0;
+        key.period = 3;
+        key.itemId = 41;
+        key.auxPropId = 9;
+        const QString expected =
+            QStringLiteral(" Delete from ICInvInitial  Where FStockID=5 And        FSPID=0 And        FPeriod=3 And        "
+                           "FItemID=41 and        FAuxPropID=9")
+            + CRLF + QStringLiteral("Delete ICSerial Where FSNListID In (77,81)") + CRLF
+            + QStringLiteral("Delete ICSerialFlow Where FSNListID In (77,81)") + CRLF
+            + QStringLiteral("Delete ICSerial_F1 Where FSNListID In (77,81)");
+        QCOMPARE(BatchScript::build(key, {}, {77, 81}), expected);
+
+        key.fieldCompose = QStringLiteral("it's");
+        QVERIFY(BatchScript::build(key, {}, {}).endsWith(QStringLiteral(" where FFieldCompose='it''s'")));
+    }
+
+
+    void itemFromKey()
+    {
+        Dictionary key;
+        const std::pair<const char *, QVariant> values[] = {
+            {"ID", 3057},     {"ShortNum", "LZB"},  {"Num", "01.002"},    {"Name", "冷轧板"},
+            {"Model", "1.0mm"}, {"FBM", "True"},    {"FKF", 0},           {"Track", 81},
+            {"PlanPrice", 12.5}, {"UnitID", 7},     {"QtyDecimal", 3},    {"PriceDecimal", 4},
+            {"KFPeriod", 180},  {"SecUnitID", 8},   {"SecCoefficient", 2.5}, {"AuxPropID", 11}};
+        for (const auto &[name, value] : values)
+            key.Add(QLatin1String(name), value);
+        const ItemInfo it = ItemInfo::fromItemKey(key);
+        QCOMPARE(it.id, 3057);
+        QCOMPARE(it.shortNumber, QStringLiteral("LZB"));
+        QCOMPARE(it.number, QStringLiteral("01.002"));
+        QVERIFY(it.batchManaged);
+        QVERIFY(!it.shelfLifeManaged);
+        QVERIFY(it.plannedCost());
+        QCOMPARE(it.planPrice, 12.5);
+        QCOMPARE(it.unitId, 7);
+        QCOMPARE(it.qtyDecimal, 3);
+        QCOMPARE(it.priceDecimal, 4);
+        QCOMPARE(it.kfPeriod, 180);
+        QCOMPARE(it.secUnitId, 8);
+        QCOMPARE(it.secCoefficient, 2.5);
+        QCOMPARE(it.auxPropId, 11);
+        QCOMPARE(it.title(), QStringLiteral("冷轧板/1.0mm"));
+
+        key.setItem(QStringLiteral("Model"), QStringLiteral(" "));
+        QCOMPARE(ItemInfo::fromItemKey(key).title(), QStringLiteral("冷轧板"));
+    }
+
+    void modeCaption_data()
+    {
+        QTest::addColumn<bool>("batch");
+        QTest::addColumn<int>("track");
+        QTest::addColumn<bool>("quantitiesOnly");
+        QTest::addColumn<QString>("caption");
+
+        QTest::newRow("batch, amounts") << true << 78 << false << "批号/数量/金额";
+        QTest::newRow("batch, quantities") << true << 78 << true << "批号/数量";
+        QTest::newRow("batch, planned cost") << true << 81 << false << "批号/数量/金额/材料成本差异";
+        QTest::newRow("batch, planned cost, quantities") << true << 81 << true << "批号/数量";
+        QTest::newRow("shelf life, amounts") << false << 81 << false << "数量/金额";
+        QTest::newRow("shelf life, quantities") << false << 76 << true << "数量";
+    }
+
+    void modeCaption()
+    {
+        QFETCH(bool, batch);
+        QFETCH(int, track);
+        QFETCH(bool, quantitiesOnly);
+        QFETCH(QString, caption);
+        QCOMPARE(batchModeCaption(item(batch, !batch, track), quantitiesOnly), caption);
+    }
+};
+
+QTEST_MAIN(TestBatchRules)
+#include "tst_batchrules.moc"

@@ -92,6 +92,9 @@ private slots:
         ParseProps(QStringLiteral("Other=x"));
         QCOMPARE(LoginContext::instance().props()->Count(), 1);
         QVERIFY_THROWS_EXCEPTION(LumoError, GetUserName());
+        // The user ID must fit sixteen bits.
+        ParseProps(QStringLiteral("UserName=A;UserID=70000"));
+        QVERIFY_THROWS_EXCEPTION(LumoError, GetUserID());
     }
 
     void duplicateKeyFailsAtItsSecondOccurrence()
@@ -107,12 +110,6 @@ private slots:
         QVERIFY(!LoginContext::instance().props()->Exists(QStringLiteral("UserID")));
     }
 
-    void userIdMustFitSixteenBits()
-    {
-        ParseProps(QStringLiteral("UserName=A;UserID=70000"));
-        QVERIFY_THROWS_EXCEPTION(LumoError, GetUserID());
-    }
-
     void languageShortCutIgnoresThePropertyString()
     {
         FakeWorld::instance().propsString = QStringLiteral("UserName=A;LANGUAGE=eng;Region=north");
@@ -122,14 +119,6 @@ private slots:
         QCOMPARE(GetLanguage(QStringLiteral("region")), QStringLiteral("north"));
         QCOMPARE(GetLanguage(QStringLiteral("missing")), QString());
         QCOMPARE(ensureLanguage(), QStringLiteral("chs"));
-    }
-
-    void propsStringIsFetchedEveryTime()
-    {
-        FakeWorld::instance().propsString = QStringLiteral("UserName=A;");
-        QCOMPARE(GetPropsString(), QStringLiteral("UserName=A;"));
-        FakeWorld::instance().propsString = QStringLiteral("UserName=B;");
-        QCOMPARE(GetPropsString(), QStringLiteral("UserName=B;"));
     }
 
     void resourceTextsPassUnchanged()

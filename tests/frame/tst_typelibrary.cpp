@@ -99,7 +99,7 @@ private slots:
         QCOMPARE(structClass->members.last().id, 0x4003001Fu);
     }
 
-    void dispatchByMemberIdReachesTheField()
+    void dispatchByMemberIdOnTheStructAndTheControl()
     {
         ICInitStruct record;
         Dispatch::invoke(&record, 0x40030005u, {QStringLiteral("B-01")}); // BatchNo
@@ -111,10 +111,7 @@ private slots:
         record.Period = 1;
         record.ItemID = 3057;
         QCOMPARE(record.composedKey(), QStringLiteral("12|3|1|3057|0"));
-    }
 
-    void dispatchByMemberIdOnTheControl()
-    {
         const std::unique_ptr<QObject> control = CreateObject(QStringLiteral("LumoICInitialCtl.ICInitCtl"));
         Dispatch::invoke(control.get(), 0x4003001Fu, {250});
         QCOMPARE(Dispatch::invoke(control.get(), QStringLiteral("mlngPerPageSize")).toInt(), 250);
