@@ -86,7 +86,6 @@ private slots:
         QCOMPARE(m_prompter.pendingAnswers(), 0);
     }
 
-
     void opensWithLinesAndTotals()
     {
         FakeWorld &world = FakeWorld::instance();
@@ -362,7 +361,6 @@ private slots:
         QCOMPARE(FakeWorld::instance().detailCalls.size(), 2); // opened again by ShowDialog
     }
 
-
 private:
     // A dialog opened for item 3057 in warehouse 12, stock place 3, with the records queued in
     // the fake data service.
@@ -394,7 +392,6 @@ private:
         dialog->prepare();
         return dialog;
     }
-
 
     ScriptedPrompter m_prompter;
     std::unique_ptr<Dictionary> m_itemKey;

@@ -163,7 +163,6 @@ private slots:
         QCOMPARE(*hundred[2], 50.0);
     }
 
-
     void lineBalance_data()
     {
         QTest::addColumn<QList<double>>("figures"); // columns 2 to 17
@@ -201,7 +200,6 @@ private slots:
             line.setFigure(BatCol::FirstFigure + i, figures[i]);
         QCOMPARE(LineBalance::unbalanced(line), unbalanced);
     }
-
 
     void typedBatch_data()
     {
@@ -337,7 +335,6 @@ private slots:
                      .valid);
     }
 
-
     void scriptForOneLine()
     {
         BatchScriptKey key;
@@ -404,7 +401,6 @@ private slots:
         key.fieldCompose = QStringLiteral("it's");
         QVERIFY(BatchScript::build(key, {}, {}).endsWith(QStringLiteral(" where FFieldCompose='it''s'")));
     }
-
 
     void itemFromKey()
     {

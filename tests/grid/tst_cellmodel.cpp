@@ -46,7 +46,6 @@ private slots:
         m_cells.reset();
     }
 
-
     void headersComeFromRowAndColumnZero()
     {
         CellModel &cells = *m_cells;
@@ -563,7 +562,6 @@ private slots:
         QVERIFY(last.isValid());
         QCOMPARE(last, cells.cellIndex(2, 4));
     }
-
 
 private:
     std::unique_ptr<CellModel> m_cells;

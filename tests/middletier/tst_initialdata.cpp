@@ -127,15 +127,6 @@ Page fetchPage(const ScratchAccountSet &scratch, int pageSize, int pageIndex, co
 
 } // namespace
 
-
-
-
-
-
-
-
-
-
 namespace {
 
 // An item row as the entry grid inserts it: year start = opening = qty, amount 10 a unit.

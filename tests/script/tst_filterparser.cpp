@@ -39,7 +39,7 @@ class FilterParserTest : public QObject
     Q_OBJECT
 
 private:
-    QList<int> select(const QString &filter, const QString &sort) const
+    QList<int> select(const QString &filter, const QString &sort = {}) const
     {
         const FilterParser parser(itemFields());
         const script::BoundSql where = parser.where(filter);
@@ -56,7 +56,6 @@ private:
             ids.append(query.value(0).toInt());
         return ids;
     }
-
 
     std::unique_ptr<TestDatabase> m_db;
 

@@ -108,7 +108,6 @@ private:
         return all + m_db->rows(u"SELECT * FROM t_SystemProfile ORDER BY FKey"_s);
     }
 
-
     std::unique_ptr<TestDatabase> m_db;
 
 private slots:
