@@ -3,6 +3,7 @@
 // questions. Every case checks what reached the database beside what the widgets show.
 
 #include "demo/democompany.h"
+#include "entrydbfixture.h"
 #include "privatesettings.h"
 #include "scratchaccountset.h"
 #include "servicecalls.h"
@@ -16,11 +17,14 @@
 #include "sheet/navtree.h"
 
 #include "frame/barlist.h"
+#include "frame/librarystate.h"
 #include "frame/logincontext.h"
 #include "frame/prompter.h"
+#include "frame/settingsstore.h"
 #include "frame/statuspanels.h"
 
 #include "frame/automation/componentregistry.h"
+#include "frame/automation/dictionary.h"
 #include "frame/automation/progids.h"
 
 #include "services/lumomicinitialdata.h"
@@ -31,6 +35,7 @@
 
 #include <QApplication>
 #include <QDate>
+#include <QLocale>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QStandardPaths>
@@ -89,6 +94,27 @@ public:
         return ScriptedPrompter::ask(message);
     }
 };
+
+constexpr int TotalsMark = -100;
+
+// A figure as the grid shows it: thousands separated, the given decimal places.
+QString shown(double value, int decimals)
+{
+    QLocale c(QLocale::C);
+    c.setNumberOptions(QLocale::DefaultNumberOptions);
+    return c.toString(value, 'f', decimals);
+}
+
+// Rows whose item id column holds the totals mark.
+QList<int> totalsRows(const SpreadGrid &grid)
+{
+    QList<int> rows;
+    for (int row = 1; row < grid.rows(); ++row) {
+        if (grid.TextMatrix(row, EntryCol::ItemID) == QString::number(TotalsMark))
+            rows.append(row);
+    }
+    return rows;
+}
 
 using Edit = std::pair<int, double>;
 using Edits = QList<Edit>;
@@ -639,6 +665,94 @@ private slots:
         QVERIFY(sheet().isTotalsRow(totals));
         QCOMPARE(grid().number(totals, EntryCol::BegQty), total);
         QCOMPARE(CountingInitialData::scripts.size(), 1);
+    }
+
+    // The grand total is shown on the last page only and sums the whole place, in the records'
+    // quantity precision; the Sum command goes there, and a save there fetches the sums again.
+    void grandTotalSumsTheWholePlace()
+    {
+        // Two more rows make shelf B's ten rows five pages of two.
+        for (const auto &[item, unit] : {std::pair{EntryDb::CopperWire, 7}, {MotorHousing, 1}})
+            exec(QStringLiteral("INSERT INTO ICInvInitial (FBrNo, FPeriod, FStockID, FSPID, FItemID, FUnitID, "
+                                "FBatchNo, FAuxPropID, FYtdAuxBegQty, FYtdBegBal, FAuxBegQty, FBegBal, FStockInDate, "
+                                "FKFDate, FFieldCompose, FBillInterID) VALUES ('0', 4, 1, 2, ?, ?, '', 0, 1001, "
+                                "12345.67, 1001, 12345.67, '2024-04-01', '', ?, 0)"),
+                 {item, unit, QStringLiteral("1|2|4|%1|0").arg(item)});
+        // One item counts in thousandths while the account set keeps two places.
+        exec(QStringLiteral("UPDATE t_ICItem SET FQtyDecimal=3 WHERE FItemID=?"), {EntryDb::CopperWire});
+        m_control->setMlngPerPageSize(2);
+        clickNode(RawMaterials, 2);
+        QCOMPARE(m_control->pageLabel(), QStringLiteral("1/5"));
+        m_control->PageCommand(QStringLiteral("NEXTPAGE"));
+        QCOMPARE(m_control->pageLabel(), QStringLiteral("2/5"));
+        QCOMPARE(totalsRows(grid()), QList<int>());
+
+        QVERIFY(m_control->barList()->Click(QStringLiteral("mcESum")));
+        QCOMPARE(m_control->pageLabel(), QStringLiteral("5/5"));
+        const int row = grid().rows() - 1;
+        QCOMPARE(totalsRows(grid()), QList<int>{row});
+        QCOMPARE(grid().row(), row);
+        QCOMPARE(grid().col(), int(EntryCol::Number));
+        QCOMPARE(grid().TextMatrix(row, EntryCol::Number), QStringLiteral("总计"));
+        const QVector<double> sums = EntryDb::sumsOfPlace(*m_set, 2);
+        const QList<int> columns = EntryDb::figureColumns();
+        // The whole place, not the two rows on the page.
+        QVERIFY(sums.at(columns.indexOf(EntryCol::BegQty)) > grid().number(1, EntryCol::BegQty) * 2);
+        for (int i = 0; i < columns.size(); ++i) {
+            const int col = columns.at(i);
+            const bool quantity = col == EntryCol::YtdBegQty || col == EntryCol::ReceiveQty
+                                  || col == EntryCol::SendQty || col == EntryCol::BegQty;
+            QCOMPARE(grid().number(row, col), sums.at(i));
+            QCOMPARE(grid().TextMatrix(row, col), shown(sums.at(i), quantity ? 3 : 2));
+            QCOMPARE(grid().cellBackColor(row, col), SettingsStore::colorValue(Setting::SumColor));
+        }
+        // The secondary quantities are not summed.
+        QCOMPARE(grid().TextMatrix(row, EntryCol::BegAuxQty), QString());
+
+        // A row deleted and saved on the last page leaves the place's sums at once.
+        QVERIFY(grid().select(1, EntryCol::Number));
+        QVERIFY(m_control->DeleteCurrentRow());
+        QVERIFY(m_control->SaveData());
+        const QVector<double> after = EntryDb::sumsOfPlace(*m_set, 2);
+        QVERIFY(after != sums);
+        QCOMPARE(m_control->pageLabel(), QStringLiteral("5/5"));
+        QCOMPARE(totalsRows(grid()), QList<int>{grid().rows() - 1});
+        for (int i = 0; i < columns.size(); ++i)
+            QCOMPARE(grid().number(grid().rows() - 1, columns.at(i)), after.at(i));
+    }
+
+    void onePageSumsTheGridWithEmptyCellsAsZero()
+    {
+        clickNode(RawMaterials, 2);
+        QCOMPARE(m_control->pageLabel(), QStringLiteral("1/1"));
+        const int screw = EntryDb::itemRow(*m_control, EntryDb::Screw);
+        QCOMPARE(grid().number(screw, EntryCol::BegDiff), 150.0);
+        // The user empties the screws' opening difference; Sum adds up the grid again.
+        QVERIFY(grid().editCell(screw, EntryCol::BegDiff, QString()));
+        QVERIFY(m_control->showTotals());
+        const int row = grid().rows() - 1;
+        QCOMPARE(totalsRows(grid()), QList<int>{row});
+        QVector<double> expected = EntryDb::sumsOfPlace(*m_set, 2);
+        const QList<int> columns = EntryDb::figureColumns();
+        expected[columns.indexOf(EntryCol::BegDiff)] -= 150;
+        for (int i = 0; i < columns.size(); ++i)
+            QCOMPARE(grid().number(row, columns.at(i)), expected.at(i));
+    }
+
+    void filterSelectingNothingGivesZeros()
+    {
+        LibraryState::instance().filters()->setItem(FilterKey::Filter, QStringLiteral("FNumber = 'no such item'"));
+        clickNode(RawMaterials, ShelfA);
+        QCOMPARE(m_control->pageLabel(), QStringLiteral("0/0"));
+        QCOMPARE(grid().rows(), 2);
+        QCOMPARE(totalsRows(grid()), QList<int>{1});
+        for (int col : EntryDb::figureColumns())
+            QCOMPARE(grid().TextMatrix(1, col), QStringLiteral("0.00"));
+        // Without the filter the same place has rows again.
+        LibraryState::instance().filters()->setItem(FilterKey::Filter, QString());
+        clickNode(RawMaterials, 2);
+        clickNode(RawMaterials, ShelfA);
+        QCOMPARE(m_control->pageLabel(), QStringLiteral("1/1"));
     }
 
     void failedWriteKeepsTheGridAsTyped()
