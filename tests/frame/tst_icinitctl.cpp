@@ -169,23 +169,6 @@ private slots:
         QCOMPARE(control.tree()->nodeKeys(), QStringList{QStringLiteral("K0")});
     }
 
-    void nodeClickShowsEntryCommandsOnlyWhereRowsAreEntered()
-    {
-        ICInitCtl control;
-        FakeHostWindow host;
-        QVERIFY(control.Show(&host, false));
-        BarList *bars = control.barList();
-        // A warehouse with stock places takes its rows at the places.
-        for (const char *key : {"K12", "K12P3", "K0", "K5"}) {
-            control.tree()->clickNode(QLatin1String(key));
-            const bool entered = QByteArray(key) == "K12P3" || QByteArray(key) == "K5";
-            for (const char *command : {"mcFSave", "mcEAddNew", "AddNew", "SP2"})
-                QVERIFY2(bars->isVisible(QLatin1String(command)) == entered, command);
-        }
-        QVERIFY(!bars->isEnabled(QStringLiteral("Save"))); // nothing changed yet
-        QCOMPARE(control.currentNode(), 3);
-    }
-
     void queryUnloadIsCaseSensitive()
     {
         ICInitCtl control;
