@@ -520,25 +520,6 @@ private slots:
         QCOMPARE(grid().TextMatrix(row, EntryCol::FieldCompose), QStringLiteral("2|0|4|8|0"));
     }
 
-    void batchManagedUpdateLeavesItsFiguresAlone()
-    {
-        clickNode(RawMaterials, ShelfA);
-        const int row = rowOf(QStringLiteral("1.01.001"));
-        QCOMPARE(grid().TextMatrix(row, EntryCol::Mark), QStringLiteral("+"));
-        const QStringList before = balances();
-        grid().setValue(row, EntryCol::BegQty, 1.0);
-        grid().setValue(row, EntryCol::BegBal, 2.0);
-        QVERIFY(grid().editCell(row, EntryCol::StockInDate, QDate(2020, 1, 2)));
-        QCOMPARE(grid().TextMatrix(row, EntryCol::Flag), QStringLiteral("1"));
-        QVERIFY(m_control->SaveData());
-        QCOMPARE(CountingInitialData::scripts.size(), 1);
-        const QString script = CountingInitialData::scripts.first();
-        QVERIFY(script.contains(QStringLiteral("where FFieldCompose='1|1|4|1|0'")));
-        QVERIFY(!script.contains(QStringLiteral("FAuxBegQty=")));
-        // Both batch lines keep every figure, and nothing else changed either.
-        QCOMPARE(balances(), before);
-    }
-
     void deletedItemLosesItsSerialsAndBalances()
     {
         clickNode(FinishedTwo, ShelfC);
