@@ -47,7 +47,16 @@ QString demoDay(int month, int day)
     return QDate(QDate::currentDate().year(), month, day).toString(Qt::ISODate);
 }
 
+// What the dialog shows of an item: the column groups, whether apportioning is offered, the mode.
+struct Shown
+{
+    bool amounts, secondary, shelfLife, apportioning;
+    QString caption;
+};
+
 } // namespace
+
+Q_DECLARE_METATYPE(Shown)
 
 // The batch dialog on a temporary account set with the demo company: opened from the entry
 // control's item row as a user opens it, and judged by what reaches ICInvInitial.
@@ -160,16 +169,10 @@ private slots:
         QTest::addColumn<int>("auditChoice");
         QTest::addColumn<QString>("place");
         QTest::addColumn<int>("itemId");
-        QTest::addColumn<bool>("amounts");
-        QTest::addColumn<bool>("secondary");
-        QTest::addColumn<bool>("shelfLife");
-        QTest::addColumn<bool>("apportioning");
-        QTest::addColumn<QString>("caption");
-        QTest::newRow("quantities only") << 0 << ShelfA << SteelPlate << false << true << false << false << "批号/数量";
-        QTest::newRow("amounts, secondary unit") << 1 << ShelfA << SteelPlate << true << true << false << true
-                                                 << "批号/数量/金额";
-        QTest::newRow("amounts, shelf life") << 1 << ShelfB << EpoxyGlue << true << false << true << false
-                                             << "批号/数量/金额";
+        QTest::addColumn<Shown>("shown");
+        QTest::newRow("quantities only") << 0 << ShelfA << SteelPlate << Shown{false, true, false, false, "批号/数量"};
+        QTest::newRow("amounts, secondary unit") << 1 << ShelfA << SteelPlate << Shown{true, true, false, true, "批号/数量/金额"};
+        QTest::newRow("amounts, shelf life") << 1 << ShelfB << EpoxyGlue << Shown{true, false, true, false, "批号/数量/金额"};
     }
 
     void columnsFollowTheAccountingAndTheItem()
@@ -177,25 +180,21 @@ private slots:
         QFETCH(int, auditChoice);
         QFETCH(QString, place);
         QFETCH(int, itemId);
-        QFETCH(bool, amounts);
-        QFETCH(bool, secondary);
-        QFETCH(bool, shelfLife);
-        QFETCH(bool, apportioning);
-        QFETCH(QString, caption);
+        QFETCH(Shown, shown);
         setParameter(QStringLiteral("AuditChoice"), auditChoice);
         const auto dialog = openItem(place, itemId);
         QVERIFY(dialog);
         const SpreadGrid &grid = *dialog->grid();
-        const std::pair<QList<int>, bool> shown[] = {{{4, 5, 8, 9, 12, 13, 16, 17}, amounts}, {{3, 7, 11, 15}, secondary},
-                                                     {{KFDate, KFPeriod}, shelfLife}, {{1, 2, 6, 10, 14, 18}, true},
-                                                     {{19, 20, 21, 24}, false}};
-        for (const auto &[cols, visible] : shown) {
+        const std::pair<QList<int>, bool> columns[] = {
+            {{4, 5, 8, 9, 12, 13, 16, 17}, shown.amounts}, {{3, 7, 11, 15}, shown.secondary},
+            {{KFDate, KFPeriod}, shown.shelfLife},         {{1, 2, 6, 10, 14, 18}, true}, {{19, 20, 21, 24}, false}};
+        for (const auto &[cols, visible] : columns) {
             for (int col : cols)
                 QVERIFY2(grid.colHidden(col) != visible, qPrintable(QString::number(col)));
         }
-        QCOMPARE(dialog->findChild<QTabBar *>(QStringLiteral("sstBatMan"))->tabText(0), caption);
-        QCOMPARE(dialog->button(QStringLiteral("ShareBal"))->isEnabled(), apportioning);
-        // The demo lines came in on the period's first day; the totals row takes no figures.
+        QCOMPARE(dialog->findChild<QTabBar *>(QStringLiteral("sstBatMan"))->tabText(0), shown.caption);
+        QCOMPARE(dialog->button(QStringLiteral("ShareBal"))->isEnabled(), shown.apportioning);
+        // The demo lines came in on the period's first day; the totals row has the sum colour.
         QCOMPARE(grid.value(1, StockIn).toString(), demoDay(4, 1));
         QCOMPARE(grid.TextMatrix(3, BatchNo), QStringLiteral("合计"));
         QCOMPARE(grid.cellBackColor(3, BegQty), SettingsStore::colorValue(Setting::SumColor));

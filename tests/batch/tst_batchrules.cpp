@@ -378,8 +378,6 @@ private slots:
         QTest::addColumn<bool>("quantitiesOnly");
         QTest::addColumn<QString>("caption");
 
-        QTest::newRow("batch, amounts") << true << 78 << false << "批号/数量/金额";
-        QTest::newRow("batch, quantities") << true << 78 << true << "批号/数量";
         QTest::newRow("batch, planned cost") << true << 81 << false << "批号/数量/金额/材料成本差异";
         QTest::newRow("batch, planned cost, quantities") << true << 81 << true << "批号/数量";
         QTest::newRow("shelf life, amounts") << false << 81 << false << "数量/金额";
