@@ -3,13 +3,10 @@
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dictionary.h"
 #include "frame/automation/lumoerror.h"
+#include "frame/automation/progids.h"
 #include "frame/automation/recordset.h"
 
-#include "frame/automation/progids.h"
-
 namespace {
-
-const QString ScaleSqlHead = QStringLiteral("SELECT FScale FROM t_Currency");
 
 class FakeShareProps : public QObject
 {
@@ -48,7 +45,6 @@ public:
     Q_INVOKABLE QObject *FetchYtdInitialData(const QString &, int, int, int, int, int, const QString &,
                                              const QString &, const QString &, const QString &, bool)
     {
-        ++FakeWorld::instance().initialDataCalls;
         auto *page = new Dictionary;
         page->Add(QStringLiteral("Rows"), QVariant::fromValue<QObject *>(new Recordset({QStringLiteral("FItemID")})));
         page->Add(QStringLiteral("Totals"), QVariant::fromValue<QObject *>(new Recordset({QStringLiteral("FInitBegQty")})));
@@ -63,46 +59,17 @@ public:
         rs->appendRow({1, 1, QStringLiteral("PCS"), QStringLiteral("个")});
         return rs;
     }
-    Q_INVOKABLE QObject *FetchYtdBatManDetail(const QString &props, int period, int stockId, int spId, int itemId,
-                                              int auxPropId, int unitId, bool batchManaged, bool shelfLifeManaged,
-                                              const QString &fieldCompose)
-    {
-        FakeWorld &world = FakeWorld::instance();
-        world.detailCalls.append(
-            {props, period, stockId, spId, itemId, auxPropId, unitId, batchManaged, shelfLifeManaged, fieldCompose});
-        if (world.failDetail)
-            throw LumoError(LumoError::AppBase + 1, DetailFailure, QStringLiteral("FakeData"));
-        auto *rs = new Recordset(world.detailFields);
-        for (const QVariantList &row : world.detailRows)
-            rs->appendRow(QVector<QVariant>(row.begin(), row.end()));
-        return rs;
-    }
-    Q_INVOKABLE void UpdateINIData(const QString &props, const QString &script)
-    {
-        FakeWorld &world = FakeWorld::instance();
-        world.updateProps.append(props);
-        if (world.failUpdate)
-            throw LumoError(LumoError::AppBase + 2, UpdateFailure, QStringLiteral("FakeData"));
-        world.scripts.append(script);
-    }
 };
 
 class FakeConnection : public QObject
 {
     Q_OBJECT
 public:
-    // The amount scale, or else the two unit coefficients of the batch dialog.
-    Q_INVOKABLE QObject *Execute(const QString &sql)
+    // Only the amount scale is asked for: two decimals.
+    Q_INVOKABLE QObject *Execute(const QString &)
     {
-        FakeWorld &world = FakeWorld::instance();
-        world.executed.append(sql);
-        if (sql.startsWith(ScaleSqlHead)) {
-            auto *rs = new Recordset({QStringLiteral("FScale")});
-            rs->appendRow({world.scale});
-            return rs;
-        }
-        auto *rs = new Recordset({QStringLiteral("FUnit"), QStringLiteral("FSecUnit")});
-        rs->appendRow({world.unitCoefficient, world.secCoefficient});
+        auto *rs = new Recordset({QStringLiteral("FScale")});
+        rs->appendRow({2});
         return rs;
     }
 };
@@ -182,12 +149,6 @@ void FakeWorld::reset()
     *this = FakeWorld{};
     sysParams = {{QStringLiteral("CurrentPeriod"), 1}, {QStringLiteral("QtyDecimal"), 2},
                  {QStringLiteral("ICClosed"), 0}, {QStringLiteral("AuditChoice"), 1}};
-    // The batch detail fields in the order the data service delivers them.
-    detailFields = QStringLiteral("FQtyDecimal,FLock,FBatchNo,FBillInterID,FYtdAuxBegQty,FYtdAuxUnitBegQty,"
-                                  "FYtdBegBal,FYtdBegDiff,FYtdAuxReceive,FYtdAuxUnitReceive,FYtdDebit,"
-                                  "FYtdReceiveDiff,FYtdAuxSend,FYtdAuxUnitSend,FYtdCredit,FYtdSendDiff,FAuxBegQty,"
-                                  "FAuxUnitBegQty,FBegBal,FBegDiff,FSecUnitID,FStockInDate,FKFDate,FKFPeriod,"
-                                  "FSNListID").split(QLatin1Char(','));
 }
 
 void registerFakeServices()

@@ -4,7 +4,6 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
-#include <QVariant>
 #include <QVariantList>
 #include <QVariantMap>
 
@@ -22,22 +21,6 @@ struct FakeWorld
     QList<QVariantList> stocks; // FItemID, FParentID, FSPID, FName, FNumber, FShortNumber, FIsStockMgr, FTypeID
     int dataObjectsCreated = 0;
     QStringList stockTypeArguments;
-    int initialDataCalls = 0;
-    // FetchYtdBatManDetail: the arguments of every call and the records it answers.
-    QList<QVariantList> detailCalls;
-    QStringList detailFields;
-    QList<QVariantList> detailRows;
-    bool failDetail = false;
-    // UpdateINIData: the property strings and scripts received.
-    QStringList updateProps;
-    QStringList scripts;
-    bool failUpdate = false;
-
-    // "LumoConnection.AppConnection": the statements Execute received and its answers.
-    QStringList executed;
-    int scale = 2;
-    double unitCoefficient = 1;
-    double secCoefficient = 0;
 
     // "LumoEBCGLView.GLData"
     QSet<QString> rights; // "type/id/right"
@@ -56,10 +39,6 @@ struct FakeWorld
     static FakeWorld &instance();
     void reset();
 };
-
-// The error texts the fakes raise.
-inline const QString DetailFailure = QStringLiteral("批次明细读取失败");
-inline const QString UpdateFailure = QStringLiteral("脚本执行失败");
 
 // Registers every fake under its ProgID.
 void registerFakeServices();
