@@ -54,9 +54,14 @@ struct Shown
     QString caption;
 };
 
+// How the dialog is left: the change made (0: none, 1: a valid rename, 2: a line without batch
+// number), by the window's close button or by "Exit", the answer given (-1: not asked) and the outcome.
+struct Closing { int change; bool byWindow; int answer; bool staysOpen; QStringList stored; };
+
 } // namespace
 
 Q_DECLARE_METATYPE(Shown)
+Q_DECLARE_METATYPE(Closing)
 
 // The batch dialog on a temporary account set with the demo company: opened from the entry
 // control's item row as a user opens it, and judged by what reaches ICInvInitial.
@@ -481,28 +486,20 @@ private slots:
 
     void closePrompt_data()
     {
-        QTest::addColumn<int>("change"); // 0: none, 1: a valid rename, 2: a line without batch number
-        QTest::addColumn<bool>("byWindow"); // the window's close button instead of "Exit"
-        QTest::addColumn<int>("answer");    // Prompter::Answer, -1: not asked
-        QTest::addColumn<bool>("staysOpen");
-        QTest::addColumn<QStringList>("stored");
-        const QStringList &demo = KitLines;
+        QTest::addColumn<Closing>("closing");
         const QStringList renamed{QStringLiteral("K002  30 3750 0"), QStringLiteral("K009  50 6000 0")};
         const int yes = int(Prompter::Answer::Yes);
         const int no = int(Prompter::Answer::No);
-        QTest::newRow("no change") << 0 << false << -1 << false << demo;
-        QTest::newRow("yes, check fails") << 2 << false << yes << true << demo;
-        QTest::newRow("yes, valid") << 1 << false << yes << false << renamed;
-        QTest::newRow("no, window") << 1 << true << no << false << demo;
+        QTest::newRow("no change") << Closing{0, false, -1, false, KitLines};
+        QTest::newRow("yes, check fails") << Closing{2, false, yes, true, KitLines};
+        QTest::newRow("yes, valid") << Closing{1, false, yes, false, renamed};
+        QTest::newRow("no, window") << Closing{1, true, no, false, KitLines};
     }
 
     void closePrompt()
     {
-        QFETCH(int, change);
-        QFETCH(bool, byWindow);
-        QFETCH(int, answer);
-        QFETCH(bool, staysOpen);
-        QFETCH(QStringList, stored);
+        QFETCH(Closing, closing);
+        const auto &[change, byWindow, answer, staysOpen, stored] = closing;
         const auto dialog = openItem(ShelfB, ComponentKit);
         QVERIFY(dialog);
         dialog->show();

@@ -295,46 +295,34 @@ private slots:
 
     void scriptForOneLine()
     {
-        BatchScriptKey key;
-        key.stockId = 12;
-        key.spId = 3;
-        key.period = 1;
-        key.itemId = 3057;
-        key.auxPropId = 0;
-        key.unitId = 7;
-        key.fieldCompose = QStringLiteral("12|3|1|3057|0");
-
-        BatchLine line = Line(1, QStringLiteral("B'01"))
-                             .figure(BatCol::YtdBegQty, 10)
-                             .figure(BatCol::YtdBegBal, 1234.5)
-                             .figure(BatCol::ReceiveQty, 2)
-                             .figure(BatCol::Debit, 20.123456789012)
-                             .figure(BatCol::SendQty, 4)
-                             .figure(BatCol::Credit, 40)
-                             .figure(BatCol::BegQty, 8)
-                             .figure(BatCol::BegBal, 1214.623456789)
-                             .figure(BatCol::BegDiff, 0.1)
-                             .figure(BatCol::BegSecQty, 0.5)
-                             .figure(BatCol::YtdBegSecQty, 0.25)
-                             .figure(BatCol::SendSecQty, 0.125)
-                             .figure(BatCol::ReceiveSecQty, 0.0625)
-                             .kf(QDate(2023, 12, 20));
+        const BatchScriptKey key{.stockId = 12, .spId = 3, .period = 1, .itemId = 3057, .unitId = 7,
+                                 .fieldCompose = QStringLiteral("12|3|1|3057|0"), .recordCounter = {}};
+        // Each figure apart, so that a value written into the wrong column shows.
+        Line typed(1, QStringLiteral("B'01"));
+        const std::pair<int, double> figures[] = {
+            {BatCol::YtdBegQty, 10},   {BatCol::YtdBegBal, 1234.5}, {BatCol::ReceiveQty, 2},     {BatCol::Debit, 20.123456789012},
+            {BatCol::SendQty, 4},      {BatCol::Credit, 40},        {BatCol::BegQty, 8},         {BatCol::BegBal, 1214.623456789},
+            {BatCol::BegDiff, 0.1},    {BatCol::BegSecQty, 0.5},    {BatCol::YtdBegSecQty, 0.25}, {BatCol::SendSecQty, 0.125},
+            {BatCol::ReceiveSecQty, 0.0625}};
+        for (const auto &[col, value] : figures)
+            typed.figure(col, value);
+        BatchLine line = typed.kf(QDate(2023, 12, 20));
         line.billInterId = 5;
         line.snListId = 77;
 
         const QString indent(26, QLatin1Char(' '));
         const QString expected =
-            QStringLiteral(" Delete from ICInvInitial  Where FStockID=12 And        FSPID=3 And        FPeriod=1 And        "
-                           "FItemID=3057 and        FAuxPropID=0")
-            + CRLF + QStringLiteral(" Delete from ICInvInitial where FFieldCompose='12|3|1|3057|0'") + CRLF
-            + QStringLiteral(" Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo,") + CRLF
-            + indent + QStringLiteral("FYtdAuxBegQty,FYtdBegBal,FYtdBegDiff,") + CRLF + indent
-            + QStringLiteral("FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff,") + CRLF + indent
-            + QStringLiteral("FYtdAuxSend,FYtdCredit,FYtdSendDiff,") + CRLF + indent
-            + QStringLiteral("FAuxBegQty,FBegBal,FBegDiff,FBillInterID,") + CRLF + indent
-            + QStringLiteral("FKFDate,FKFPeriod,") + CRLF + indent
-            + QStringLiteral("FAuxUnitBegQty,FYtdAuxUnitBegQty,FYtdAuxUnitSend,") + CRLF + indent
-            + QStringLiteral("FYtdAuxUnitReceive,FStockInDate,FSecUnitID,FAuxPropID,FSecCoefficient,FSNListID,FFieldCompose)")
+            QStringList{QStringLiteral(" Delete from ICInvInitial  Where FStockID=12 And        FSPID=3 And        FPeriod=1 And        "
+                                       "FItemID=3057 and        FAuxPropID=0"),
+                        QStringLiteral(" Delete from ICInvInitial where FFieldCompose='12|3|1|3057|0'"),
+                        QStringLiteral(" Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo,")}
+                .join(CRLF)
+            + CRLF + indent
+            + QStringList{QStringLiteral("FYtdAuxBegQty,FYtdBegBal,FYtdBegDiff,"), QStringLiteral("FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff,"),
+                          QStringLiteral("FYtdAuxSend,FYtdCredit,FYtdSendDiff,"), QStringLiteral("FAuxBegQty,FBegBal,FBegDiff,FBillInterID,"),
+                          QStringLiteral("FKFDate,FKFPeriod,"), QStringLiteral("FAuxUnitBegQty,FYtdAuxUnitBegQty,FYtdAuxUnitSend,"),
+                          QStringLiteral("FYtdAuxUnitReceive,FStockInDate,FSecUnitID,FAuxPropID,FSecCoefficient,FSNListID,FFieldCompose)")}
+                  .join(CRLF + indent)
             + QStringLiteral(" Values('0',1,12,3,3057,7,'B''01',10,1234.5,0,2,20.123456789,0,4,40,0,8,1214.623456789,0.1,5,"
                              "'2023-12-20',180,0.5,0.25,0.125,0.0625,'2024-01-01',0,0,0,77,'12|3|1|3057|0')");
         QCOMPARE(BatchScript::build(key, {line}, {}), expected);

@@ -110,14 +110,6 @@ private slots:
         QCOMPARE(m_prompter.messages().size(), 2);
     }
 
-    void commitTaskOfHandleZeroMakesNoCall()
-    {
-        QVERIFY(!CommitTask(0));
-        QCOMPARE(FakeWorld::instance().commitCalls, 0);
-        QVERIFY(CommitTask(7));
-        QCOMPARE(FakeWorld::instance().committed, QList<int>{7});
-    }
-
     void refusedTaskRaisesTheConflictError()
     {
         FakeWorld::instance().taskHandle = 0;
