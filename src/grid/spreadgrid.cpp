@@ -18,12 +18,21 @@ QString rgb(const QColor &color)
     return QStringLiteral("rgb(%1,%2,%3)").arg(color.red()).arg(color.green()).arg(color.blue());
 }
 
+// A figure typed on a cell that cannot be edited goes nowhere: the view's type-ahead search
+// would move the cursor to a row whose text starts with the first key and type the rest there.
+class GridView : public QTableView
+{
+public:
+    using QTableView::QTableView;
+    void keyboardSearch(const QString &) override {}
+};
+
 } // namespace
 
 SpreadGrid::SpreadGrid(QWidget *parent)
     : QWidget(parent)
     , m_cells(new CellModel(this))
-    , m_view(new QTableView(this))
+    , m_view(new GridView(this))
     , m_delegate(new CellDelegate(m_cells, this))
 {
     auto *layout = new QVBoxLayout(this);
