@@ -8,9 +8,7 @@
 #include "queries/itemrowfields.h"
 #include "frame/automation/progids.h"
 
-#include "frame/automation/componentregistry.h"
 #include "frame/automation/dictionary.h"
-#include "frame/automation/dispatch.h"
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
 
@@ -94,6 +92,15 @@ QStringList rowKeys(Recordset &rows)
     return keys;
 }
 
+// The named fields of the current record, for one comparison.
+QVariantList fields(Recordset &rs, std::initializer_list<const char *> names)
+{
+    QVariantList values;
+    for (const char *name : names)
+        values.append(rs.Fields(QLatin1String(name)));
+    return values;
+}
+
 // "1/0 2/1": item rows as rowKeys gives them.
 QStringList keys(const char *text)
 {
@@ -111,13 +118,12 @@ struct Page
     double total(const char *field) const { return totals->Fields(QLatin1String(field)).toDouble(); }
 };
 
-Page fetchPage(const ScratchAccountSet &scratch, int pageSize, int pageIndex, const QStringList &filters = {{}, {}, {}},
-               const QString &sort = {})
+Page fetchPage(const ScratchAccountSet &scratch, int pageSize, int pageIndex, const QStringList &filters = {},
+               const QString &sort = {}, int place = 0)
 {
     Page page;
-    page.result = dictionary(Data, Fetch,
-                             {scratch.propsString(), Stock, 0, Period, pageSize, pageIndex, filters.value(0),
-                              filters.value(1), filters.value(2), sort, false});
+    page.result = dictionary(Data, Fetch, {scratch.propsString(), Stock, place, Period, pageSize, pageIndex, filters.value(0),
+                                           filters.value(1), filters.value(2), sort, false});
     if (page.result) {
         page.rows = takeObject<Recordset>(page.result->Item(u"Rows"_s));
         page.totals = takeObject<Recordset>(page.result->Item(u"Totals"_s));
@@ -125,19 +131,14 @@ Page fetchPage(const ScratchAccountSet &scratch, int pageSize, int pageIndex, co
     return page;
 }
 
-} // namespace
-
-namespace {
-
 // An item row as the entry grid inserts it: year start = opening = qty, amount 10 a unit.
 QString itemRowInsert(int item, int aux, const QString &batch, double qty)
 {
-    return u"Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo, "
-                          "FYtdAuxBegQty,FYtdBegBal,FYtdBegDiff, FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff, "
-                          "FYtdAuxSend,FYtdCredit,FYtdSendDiff, FAuxBegQty,FBegBal,FBegDiff, FAuxUnitBegQty,"
-                          "FYtdAuxUnitBegQty,FYtdAuxUnitSend, FYtdAuxUnitReceive,FStockInDate,FSecUnitID,FAuxPropID,"
-                          "FSecCoefficient,FFieldCompose) Values('0',%1,%2,0,%3,1,'%4',%5,%6,0.1,0,0,0,0,0,0,%5,%6,0.1,"
-                          "0,0,0,0,'2024-04-01',0,%7,0,'%2|0|%1|%3|%7')"_s
+    return u"Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo, FYtdAuxBegQty,FYtdBegBal,"
+           "FYtdBegDiff, FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff, FYtdAuxSend,FYtdCredit,FYtdSendDiff, FAuxBegQty,FBegBal,"
+           "FBegDiff, FAuxUnitBegQty,FYtdAuxUnitBegQty,FYtdAuxUnitSend, FYtdAuxUnitReceive,FStockInDate,FSecUnitID,"
+           "FAuxPropID,FSecCoefficient,FFieldCompose) Values('0',%1,%2,0,%3,1,'%4',%5,%6,0.1,0,0,0,0,0,0,%5,%6,0.1,0,0,0,0,"
+           "'2024-04-01',0,%7,0,'%2|0|%1|%3|%7')"_s
         .arg(Period).arg(Stock).arg(item).arg(batch).arg(qty).arg(qty * 10).arg(aux);
 }
 
@@ -286,11 +287,8 @@ private slots:
         const auto rs = recordset(Data, u"FetchYtdItemDetail"_s, {scratch.propsString(), code});
         QVERIFY(rs);
         QCOMPARE(rs->RecordCount(), int(found));
-        if (found) {
-            QCOMPARE(rs->Fields(u"FItemID"_s).toInt(), RoundSteel);
-            QCOMPARE(rs->Fields(u"FUnitName"_s).toString(), u"千克"_s);
-            QCOMPARE(rs->Fields(u"FTrackName"_s).toString(), u"移动平均法"_s);
-        }
+        if (found)
+            QCOMPARE(fields(*rs, {"FItemID", "FUnitName", "FTrackName"}), (QVariantList{RoundSteel, u"千克"_s, u"移动平均法"_s}));
     }
 
     void initDataListsTheItemRows_data()
@@ -324,10 +322,7 @@ private slots:
         QCOMPARE(errorNumberOf([&] { rs = recordset(Data, u"GetInitData"_s, args); }), error);
         if (error != 0)
             return;
-        QStringList found;
-        for (const QVariant &value : column(*rs, u"FFieldCompose"_s))
-            found.append(value.toString());
-        QCOMPARE(found, composes);
+        QCOMPARE(QVariant(column(*rs, u"FFieldCompose"_s)).toStringList(), composes);
     }
 
     void batchLinesComeInTheAskedUnit()
@@ -342,15 +337,11 @@ private slots:
         // Ordered by bill number: B2 (bill 1) before B1 (bill 2); kilograms as stored.
         const auto stored = lines(0, true, false);
         QCOMPARE(column(*stored, u"FBatchNo"_s), (QVariantList{u"B2"_s, u"B1"_s}));
-        QCOMPARE(stored->Fields(u"FAuxBegQty"_s).toDouble(), 3.0);
-        QCOMPARE(stored->Fields(u"FBegBal"_s).toDouble(), 30.0);
-        QCOMPARE(stored->Fields(u"FLock"_s).toInt(), 0);
+        QCOMPARE(fields(*stored, {"FAuxBegQty", "FBegBal", "FLock"}), (QVariantList{3.0, 30.0, 0}));
 
         // In tonnes the quantities are a thousandth; amounts stay.
         const auto tonnes = lines(Tonne, true, false);
-        QCOMPARE(tonnes->Fields(u"FAuxBegQty"_s).toDouble(), 0.003);
-        QCOMPARE(tonnes->Fields(u"FBegBal"_s).toDouble(), 30.0);
-        QCOMPARE(tonnes->Fields(u"FUnitID"_s).toInt(), Tonne);
+        QCOMPARE(fields(*tonnes, {"FAuxBegQty", "FBegBal", "FUnitID"}), (QVariantList{0.003, 30.0, Tonne}));
 
         // Without batch or shelf-life management there are no lines; the lines have no production
         // date, so shelf-life management alone finds none either.
@@ -410,7 +401,6 @@ private slots:
         ScratchAccountSet scratch(backend);
         const QSqlDatabase db = scratch.db();
         seedPlace(db);
-        const auto data = CreateObject(Data);
 
         // Each step is a script of the shapes the controls write; after each, the totals the page
         // carries must be what the rows add up to.
@@ -437,17 +427,14 @@ private slots:
         };
         QCOMPARE(servedTotals(fetchPage(scratch, 3, 1)), summedAfresh(db));
         for (const auto &[name, script] : steps) {
-            Dispatch::call(data.get(), u"UpdateINIData"_s, {scratch.propsString(), script});
-            const QList<double> expected = summedAfresh(db);
-            QVERIFY2(servedTotals(fetchPage(scratch, 3, 1)) == expected, name);
+            call(Data, u"UpdateINIData"_s, {scratch.propsString(), script});
+            QVERIFY2(servedTotals(fetchPage(scratch, 3, 1)) == summedAfresh(db), name);
         }
         // Nothing is left, and the totals say so exactly, without binary residue.
         QCOMPARE(summedAfresh(db).first(), 0.0);
         QCOMPARE(servedTotals(fetchPage(scratch, 3, 1)), QList<double>(PlaceTotals::figures().size() + 1, 0.0));
         // The other place of the warehouse and the other period kept theirs.
-        const auto other = dictionary(Data, Fetch, {scratch.propsString(), Stock, OtherPlace, Period, 3, 1, {}, {}, {}, {}, false});
-        const auto otherTotals = takeObject<Recordset>(other->Item(u"Totals"_s));
-        QCOMPARE(otherTotals->Fields(u"FInitBegQty"_s).toDouble(), 1000.0);
+        QCOMPARE(fetchPage(scratch, 3, 1, {}, {}, OtherPlace).total("FInitBegQty"), 1000.0);
     }
 };
 
