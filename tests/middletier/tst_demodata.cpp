@@ -80,8 +80,7 @@ private slots:
         // year start = opening + issued - received, for quantities, amounts and secondary quantities
         QSqlQuery lines = SqlRun::exec(
             scratch.db(),
-            u"SELECT FYtdAuxBegQty, FAuxBegQty, FYtdAuxSend, FYtdAuxReceive, FYtdBegBal, FBegBal, FYtdCredit, "
-            "FYtdDebit, "
+            u"SELECT FYtdAuxBegQty, FAuxBegQty, FYtdAuxSend, FYtdAuxReceive, FYtdBegBal, FBegBal, FYtdCredit, FYtdDebit, "
             "FYtdAuxUnitBegQty, FAuxUnitBegQty, FYtdAuxUnitSend, FYtdAuxUnitReceive, FEntryID FROM ICInvInitial"_s);
         int checked = 0;
         while (lines.next()) {

@@ -34,8 +34,7 @@ constexpr double GoodsDifference = 1280;
 const QString Data = ProgId::MICInitialData;
 const QString GL = ProgId::GLData;
 // Every inventory account of the demo: the items' accounts and the cost-difference account.
-const QStringList InventoryAccounts{u"1403"_s, u"1404"_s, u"1405"_s,
-                                    u"1408"_s, u"1411"_s};
+const QStringList InventoryAccounts{u"1403"_s, u"1404"_s, u"1405"_s, u"1408"_s, u"1411"_s};
 
 QStringList texts(const QVariantList &values)
 {
@@ -219,12 +218,11 @@ private slots:
         QTest::addColumn<int>("scale");
         QTest::addColumn<double>("ytdBegBal");
         QTest::addColumn<double>("begBal");
-        QTest::addColumn<double>("storedBegin");
-        QTest::addColumn<double>("storedEnd");
-        QTest::newRow("debit, half a cent up") << RawMaterialAcct << "1403" << 1 << 2 << 1234.565 << 2.675 << 1234.57 << 2.68;
-        QTest::newRow("debit, half away from zero") << RawMaterialAcct << "1403" << 1 << 0 << -2.5 << 2.5 << -3.0 << 3.0;
-        QTest::newRow("credit kept debit-positive") << PayablesAcct << "2202" << -1 << 2 << 500.0 << 800.0 << -500.0 << -800.0;
-        QTest::newRow("no scale: as given") << RawMaterialAcct << " 1403 " << 1 << -1 << 1.23456 << 7.0 << 1.23456 << 7.0;
+        QTest::addColumn<QString>("stored"); // begin, debit, credit, end, detail
+        QTest::newRow("debit, half a cent up") << RawMaterialAcct << "1403" << 1 << 2 << 1234.565 << 2.675 << "1234.57,10,20,2.68,0";
+        QTest::newRow("debit, half away from zero") << RawMaterialAcct << "1403" << 1 << 0 << -2.5 << 2.5 << "-3,10,20,3,0";
+        QTest::newRow("credit kept debit-positive") << PayablesAcct << "2202" << -1 << 2 << 500.0 << 800.0 << "-500,10,20,-800,0";
+        QTest::newRow("no scale: as given") << RawMaterialAcct << " 1403 " << 1 << -1 << 1.23456 << 7.0 << "1.23456,10,20,7,0";
     }
 
     void transferWritesTheLedgerBalance()
@@ -235,8 +233,6 @@ private slots:
         QFETCH(int, scale);
         QFETCH(double, ytdBegBal);
         QFETCH(double, begBal);
-        QFETCH(double, storedBegin);
-        QFETCH(double, storedEnd);
         ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
         const QSqlDatabase db = scratch.db();
         const int answer = call(Data, u"StartTransferBalace"_s,
@@ -249,7 +245,7 @@ private slots:
                                          "WHERE FYear=? AND FPeriod=? AND FAccountID=? AND FCurrencyID=1"_s,
                                      {currentYear(db), Period, account});
         QVERIFY(row.next());
-        QCOMPARE(rowText(row), u"%1,10,20,%2,0"_s.arg(storedBegin).arg(storedEnd));
+        QTEST(rowText(row), "stored");
         QVERIFY(!row.next());
     }
 
@@ -412,12 +408,10 @@ private slots:
             u"UPDATE t_MeasureUnit SET FConversation=0 WHERE FMeasureUnitID=2"_s);
         add("units: unknown item", units, {999}, {});
         const QString accounts = u"LookupAccounts"_s;
-        add("accounts: code part", accounts, {u"14"_s},
-            {u"1403"_s, u"1404"_s, u"1405"_s, u"1408"_s, u"1411"_s, u"1471"_s});
+        add("accounts: code part", accounts, {u"14"_s}, InventoryAccounts + QStringList{u"1471"_s});
         add("accounts: name part", accounts, {u"应付"_s}, {u"2202"_s});
         add("accounts: quote", accounts, {u"' OR ''='"_s}, {});
-        add("accounts: everything", accounts, {u""_s},
-            {u"1403"_s, u"1404"_s, u"1405"_s, u"1408"_s, u"1411"_s, u"1471"_s, u"2202"_s});
+        add("accounts: everything", accounts, {u""_s}, InventoryAccounts + QStringList{u"1471"_s, u"2202"_s});
     }
 
     void lookupsFindWhatIsAsked()

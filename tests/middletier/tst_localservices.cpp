@@ -1,3 +1,5 @@
+#include "servicecalls.h"
+
 #include "frame/automation/progids.h"
 #include "services/tracelog.h"
 
@@ -45,12 +47,6 @@ QString readAll(const QString &path)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-QVariant callService(const QString &progId, const QString &member, const QVariantList &args = {})
-{
-    const auto service = CreateObject(progId);
-    return Dispatch::call(service.get(), member, args);
-}
-
 } // namespace
 
 // The services that need no account set: shared properties, the trace log, form fonts, and
@@ -92,10 +88,10 @@ private slots:
         const int pid = int(QCoreApplication::applicationPid());
         // Each call on a new service object: the storage belongs to the process, not to an object.
         const auto set = [&](const QString &key, const QVariant &value) {
-            callService(ProgId::ShareProps, u"SetProperty"_s, {pid, key, value});
+            ServiceCalls::call(ProgId::ShareProps, u"SetProperty"_s, {pid, key, value});
         };
         const auto get = [](int process, const QString &key) {
-            return callService(ProgId::ShareProps, u"GetProperty"_s, {process, key});
+            return ServiceCalls::call(ProgId::ShareProps, u"GetProperty"_s, {process, key});
         };
         const QString props = u"UserName=演示员;UserID=16;AcctDB={/tmp/a.db};"_s;
         set(u"PropsString"_s, props);
@@ -174,7 +170,7 @@ private slots:
         title->setFont(titleFont);
         auto *helper = new QObject(&form);
         helper->setProperty("font", u"untouched"_s);
-        callService(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&form), u"chs"_s});
+        ServiceCalls::call(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&form), u"chs"_s});
         const bool cjkInstalled = QFontDatabase::families().contains(u"WenQuanYi Micro Hei"_s);
         for (const QWidget *widget : QList<const QWidget *>{&form, inner, label}) {
             QCOMPARE(widget->font().pointSize(), 9);
@@ -194,7 +190,7 @@ private slots:
         QWidget outside;
         ControlList controls;
         controls.m_controls = {&tree};
-        callService(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&controls), u"chs"_s});
+        ServiceCalls::call(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&controls), u"chs"_s});
         QCOMPARE(tree.font().pointSize(), 9);
         QCOMPARE(node->font().pointSize(), 9);
         QCOMPARE(outside.font(), QApplication::font());

@@ -20,12 +20,11 @@ using ServiceCalls::errorNumberOf;
 
 namespace {
 
-QStringList lowered(const QStringList &names)
+QStringList lowered(QStringList names)
 {
-    QStringList result;
-    for (const QString &name : names)
-        result.append(name.toLower());
-    return result;
+    for (QString &name : names)
+        name = name.toLower();
+    return names;
 }
 
 } // namespace
@@ -105,21 +104,19 @@ private slots:
             QCOMPARE(SchemaManager(old, dialect).version(), 1);
             QVERIFY(!lowered(dialect.tableNames(old)).contains(u"t_auxclass"_s));
             QVERIFY(!lowered(dialect.columnNames(old, u"t_ICItem"_s)).contains(u"fauxclassid"_s));
-            SqlRun::exec(old, u"INSERT INTO t_UnitGroup (FUnitGroupID, FNumber, FName) VALUES (7, '07', '旧组')"_s);
-            SqlRun::exec(old,
-                         u"INSERT INTO t_MeasureUnit (FMeasureUnitID, FUnitGroupID, FNumber, FName) "
-                         "VALUES (70, 7, '070', '旧单位')"_s);
-            SqlRun::exec(old,
-                         u"INSERT INTO t_ICItem (FItemID, FNumber, FName, FUnitGroupID, FUnitID) "
-                         "VALUES (5, 'OLD.1', '旧物料', 7, 70)"_s);
+            SqlRun::execAll(old, {u"INSERT INTO t_UnitGroup (FUnitGroupID, FNumber, FName) VALUES (7, '07', '旧组')"_s,
+                                  u"INSERT INTO t_MeasureUnit (FMeasureUnitID, FUnitGroupID, FNumber, FName) "
+                                  "VALUES (70, 7, '070', '旧单位')"_s,
+                                  u"INSERT INTO t_ICItem (FItemID, FNumber, FName, FUnitGroupID, FUnitID) "
+                                  "VALUES (5, 'OLD.1', '旧物料', 7, 70)"_s,
+                                  u"INSERT INTO t_Stock (FItemID, FNumber, FName) VALUES (3, '03', '旧仓')"_s});
             // Balance rows from before the place totals: two lines of one item row, and another place.
-            SqlRun::exec(old, u"INSERT INTO t_Stock (FItemID, FNumber, FName) VALUES (3, '03', '旧仓')"_s);
             const QString line = u"INSERT INTO ICInvInitial (FBrNo, FPeriod, FStockID, FSPID, FItemID, "
                                  "FUnitID, FBatchNo, FAuxPropID, FAuxBegQty, FBegBal, FFieldCompose) "
                                  "VALUES ('0', 1, 3, ?, 5, 70, ?, 0, ?, ?, '')"_s;
-            SqlRun::exec(old, line, {0, u"A"_s, 2.0, 20.5});
-            SqlRun::exec(old, line, {0, u"B"_s, 3.0, 30.25});
-            SqlRun::exec(old, line, {4, QString(QLatin1String("")), 1.0, 9.0});
+            for (const QVariantList &values : {QVariantList{0, u"A"_s, 2.0, 20.5}, QVariantList{0, u"B"_s, 3.0, 30.25},
+                                               QVariantList{4, QString(QLatin1String("")), 1.0, 9.0}})
+                SqlRun::exec(old, line, values);
             old.close();
         }
         QSqlDatabase::removeDatabase(u"v1"_s);
