@@ -37,49 +37,28 @@ constexpr double PlaceQty = 36; // 5 + 1 + 8 + 2 + 3 + 4 + 6 + 7
 const QString Data = ProgId::MICInitialData;
 const QString Fetch = u"FetchYtdInitialData"_s;
 
-struct Line
-{
-    int item;
-    int unit;
-    int aux;
-    QString batch;
-    double qty;
-    int bill = 0;
-    int spId = 0;
-    int period = Period;
-};
-
-void addLine(const QSqlDatabase &db, const Line &line)
-{
-    const QString compose = u"%1|%2|%3|%4|%5"_s.arg(Stock).arg(line.spId).arg(line.period).arg(line.item).arg(line.aux);
-    // Year start = opening, nothing received or issued: the balance rule holds.
-    SqlRun::exec(db,
-                 u"INSERT INTO ICInvInitial (FBrNo, FPeriod, FStockID, FSPID, FItemID, FUnitID, FBatchNo, "
-                                "FAuxPropID, FYtdAuxBegQty, FYtdBegBal, FAuxBegQty, FBegBal, FStockInDate, FKFDate, "
-                                "FFieldCompose, FBillInterID) VALUES ('0',?,?,?,?,?,?,?,?,?,?,?,'2024-04-01','',?,?)"_s,
-                 {line.period, Stock, line.spId, line.item, line.unit, line.batch.isNull() ? u""_s : line.batch, line.aux, line.qty, line.qty * 10,
-                  line.qty, line.qty * 10, compose, line.bill});
-}
-
-// Makes the warehouse in a demo account set.
+// Makes the warehouse in a demo account set. Year start = opening, nothing received or issued: the
+// balance rule holds.
 void seedPlace(const QSqlDatabase &db)
 {
     SqlRun::exec(db, u"INSERT INTO t_Stock (FItemID, FNumber, FName) VALUES (?, '70', '测试仓')"_s, {Stock});
-    const QList<Line> lines{
-        {SteelPlate, Kilogram, 0, u"B1"_s, 2, 2},
-        {SteelPlate, Kilogram, 0, u"B2"_s, 3, 1},
-        {RoundSteel, Kilogram, 0, {}, 1},
-        {RoundSteel, Kilogram, RedS, {}, 8},
-        {3, 7, 0, {}, 2},
-        {4, 7, 0, {}, 3},
-        {5, 9, 0, {}, 4},
-        {7, 1, 0, {}, 6},
-        {8, 1, 0, {}, 7},
-        {RoundSteel, Kilogram, 0, {}, 100, 0, 0, Period - 1},
-        {3, 7, 0, {}, 1000, 0, OtherPlace},
+    const auto add = [&](int item, int unit, int aux, double qty, const QString &batch = u""_s, int bill = 0,
+                         int spId = 0, int period = Period) {
+        SqlRun::exec(db,
+                     u"INSERT INTO ICInvInitial (FBrNo, FPeriod, FStockID, FSPID, FItemID, FUnitID, FBatchNo, FAuxPropID, "
+                     "FYtdAuxBegQty, FYtdBegBal, FAuxBegQty, FBegBal, FStockInDate, FKFDate, FFieldCompose, FBillInterID) "
+                     "VALUES ('0',?,?,?,?,?,?,?,?,?,?,?,'2024-04-01','',?,?)"_s,
+                     {period, Stock, spId, item, unit, batch, aux, qty, qty * 10, qty, qty * 10,
+                      u"%1|%2|%3|%4|%5"_s.arg(Stock).arg(spId).arg(period).arg(item).arg(aux), bill});
     };
-    for (const Line &line : lines)
-        addLine(db, line);
+    add(SteelPlate, Kilogram, 0, 2, u"B1"_s, 2);
+    add(SteelPlate, Kilogram, 0, 3, u"B2"_s, 1);
+    add(RoundSteel, Kilogram, 0, 1);
+    add(RoundSteel, Kilogram, RedS, 8);
+    for (const auto &[item, unit, qty] : {std::tuple{3, 7, 2}, {4, 7, 3}, {5, 9, 4}, {7, 1, 6}, {8, 1, 7}})
+        add(item, unit, 0, qty);
+    add(RoundSteel, Kilogram, 0, 100, u""_s, 0, 0, Period - 1);
+    add(3, 7, 0, 1000, u""_s, 0, OtherPlace);
 }
 
 // "item/property" of every row, in order.
