@@ -164,24 +164,18 @@ private slots:
         auto *inner = new QWidget(&form);
         auto *label = new QLabel(u"仓    库:"_s, inner);
         auto *title = new QLabel(u"存货初始数据录入"_s, &form);
-        QFont titleFont = title->font();
-        titleFont.setPointSize(15);
-        titleFont.setBold(true);
-        title->setFont(titleFont);
+        title->setFont(QFont(title->font().family(), 15, QFont::Bold));
         auto *helper = new QObject(&form);
         helper->setProperty("font", u"untouched"_s);
         ServiceCalls::call(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&form), u"chs"_s});
         const bool cjkInstalled = QFontDatabase::families().contains(u"WenQuanYi Micro Hei"_s);
-        for (const QWidget *widget : QList<const QWidget *>{&form, inner, label}) {
-            QCOMPARE(widget->font().pointSize(), 9);
+        // The title keeps its emphasis and takes only the family.
+        for (const auto &[widget, size] : {std::pair<const QWidget *, int>{&form, 9}, {inner, 9}, {label, 9}, {title, 15}}) {
+            QCOMPARE(widget->font().pointSize(), size);
             if (cjkInstalled)
                 QCOMPARE(widget->font().family(), u"WenQuanYi Micro Hei"_s);
         }
-        // The title keeps its emphasis and takes only the family.
-        QCOMPARE(title->font().pointSize(), 15);
         QVERIFY(title->font().bold());
-        if (cjkInstalled)
-            QCOMPARE(title->font().family(), u"WenQuanYi Micro Hei"_s);
         QCOMPARE(helper->property("font").toString(), u"untouched"_s);
 
         // A collection of controls is not their parent: its items take the font, and their children.
