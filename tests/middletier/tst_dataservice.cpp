@@ -112,10 +112,9 @@ private slots:
         const QSqlDatabase db = scratch.db();
         // Awkward shapes: a child numbered before its parent, a parent loop, a deleted warehouse,
         // and a child whose parent is of a type the tree leaves out.
-        SqlRun::exec(db,
-                     u"INSERT INTO t_Stock (FItemID, FParentID, FNumber, FName, FDeleted) VALUES "
-                     "(50, 0, '08', '备件仓', 0), (51, 50, '00.1', '备件分仓', 0), (52, 53, '09.1', '循环甲', 0), "
-                     "(53, 52, '09.2', '循环乙', 0), (54, 0, '10', '已删除仓', 1), (55, 9, '07.01', '废品分仓', 0)"_s);
+        SqlRun::exec(db, u"INSERT INTO t_Stock (FItemID, FParentID, FNumber, FName, FDeleted) VALUES "
+                         "(50, 0, '08', '备件仓', 0), (51, 50, '00.1', '备件分仓', 0), (52, 53, '09.1', '循环甲', 0), "
+                         "(53, 52, '09.2', '循环乙', 0), (54, 0, '10', '已删除仓', 1), (55, 9, '07.01', '废品分仓', 0)"_s);
 
         const QList<StockRow> rows = fetchStocks({scratch.propsString(), TreeTypes});
         verifyParentsFirst(rows);

@@ -266,8 +266,7 @@ private slots:
         QTest::addColumn<int>("auxPropId"); // -1: the two-argument form
         QTest::addColumn<QStringList>("composes");
         QTest::addColumn<int>("error");
-        QTest::newRow("both properties") << "70|0|4|2" << -1
-                                         << QStringList{u"70|0|4|2|0"_s, u"70|0|4|2|1"_s} << 0;
+        QTest::newRow("both properties") << "70|0|4|2" << -1 << QStringList{u"70|0|4|2|0"_s, u"70|0|4|2|1"_s} << 0;
         QTest::newRow("one property") << "70|0|4|2" << RedS << QStringList{u"70|0|4|2|1"_s} << 0;
         QTest::newRow("batch lines only") << " 70 | 0 | 4 | 1 " << -1 << QStringList{u"70|0|4|1|0"_s} << 0;
         QTest::newRow("other period") << "70|0|3|3" << -1 << QStringList{} << 0;

@@ -63,9 +63,8 @@ std::unique_ptr<Recordset> accounts(const ScratchAccountSet &scratch, const QStr
 
 void addBalance(const QSqlDatabase &db, int period, int unit, double qty, double amount)
 {
-    SqlRun::exec(db,
-                 u"INSERT INTO ICInvInitial (FPeriod, FStockID, FItemID, FUnitID, FBatchNo, FYtdAuxBegQty, "
-                                "FYtdBegBal, FAuxBegQty, FBegBal, FFieldCompose) VALUES (?,?,?,?,'',?,?,?,?,?)"_s,
+    SqlRun::exec(db, u"INSERT INTO ICInvInitial (FPeriod, FStockID, FItemID, FUnitID, FBatchNo, FYtdAuxBegQty, "
+                       "FYtdBegBal, FAuxBegQty, FBegBal, FFieldCompose) VALUES (?,?,?,?,'',?,?,?,?,?)"_s,
                  {period, SemiFinished, MotorSmall, unit, qty, amount, qty, amount,
                   u"%1|0|%2|%3|0"_s.arg(SemiFinished).arg(period).arg(MotorSmall)});
 }
@@ -277,8 +276,7 @@ private slots:
         SqlRun::exec(db, u"DELETE FROM t_AuxItem"_s);
         QCOMPARE(call(Data, u"CheckItemAuxNum"_s, {scratch.propsString()}).toInt(), 0);
 
-        const auto classes = recordset(Data, u"FetchAuxProp"_s, {scratch.propsString()});
-        QCOMPARE(texts(column(*classes, u"fname"_s)),
+        QCOMPARE(texts(column(*recordset(Data, u"FetchAuxProp"_s, {scratch.propsString()}), u"fname"_s)),
                  (QStringList{u"颜色尺码"_s, u"等级"_s}));
         // In number order, not in id order.
         SqlRun::exec(db, u"UPDATE t_AuxClass SET FNumber='00' WHERE FItemClassID=2"_s);
@@ -327,9 +325,8 @@ private slots:
                                    "VALUES ('ICInitial', 'fnumber', '代码', 1, 0, 2), ('ICInitial', 'FItemName', '名称', 1, 1, 1), "
                                    "('ICInitial', 'FNoSuch', '无', 1, 1, 0), ('Other', 'FModel', '型号', 1, 1, 0)"_s);
         const auto quest = recordset(Data, u"GetSortByFields"_s, {scratch.propsString(), u"FVisForQuest"_s});
-        QCOMPARE(texts(column(*quest, u"FieldName"_s)),
-                 (QStringList{u"FItemName"_s, u"FNumber"_s}));
-        QCOMPARE(texts(column(*quest, u"Name"_s)), (QStringList{u"名称"_s, u"代码"_s}));
+        QCOMPARE(texts(column(*quest, u"FieldName"_s)) + texts(column(*quest, u"Name"_s)),
+                 (QStringList{u"FItemName"_s, u"FNumber"_s, u"名称"_s, u"代码"_s}));
         const auto order = recordset(Data, u"GetSortByFields"_s, {scratch.propsString(), u"FVisForOrder"_s});
         QCOMPARE(texts(column(*order, u"FieldName"_s)), QStringList{u"FItemName"_s});
     }

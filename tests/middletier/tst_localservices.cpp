@@ -5,7 +5,6 @@
 
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dispatch.h"
-#include "frame/automation/objectownership.h"
 
 #include <QCoreApplication>
 #include <QFile>

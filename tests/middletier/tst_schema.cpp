@@ -172,10 +172,8 @@ private slots:
         QCOMPARE(SqlRun::scalar(db, valueSql).toString(), u"2"_s);
         QCOMPARE(SqlRun::scalar(db, u"SELECT count(*) FROM t_SystemProfile WHERE FCategory='T'"_s).toInt(), 1);
 
-        QCOMPARE(SqlRun::scalar(
-                     db, u"SELECT %1 FROM t_Currency WHERE FCurrencyID=1"_s.arg(dialect.isNull(u"NULL"_s, u"FScale"_s)))
-                     .toInt(),
-                 2);
+        const QString scale = dialect.isNull(u"NULL"_s, u"FScale"_s);
+        QCOMPARE(SqlRun::scalar(db, u"SELECT %1 FROM t_Currency WHERE FCurrencyID=1"_s.arg(scale)).toInt(), 2);
         SqlRun::exec(db,
                      u"INSERT INTO t_TaskMutex (FTaskID, FComputerName, FProcessID, FStartTime) VALUES (1, 'PC', 1, ?)"_s,
                      {QDateTime(QDate(2024, 3, 5), QTime(23, 59, 58))});
@@ -249,8 +247,7 @@ private slots:
             return;
         }
         QCOMPARE((QStringList{location.host(), QString::number(location.port()), location.userName(), location.password(),
-                              location.databaseName(), location.schema()}),
-                 parts);
+                              location.databaseName(), location.schema()}), parts);
         QVERIFY2(location.password().isEmpty() || !location.key().contains(location.password()),
                  "the password stays out of connection names");
     }

@@ -38,11 +38,9 @@ int taskExec(const ScratchAccountSet &scratch, int taskId, const QString &comput
 // A registration as another session left it.
 void insertTask(const ScratchAccountSet &scratch, int taskId, int userId, const QString &computer, qint64 pid)
 {
-    SqlRun::exec(
-        scratch.db(),
-        u"INSERT INTO t_TaskMutex (FTaskID, FFuncCode, FUserID, FComputerName, FProcessID, FStartTime) "
-                       "VALUES (?,?,?,?,?,?)"_s,
-        {taskId, EntryFunction, userId, computer, pid, QDateTime::currentDateTime()});
+    SqlRun::exec(scratch.db(), u"INSERT INTO t_TaskMutex (FTaskID, FFuncCode, FUserID, FComputerName, FProcessID, "
+                               "FStartTime) VALUES (?,?,?,?,?,?)"_s,
+                 {taskId, EntryFunction, userId, computer, pid, QDateTime::currentDateTime()});
 }
 
 int taskCount(const ScratchAccountSet &scratch)
@@ -94,9 +92,8 @@ private slots:
         QVERIFY(call(u"CommitTask"_s, {scratch.propsString(), handle}).toBool());
 
         // The eight-argument form records its extra value for the network control tool.
-        const int other = call(u"TaskExec"_s, {scratch.propsString(), 21, u"Cg0803"_s,
-                                                            QSysInfo::machineHostName(), 3, 1, 0, u"额外"_s})
-                              .toInt();
+        const int other
+            = call(u"TaskExec"_s, {scratch.propsString(), 21, u"Cg0803"_s, QSysInfo::machineHostName(), 3, 1, 0, u"额外"_s}).toInt();
         QVERIFY(other > 0 && other != handle);
 
         const auto tasks = takeObject<Recordset>(call(u"Tasks"_s, {scratch.propsString()}));
