@@ -210,8 +210,7 @@ private slots:
             lastGroup = rs->Fields(u"FUnitGroupID"_s).toInt();
             coefficients.insert(rs->Fields(u"FName"_s).toString(), rs->Fields(u"FCoefficient"_s).toDouble());
         }
-        QCOMPARE(coefficients.value(u"吨"_s), 1000.0);
-        QCOMPARE(coefficients.value(u"个"_s), 1.0);
+        QCOMPARE((QList<double>{coefficients.value(u"吨"_s), coefficients.value(u"个"_s)}), (QList<double>{1000, 1}));
     }
 
     void updateWritesAllOrNothing_data()

@@ -25,14 +25,8 @@ class ControlList : public QObject
     Q_OBJECT
 
 public:
-    Q_INVOKABLE QVariantList Items() const
-    {
-        QVariantList items;
-        for (QObject *control : m_controls)
-            items.append(QVariant::fromValue(control));
-        return items;
-    }
-    QList<QObject *> m_controls;
+    Q_INVOKABLE QVariantList Items() const { return m_controls; }
+    QVariantList m_controls;
 };
 
 QSettings logSettings()
@@ -74,11 +68,9 @@ private slots:
         for (const char *name :
              {"LumoMICInitial.Data", "LumoConnection.AppConnection", "LumoEBCGLView.GLData", "LumoNetControl.Mutex",
               "QLLogMsg.Log", "LumoPropsMgr.ShareProps", "LumoFrmRes.FrmResLoader"}) {
-            const QString progId = QString::fromLatin1(name);
             // ProgIDs are found without regard to case, as the suite's registry does.
-            const auto object = CreateObject(progId.toUpper());
-            QVERIFY2(object, qPrintable(progId));
-            QVERIFY(!object->parent());
+            const auto object = CreateObject(QString::fromLatin1(name).toUpper());
+            QVERIFY2(object && !object->parent(), name);
         }
     }
 
@@ -182,7 +174,7 @@ private slots:
         auto *node = new QLabel(u"全部仓库"_s, &tree);
         QWidget outside;
         ControlList controls;
-        controls.m_controls = {&tree};
+        controls.m_controls = {QVariant::fromValue<QObject *>(&tree)};
         ServiceCalls::call(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&controls), u"chs"_s});
         QCOMPARE(tree.font().pointSize(), 9);
         QCOMPARE(node->font().pointSize(), 9);
