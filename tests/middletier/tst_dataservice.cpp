@@ -17,8 +17,7 @@
 
 using namespace Qt::StringLiterals;
 
-using ServiceCalls::errorNumberOf;
-using ServiceCalls::publishLogin;
+using namespace ServiceCalls;
 
 namespace {
 
@@ -36,8 +35,7 @@ struct StockRow
 
 QList<StockRow> fetchStocks(const QVariantList &args)
 {
-    const auto data = CreateObject(ProgId::MICInitialData);
-    const auto rs = takeObject<Recordset>(Dispatch::call(data.get(), u"FetchStocks"_s, args));
+    const auto rs = recordset(ProgId::MICInitialData, u"FetchStocks"_s, args);
     QList<StockRow> rows;
     if (!rs)
         return rows;
@@ -68,11 +66,8 @@ void verifyParentsFirst(const QList<StockRow> &rows)
 
 const StockRow *findByName(const QList<StockRow> &rows, const QString &name)
 {
-    for (const StockRow &row : rows) {
-        if (row.name == name)
-            return &row;
-    }
-    return nullptr;
+    const auto it = std::find_if(rows.begin(), rows.end(), [&](const StockRow &row) { return row.name == name; });
+    return it == rows.end() ? nullptr : &*it;
 }
 
 QVariant firstField(const QVariant &recordset, int field)
@@ -117,10 +112,9 @@ private slots:
         const QSqlDatabase db = scratch.db();
         // Awkward shapes: a child numbered before its parent, a parent loop, a deleted warehouse,
         // and a child whose parent is of a type the tree leaves out.
-        SqlRun::exec(db,
-                     u"INSERT INTO t_Stock (FItemID, FParentID, FNumber, FName, FDeleted) VALUES "
-                     "(50, 0, '08', '备件仓', 0), (51, 50, '00.1', '备件分仓', 0), (52, 53, '09.1', '循环甲', 0), "
-                     "(53, 52, '09.2', '循环乙', 0), (54, 0, '10', '已删除仓', 1), (55, 9, '07.01', '废品分仓', 0)"_s);
+        SqlRun::exec(db, u"INSERT INTO t_Stock (FItemID, FParentID, FNumber, FName, FDeleted) VALUES "
+                         "(50, 0, '08', '备件仓', 0), (51, 50, '00.1', '备件分仓', 0), (52, 53, '09.1', '循环甲', 0), "
+                         "(53, 52, '09.2', '循环乙', 0), (54, 0, '10', '已删除仓', 1), (55, 9, '07.01', '废品分仓', 0)"_s);
 
         const QList<StockRow> rows = fetchStocks({scratch.propsString(), TreeTypes});
         verifyParentsFirst(rows);
@@ -136,9 +130,7 @@ private slots:
         QCOMPARE(findByName(rows, u"代管仓"_s)->type, 502);
         const StockRow *shelf = findByName(rows, u"A区货架"_s);
         QVERIFY(shelf->place > 0);
-        QCOMPARE(shelf->id, raw->id);
-        QCOMPARE(shelf->isStockMgr, 0);
-        QCOMPARE(shelf->type, raw->type);
+        QCOMPARE((QList<int>{shelf->id, shelf->isStockMgr, shelf->type}), (QList<int>{raw->id, 0, raw->type}));
         // The place follows its warehouse before any other warehouse does.
         const qsizetype rawAt = raw - rows.constData();
         QCOMPARE(rows.at(rawAt + 1).parent, raw->id);
@@ -158,13 +150,9 @@ private slots:
         QTest::newRow("tree list") << "(500,502,20291,20293)" << QList<int>{500, 502, 20291, 20293} << false;
         QTest::newRow("blanks") << " ( 500 , 502 ) " << QList<int>{500, 502} << false;
         QTest::newRow("empty: all types") << "" << QList<int>{} << false;
-        QTest::newRow("no parentheses") << "500,502" << QList<int>{} << true;
-        QTest::newRow("empty list") << "()" << QList<int>{} << true;
-        QTest::newRow("statement") << "(500); delete from t_Stock" << QList<int>{} << true;
-        QTest::newRow("condition") << "(500) or 1=1" << QList<int>{} << true;
-        QTest::newRow("sub-select") << "(select FTypeID from t_Stock)" << QList<int>{} << true;
-        QTest::newRow("sign") << "(-500)" << QList<int>{} << true;
-        QTest::newRow("too large") << "(99999999999)" << QList<int>{} << true;
+        for (const char *bad : {"500,502", "()", "(500); delete from t_Stock", "(500) or 1=1", "(select FTypeID from t_Stock)",
+                                "(-500)", "(99999999999)"})
+            QTest::newRow(bad) << QString::fromLatin1(bad) << QList<int>{} << true;
     }
 
     void typeListsAreParsedOrRefused()
@@ -174,11 +162,7 @@ private slots:
         if (refused) {
             QCOMPARE(errorNumberOf([&] { parseTypeList(text); }), MtError::BadTypeList);
             // The service refuses before it reaches any account set.
-            const auto data = CreateObject(ProgId::MICInitialData);
-            QCOMPARE(errorNumberOf([&] {
-                         Dispatch::call(data.get(), u"FetchStocks"_s, {u"AcctDB=/nowhere.db"_s, text});
-                     }),
-                     MtError::BadTypeList);
+            QCOMPARE(errorNumberOf([&] { fetchStocks({u"AcctDB=/nowhere.db"_s, text}); }), MtError::BadTypeList);
             return;
         }
         QTEST(parseTypeList(text), "types");
@@ -199,9 +183,7 @@ private slots:
         SqlRun::exec(db, u"UPDATE t_SystemProfile SET FValue='true' WHERE FKey='UnderStock'"_s);
         SqlRun::exec(db, u"DELETE FROM t_SystemProfile WHERE FKey='ICClosed'"_s);
 
-        const auto data = CreateObject(ProgId::MICInitialData);
-        const auto params
-            = takeObject<Dictionary>(Dispatch::call(data.get(), u"FetchSysParameter"_s, {scratch.propsString()}));
+        const auto params = dictionary(ProgId::MICInitialData, u"FetchSysParameter"_s, {scratch.propsString()});
         QVERIFY(params);
         // Integers whatever the stored text, a missing row as 0; names in any case.
         const std::pair<const char *, int> expected[]{
@@ -218,8 +200,7 @@ private slots:
     void measureUnitsCarryTheirGroups()
     {
         ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-        const auto data = CreateObject(ProgId::MICInitialData);
-        const auto rs = takeObject<Recordset>(Dispatch::call(data.get(), u"FetchMeasureUnits"_s, {scratch.propsString()}));
+        const auto rs = recordset(ProgId::MICInitialData, u"FetchMeasureUnits"_s, {scratch.propsString()});
         QVERIFY(rs);
         QCOMPARE(rs->RecordCount(), 10);
         int lastGroup = 0;
@@ -229,8 +210,7 @@ private slots:
             lastGroup = rs->Fields(u"FUnitGroupID"_s).toInt();
             coefficients.insert(rs->Fields(u"FName"_s).toString(), rs->Fields(u"FCoefficient"_s).toDouble());
         }
-        QCOMPARE(coefficients.value(u"吨"_s), 1000.0);
-        QCOMPARE(coefficients.value(u"个"_s), 1.0);
+        QCOMPARE((QList<double>{coefficients.value(u"吨"_s), coefficients.value(u"个"_s)}), (QList<double>{1000, 1}));
     }
 
     void updateWritesAllOrNothing_data()
@@ -245,10 +225,8 @@ private slots:
         REQUIRE_BACKEND(backend);
         ScratchAccountSet scratch(backend);
         const QSqlDatabase db = scratch.db();
-        const auto data = CreateObject(ProgId::MICInitialData);
-        const auto update = [&](const QString &script) {
-            Dispatch::call(data.get(), u"UpdateINIData"_s, {scratch.propsString(), script});
-        };
+        const auto update
+            = [&](const QString &script) { call(ProgId::MICInitialData, u"UpdateINIData"_s, {scratch.propsString(), script}); };
         const auto rowsOfItem
             = [&] { return SqlRun::scalar(db, u"SELECT count(*) FROM ICInvInitial WHERE FItemID=2"_s).toInt(); };
         const int before = rowsOfItem();
@@ -292,11 +270,9 @@ private slots:
         QCOMPARE(firstField(execute(u"SELECT FScale FROM t_Currency WHERE FCurrencyID=1"_s), 0).toInt(), 2);
         QCOMPARE(firstField(execute(u"select  fscale\r\n from T_CURRENCY where FCurrencyID = 3"_s), 0).toInt(), 0);
         // 螺钉 (item 7) in 个 with 箱 as its second unit; 千克 is not in its unit group.
-        const QVariant both = execute(CoefficientStatement.arg(7).arg(1).arg(3));
-        const auto rs = takeObject<Recordset>(both);
+        const auto rs = takeObject<Recordset>(execute(CoefficientStatement.arg(7).arg(1).arg(3)));
         QVERIFY(rs && !rs->atEnd());
-        QCOMPARE(rs->Fields(0).toDouble(), 1.0);
-        QCOMPARE(rs->Fields(1).toDouble(), 100.0);
+        QCOMPARE((QList<double>{rs->Fields(0).toDouble(), rs->Fields(1).toDouble()}), (QList<double>{1, 100}));
         QCOMPARE(firstField(execute(CoefficientStatement.arg(7).arg(4).arg(3)), 0).toDouble(), 0.0);
 
         // Why a statement is refused is the parser suite's matter.
@@ -336,8 +312,7 @@ private slots:
         if (forbidden)
             SqlRun::exec(scratch.db(), u"UPDATE t_User SET FForbidden=1 WHERE FUserID=?"_s, {user});
         publishLogin(scratch.propsString(user, u"操作员"_s));
-        const auto gl = CreateObject(ProgId::GLData);
-        QTEST(Dispatch::call(gl.get(), u"AccessCheck"_s, {objectType, objectId, right}).toBool(), "allowed");
+        QTEST(call(ProgId::GLData, u"AccessCheck"_s, {objectType, objectId, right}).toBool(), "allowed");
     }
 
     void currencyCarriesItsScale()
@@ -349,9 +324,8 @@ private slots:
             const std::unique_ptr<QObject> object(Dispatch::call(gl.get(), u"GetCurrency"_s, {currency}).value<QObject *>());
             return object ? Dispatch::getProperty(object.get(), QLatin1String(name)) : QVariant();
         };
-        QCOMPARE(property(1, "ScaleX").toInt(), 2);
-        QCOMPARE(property(1, "Name").toString(), u"人民币"_s);
-        QCOMPARE(property(1, "Number").toString(), u"RMB"_s);
+        QCOMPARE((QStringList{property(1, "ScaleX").toString(), property(1, "Name").toString(), property(1, "Number").toString()}),
+                 (QStringList{u"2"_s, u"人民币"_s, u"RMB"_s}));
         const QVariant yen = property(3, "ScaleX");
         QVERIFY(yen.isValid() && yen.toInt() == 0);
         QCOMPARE(errorNumberOf([&] { property(42, "ScaleX"); }), MtError::UnknownCurrency);

@@ -8,9 +8,7 @@
 #include "queries/itemrowfields.h"
 #include "frame/automation/progids.h"
 
-#include "frame/automation/componentregistry.h"
 #include "frame/automation/dictionary.h"
-#include "frame/automation/dispatch.h"
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
 
@@ -39,49 +37,28 @@ constexpr double PlaceQty = 36; // 5 + 1 + 8 + 2 + 3 + 4 + 6 + 7
 const QString Data = ProgId::MICInitialData;
 const QString Fetch = u"FetchYtdInitialData"_s;
 
-struct Line
-{
-    int item;
-    int unit;
-    int aux;
-    QString batch;
-    double qty;
-    int bill = 0;
-    int spId = 0;
-    int period = Period;
-};
-
-void addLine(const QSqlDatabase &db, const Line &line)
-{
-    const QString compose = u"%1|%2|%3|%4|%5"_s.arg(Stock).arg(line.spId).arg(line.period).arg(line.item).arg(line.aux);
-    // Year start = opening, nothing received or issued: the balance rule holds.
-    SqlRun::exec(db,
-                 u"INSERT INTO ICInvInitial (FBrNo, FPeriod, FStockID, FSPID, FItemID, FUnitID, FBatchNo, "
-                                "FAuxPropID, FYtdAuxBegQty, FYtdBegBal, FAuxBegQty, FBegBal, FStockInDate, FKFDate, "
-                                "FFieldCompose, FBillInterID) VALUES ('0',?,?,?,?,?,?,?,?,?,?,?,'2024-04-01','',?,?)"_s,
-                 {line.period, Stock, line.spId, line.item, line.unit, line.batch.isNull() ? u""_s : line.batch, line.aux, line.qty, line.qty * 10,
-                  line.qty, line.qty * 10, compose, line.bill});
-}
-
-// Makes the warehouse in a demo account set.
+// Makes the warehouse in a demo account set. Year start = opening, nothing received or issued: the
+// balance rule holds.
 void seedPlace(const QSqlDatabase &db)
 {
     SqlRun::exec(db, u"INSERT INTO t_Stock (FItemID, FNumber, FName) VALUES (?, '70', '测试仓')"_s, {Stock});
-    const QList<Line> lines{
-        {SteelPlate, Kilogram, 0, u"B1"_s, 2, 2},
-        {SteelPlate, Kilogram, 0, u"B2"_s, 3, 1},
-        {RoundSteel, Kilogram, 0, {}, 1},
-        {RoundSteel, Kilogram, RedS, {}, 8},
-        {3, 7, 0, {}, 2},
-        {4, 7, 0, {}, 3},
-        {5, 9, 0, {}, 4},
-        {7, 1, 0, {}, 6},
-        {8, 1, 0, {}, 7},
-        {RoundSteel, Kilogram, 0, {}, 100, 0, 0, Period - 1},
-        {3, 7, 0, {}, 1000, 0, OtherPlace},
+    const auto add = [&](int item, int unit, int aux, double qty, const QString &batch = u""_s, int bill = 0,
+                         int spId = 0, int period = Period) {
+        SqlRun::exec(db,
+                     u"INSERT INTO ICInvInitial (FBrNo, FPeriod, FStockID, FSPID, FItemID, FUnitID, FBatchNo, FAuxPropID, "
+                     "FYtdAuxBegQty, FYtdBegBal, FAuxBegQty, FBegBal, FStockInDate, FKFDate, FFieldCompose, FBillInterID) "
+                     "VALUES ('0',?,?,?,?,?,?,?,?,?,?,?,'2024-04-01','',?,?)"_s,
+                     {period, Stock, spId, item, unit, batch, aux, qty, qty * 10, qty, qty * 10,
+                      u"%1|%2|%3|%4|%5"_s.arg(Stock).arg(spId).arg(period).arg(item).arg(aux), bill});
     };
-    for (const Line &line : lines)
-        addLine(db, line);
+    add(SteelPlate, Kilogram, 0, 2, u"B1"_s, 2);
+    add(SteelPlate, Kilogram, 0, 3, u"B2"_s, 1);
+    add(RoundSteel, Kilogram, 0, 1);
+    add(RoundSteel, Kilogram, RedS, 8);
+    for (const auto &[item, unit, qty] : {std::tuple{3, 7, 2}, {4, 7, 3}, {5, 9, 4}, {7, 1, 6}, {8, 1, 7}})
+        add(item, unit, 0, qty);
+    add(RoundSteel, Kilogram, 0, 100, u""_s, 0, 0, Period - 1);
+    add(3, 7, 0, 1000, u""_s, 0, OtherPlace);
 }
 
 // "item/property" of every row, in order.
@@ -89,9 +66,17 @@ QStringList rowKeys(Recordset &rows)
 {
     QStringList keys;
     for (rows.MoveFirst(); !rows.atEnd(); rows.MoveNext())
-        keys.append(u"%1/%2"_s.arg(rows.Fields(u"FItemID"_s).toInt())
-                        .arg(rows.Fields(u"FAuxPropID"_s).toInt()));
+        keys.append(u"%1/%2"_s.arg(rows.Fields(u"FItemID"_s).toInt()).arg(rows.Fields(u"FAuxPropID"_s).toInt()));
     return keys;
+}
+
+// The named fields of the current record, for one comparison.
+QVariantList fields(Recordset &rs, std::initializer_list<const char *> names)
+{
+    QVariantList values;
+    for (const char *name : names)
+        values.append(rs.Fields(QLatin1String(name)));
+    return values;
 }
 
 // "1/0 2/1": item rows as rowKeys gives them.
@@ -106,18 +91,16 @@ struct Page
     std::unique_ptr<Recordset> rows;
     std::unique_ptr<Recordset> totals;
 
-    int totalPages() const { return result->Item(u"TotalPages"_s).toInt(); }
     int recordCount() const { return result->Item(u"RecordCount"_s).toInt(); }
     double total(const char *field) const { return totals->Fields(QLatin1String(field)).toDouble(); }
 };
 
-Page fetchPage(const ScratchAccountSet &scratch, int pageSize, int pageIndex, const QStringList &filters = {{}, {}, {}},
-               const QString &sort = {})
+Page fetchPage(const ScratchAccountSet &scratch, int pageSize, int pageIndex, const QStringList &filters = {},
+               const QString &sort = {}, int place = 0)
 {
     Page page;
-    page.result = dictionary(Data, Fetch,
-                             {scratch.propsString(), Stock, 0, Period, pageSize, pageIndex, filters.value(0),
-                              filters.value(1), filters.value(2), sort, false});
+    page.result = dictionary(Data, Fetch, {scratch.propsString(), Stock, place, Period, pageSize, pageIndex, filters.value(0),
+                                           filters.value(1), filters.value(2), sort, false});
     if (page.result) {
         page.rows = takeObject<Recordset>(page.result->Item(u"Rows"_s));
         page.totals = takeObject<Recordset>(page.result->Item(u"Totals"_s));
@@ -125,26 +108,20 @@ Page fetchPage(const ScratchAccountSet &scratch, int pageSize, int pageIndex, co
     return page;
 }
 
-} // namespace
-
-namespace {
-
 // An item row as the entry grid inserts it: year start = opening = qty, amount 10 a unit.
 QString itemRowInsert(int item, int aux, const QString &batch, double qty)
 {
-    return u"Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo, "
-                          "FYtdAuxBegQty,FYtdBegBal,FYtdBegDiff, FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff, "
-                          "FYtdAuxSend,FYtdCredit,FYtdSendDiff, FAuxBegQty,FBegBal,FBegDiff, FAuxUnitBegQty,"
-                          "FYtdAuxUnitBegQty,FYtdAuxUnitSend, FYtdAuxUnitReceive,FStockInDate,FSecUnitID,FAuxPropID,"
-                          "FSecCoefficient,FFieldCompose) Values('0',%1,%2,0,%3,1,'%4',%5,%6,0.1,0,0,0,0,0,0,%5,%6,0.1,"
-                          "0,0,0,0,'2024-04-01',0,%7,0,'%2|0|%1|%3|%7')"_s
+    return u"Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo, FYtdAuxBegQty,FYtdBegBal,"
+           "FYtdBegDiff, FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff, FYtdAuxSend,FYtdCredit,FYtdSendDiff, FAuxBegQty,FBegBal,"
+           "FBegDiff, FAuxUnitBegQty,FYtdAuxUnitBegQty,FYtdAuxUnitSend, FYtdAuxUnitReceive,FStockInDate,FSecUnitID,"
+           "FAuxPropID,FSecCoefficient,FFieldCompose) Values('0',%1,%2,0,%3,1,'%4',%5,%6,0.1,0,0,0,0,0,0,%5,%6,0.1,0,0,0,0,"
+           "'2024-04-01',0,%7,0,'%2|0|%1|%3|%7')"_s
         .arg(Period).arg(Stock).arg(item).arg(batch).arg(qty).arg(qty * 10).arg(aux);
 }
 
 QString itemDelete(int item, int aux)
 {
-    return u"Delete from ICInvInitial Where FStockID=%1 And FSPID=0 And FPeriod=%2 And FItemID = %3 "
-                          "And FAuxPropID = %4"_s
+    return u"Delete from ICInvInitial Where FStockID=%1 And FSPID=0 And FPeriod=%2 And FItemID = %3 And FAuxPropID = %4"_s
         .arg(Stock).arg(Period).arg(item).arg(aux);
 }
 
@@ -154,18 +131,14 @@ QList<double> summedAfresh(const QSqlDatabase &db)
     QStringList sums;
     for (const QString &figure : PlaceTotals::figures())
         sums.append(u"coalesce(sum(%1),0)"_s.arg(figure));
-    QSqlQuery query = SqlRun::exec(
-        db,
-        u"SELECT (SELECT count(*) FROM (SELECT DISTINCT FItemID, FAuxPropID FROM ICInvInitial "
-                       "WHERE FStockID=? AND FSPID=0 AND FPeriod=?) d), %1 FROM ICInvInitial "
-                       "WHERE FStockID=? AND FSPID=0 AND FPeriod=?"_s
-            .arg(sums.join(QLatin1Char(','))),
-        {Stock, Period, Stock, Period});
+    QSqlQuery query = SqlRun::exec(db, u"SELECT (SELECT count(*) FROM (SELECT DISTINCT FItemID, FAuxPropID FROM ICInvInitial "
+                                       "WHERE FStockID=? AND FSPID=0 AND FPeriod=?) d), %1 FROM ICInvInitial "
+                                       "WHERE FStockID=? AND FSPID=0 AND FPeriod=?"_s.arg(sums.join(u',')),
+                                   {Stock, Period, Stock, Period});
+    query.next(); // sums without GROUP BY: always one row
     QList<double> values;
-    if (query.next()) {
-        for (int i = 0; i <= int(PlaceTotals::figures().size()); ++i)
-            values.append(PlaceTotals::rounded(query.value(i).toDouble()));
-    }
+    for (int i = 0; i <= int(PlaceTotals::figures().size()); ++i)
+        values.append(PlaceTotals::rounded(query.value(i).toDouble()));
     return values;
 }
 
@@ -238,22 +211,19 @@ private slots:
         ScratchAccountSet scratch(backend);
         const QSqlDatabase db = scratch.db();
         seedPlace(db);
-        const auto count = [&](const QString &table) {
-            return SqlRun::scalar(db, u"SELECT count(*) FROM %1"_s.arg(table)).toInt();
+        const auto counts = [&] {
+            return SqlRun::scalar(db, u"SELECT (SELECT count(*) FROM ICInvInitial) || '/' || (SELECT count(*) FROM t_ICItem)"_s);
         };
-        const int balances = count(u"ICInvInitial"_s);
-        const int items = count(u"t_ICItem"_s);
+        const QVariant before = counts();
 
         const Page page = fetchPage(scratch, 3, pageIndex, filters, sort);
         QVERIFY(page.rows && page.totals);
         QTEST(rowKeys(*page.rows), "rows");
-        QCOMPARE(page.recordCount(), records);
-        QCOMPARE(page.totalPages(), (records + 2) / 3);
-        QCOMPARE(page.total("FInitBegQty"), totalQty);
-        QCOMPARE(page.total("FInitBegBal"), totalQty * 10);
+        QCOMPARE((QList<double>{double(page.recordCount()), page.result->Item(u"TotalPages"_s).toDouble(),
+                                page.total("FInitBegQty"), page.total("FInitBegBal")}),
+                 (QList<double>{double(records), double((records + 2) / 3), totalQty, totalQty * 10}));
         // Nothing a filter says reaches the database as SQL.
-        QCOMPARE(count(u"ICInvInitial"_s), balances);
-        QCOMPARE(count(u"t_ICItem"_s), items);
+        QCOMPARE(counts(), before);
         QCOMPARE(errorNumberOf([&] { fetchPage(scratch, 0, 1); }), DataError::BadPage);
         QCOMPARE(errorNumberOf([&] { fetchPage(scratch, 3, 0); }), DataError::BadPage);
     }
@@ -286,11 +256,8 @@ private slots:
         const auto rs = recordset(Data, u"FetchYtdItemDetail"_s, {scratch.propsString(), code});
         QVERIFY(rs);
         QCOMPARE(rs->RecordCount(), int(found));
-        if (found) {
-            QCOMPARE(rs->Fields(u"FItemID"_s).toInt(), RoundSteel);
-            QCOMPARE(rs->Fields(u"FUnitName"_s).toString(), u"千克"_s);
-            QCOMPARE(rs->Fields(u"FTrackName"_s).toString(), u"移动平均法"_s);
-        }
+        if (found)
+            QCOMPARE(fields(*rs, {"FItemID", "FUnitName", "FTrackName"}), (QVariantList{RoundSteel, u"千克"_s, u"移动平均法"_s}));
     }
 
     void initDataListsTheItemRows_data()
@@ -299,8 +266,7 @@ private slots:
         QTest::addColumn<int>("auxPropId"); // -1: the two-argument form
         QTest::addColumn<QStringList>("composes");
         QTest::addColumn<int>("error");
-        QTest::newRow("both properties") << "70|0|4|2" << -1
-                                         << QStringList{u"70|0|4|2|0"_s, u"70|0|4|2|1"_s} << 0;
+        QTest::newRow("both properties") << "70|0|4|2" << -1 << QStringList{u"70|0|4|2|0"_s, u"70|0|4|2|1"_s} << 0;
         QTest::newRow("one property") << "70|0|4|2" << RedS << QStringList{u"70|0|4|2|1"_s} << 0;
         QTest::newRow("batch lines only") << " 70 | 0 | 4 | 1 " << -1 << QStringList{u"70|0|4|1|0"_s} << 0;
         QTest::newRow("other period") << "70|0|3|3" << -1 << QStringList{} << 0;
@@ -324,10 +290,7 @@ private slots:
         QCOMPARE(errorNumberOf([&] { rs = recordset(Data, u"GetInitData"_s, args); }), error);
         if (error != 0)
             return;
-        QStringList found;
-        for (const QVariant &value : column(*rs, u"FFieldCompose"_s))
-            found.append(value.toString());
-        QCOMPARE(found, composes);
+        QCOMPARE(QVariant(column(*rs, u"FFieldCompose"_s)).toStringList(), composes);
     }
 
     void batchLinesComeInTheAskedUnit()
@@ -342,15 +305,11 @@ private slots:
         // Ordered by bill number: B2 (bill 1) before B1 (bill 2); kilograms as stored.
         const auto stored = lines(0, true, false);
         QCOMPARE(column(*stored, u"FBatchNo"_s), (QVariantList{u"B2"_s, u"B1"_s}));
-        QCOMPARE(stored->Fields(u"FAuxBegQty"_s).toDouble(), 3.0);
-        QCOMPARE(stored->Fields(u"FBegBal"_s).toDouble(), 30.0);
-        QCOMPARE(stored->Fields(u"FLock"_s).toInt(), 0);
+        QCOMPARE(fields(*stored, {"FAuxBegQty", "FBegBal", "FLock"}), (QVariantList{3.0, 30.0, 0}));
 
         // In tonnes the quantities are a thousandth; amounts stay.
         const auto tonnes = lines(Tonne, true, false);
-        QCOMPARE(tonnes->Fields(u"FAuxBegQty"_s).toDouble(), 0.003);
-        QCOMPARE(tonnes->Fields(u"FBegBal"_s).toDouble(), 30.0);
-        QCOMPARE(tonnes->Fields(u"FUnitID"_s).toInt(), Tonne);
+        QCOMPARE(fields(*tonnes, {"FAuxBegQty", "FBegBal", "FUnitID"}), (QVariantList{0.003, 30.0, Tonne}));
 
         // Without batch or shelf-life management there are no lines; the lines have no production
         // date, so shelf-life management alone finds none either.
@@ -410,7 +369,6 @@ private slots:
         ScratchAccountSet scratch(backend);
         const QSqlDatabase db = scratch.db();
         seedPlace(db);
-        const auto data = CreateObject(Data);
 
         // Each step is a script of the shapes the controls write; after each, the totals the page
         // carries must be what the rows add up to.
@@ -437,17 +395,14 @@ private slots:
         };
         QCOMPARE(servedTotals(fetchPage(scratch, 3, 1)), summedAfresh(db));
         for (const auto &[name, script] : steps) {
-            Dispatch::call(data.get(), u"UpdateINIData"_s, {scratch.propsString(), script});
-            const QList<double> expected = summedAfresh(db);
-            QVERIFY2(servedTotals(fetchPage(scratch, 3, 1)) == expected, name);
+            call(Data, u"UpdateINIData"_s, {scratch.propsString(), script});
+            QVERIFY2(servedTotals(fetchPage(scratch, 3, 1)) == summedAfresh(db), name);
         }
         // Nothing is left, and the totals say so exactly, without binary residue.
         QCOMPARE(summedAfresh(db).first(), 0.0);
         QCOMPARE(servedTotals(fetchPage(scratch, 3, 1)), QList<double>(PlaceTotals::figures().size() + 1, 0.0));
         // The other place of the warehouse and the other period kept theirs.
-        const auto other = dictionary(Data, Fetch, {scratch.propsString(), Stock, OtherPlace, Period, 3, 1, {}, {}, {}, {}, false});
-        const auto otherTotals = takeObject<Recordset>(other->Item(u"Totals"_s));
-        QCOMPARE(otherTotals->Fields(u"FInitBegQty"_s).toDouble(), 1000.0);
+        QCOMPARE(fetchPage(scratch, 3, 1, {}, {}, OtherPlace).total("FInitBegQty"), 1000.0);
     }
 };
 

@@ -1,9 +1,10 @@
+#include "servicecalls.h"
+
 #include "frame/automation/progids.h"
 #include "services/tracelog.h"
 
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dispatch.h"
-#include "frame/automation/objectownership.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -24,14 +25,8 @@ class ControlList : public QObject
     Q_OBJECT
 
 public:
-    Q_INVOKABLE QVariantList Items() const
-    {
-        QVariantList items;
-        for (QObject *control : m_controls)
-            items.append(QVariant::fromValue(control));
-        return items;
-    }
-    QList<QObject *> m_controls;
+    Q_INVOKABLE QVariantList Items() const { return m_controls; }
+    QVariantList m_controls;
 };
 
 QSettings logSettings()
@@ -43,12 +38,6 @@ QString readAll(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-QVariant callService(const QString &progId, const QString &member, const QVariantList &args = {})
-{
-    const auto service = CreateObject(progId);
-    return Dispatch::call(service.get(), member, args);
 }
 
 } // namespace
@@ -79,11 +68,9 @@ private slots:
         for (const char *name :
              {"LumoMICInitial.Data", "LumoConnection.AppConnection", "LumoEBCGLView.GLData", "LumoNetControl.Mutex",
               "QLLogMsg.Log", "LumoPropsMgr.ShareProps", "LumoFrmRes.FrmResLoader"}) {
-            const QString progId = QString::fromLatin1(name);
             // ProgIDs are found without regard to case, as the suite's registry does.
-            const auto object = CreateObject(progId.toUpper());
-            QVERIFY2(object, qPrintable(progId));
-            QVERIFY(!object->parent());
+            const auto object = CreateObject(QString::fromLatin1(name).toUpper());
+            QVERIFY2(object && !object->parent(), name);
         }
     }
 
@@ -92,10 +79,10 @@ private slots:
         const int pid = int(QCoreApplication::applicationPid());
         // Each call on a new service object: the storage belongs to the process, not to an object.
         const auto set = [&](const QString &key, const QVariant &value) {
-            callService(ProgId::ShareProps, u"SetProperty"_s, {pid, key, value});
+            ServiceCalls::call(ProgId::ShareProps, u"SetProperty"_s, {pid, key, value});
         };
         const auto get = [](int process, const QString &key) {
-            return callService(ProgId::ShareProps, u"GetProperty"_s, {process, key});
+            return ServiceCalls::call(ProgId::ShareProps, u"GetProperty"_s, {process, key});
         };
         const QString props = u"UserName=演示员;UserID=16;AcctDB={/tmp/a.db};"_s;
         set(u"PropsString"_s, props);
@@ -168,24 +155,18 @@ private slots:
         auto *inner = new QWidget(&form);
         auto *label = new QLabel(u"仓    库:"_s, inner);
         auto *title = new QLabel(u"存货初始数据录入"_s, &form);
-        QFont titleFont = title->font();
-        titleFont.setPointSize(15);
-        titleFont.setBold(true);
-        title->setFont(titleFont);
+        title->setFont(QFont(title->font().family(), 15, QFont::Bold));
         auto *helper = new QObject(&form);
         helper->setProperty("font", u"untouched"_s);
-        callService(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&form), u"chs"_s});
+        ServiceCalls::call(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&form), u"chs"_s});
         const bool cjkInstalled = QFontDatabase::families().contains(u"WenQuanYi Micro Hei"_s);
-        for (const QWidget *widget : QList<const QWidget *>{&form, inner, label}) {
-            QCOMPARE(widget->font().pointSize(), 9);
+        // The title keeps its emphasis and takes only the family.
+        for (const auto &[widget, size] : {std::pair<const QWidget *, int>{&form, 9}, {inner, 9}, {label, 9}, {title, 15}}) {
+            QCOMPARE(widget->font().pointSize(), size);
             if (cjkInstalled)
                 QCOMPARE(widget->font().family(), u"WenQuanYi Micro Hei"_s);
         }
-        // The title keeps its emphasis and takes only the family.
-        QCOMPARE(title->font().pointSize(), 15);
         QVERIFY(title->font().bold());
-        if (cjkInstalled)
-            QCOMPARE(title->font().family(), u"WenQuanYi Micro Hei"_s);
         QCOMPARE(helper->property("font").toString(), u"untouched"_s);
 
         // A collection of controls is not their parent: its items take the font, and their children.
@@ -193,8 +174,8 @@ private slots:
         auto *node = new QLabel(u"全部仓库"_s, &tree);
         QWidget outside;
         ControlList controls;
-        controls.m_controls = {&tree};
-        callService(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&controls), u"chs"_s});
+        controls.m_controls = {QVariant::fromValue<QObject *>(&tree)};
+        ServiceCalls::call(ProgId::FrmResLoader, u"SetFrmFont"_s, {QVariant::fromValue<QObject *>(&controls), u"chs"_s});
         QCOMPARE(tree.font().pointSize(), 9);
         QCOMPARE(node->font().pointSize(), 9);
         QCOMPARE(outside.font(), QApplication::font());

@@ -15,17 +15,18 @@
 #include <QFile>
 #include <QTest>
 
+#include <map>
+
 using namespace Qt::StringLiterals;
 using ServiceCalls::errorNumberOf;
 
 namespace {
 
-QStringList lowered(const QStringList &names)
+QStringList lowered(QStringList names)
 {
-    QStringList result;
-    for (const QString &name : names)
-        result.append(name.toLower());
-    return result;
+    for (QString &name : names)
+        name = name.toLower();
+    return names;
 }
 
 } // namespace
@@ -57,27 +58,18 @@ private slots:
     void holdsEveryColumnTheScriptsWrite()
     {
         // The script executor writes these columns; an account set without one would refuse saves.
+        const std::map<script::ColumnKind, QList<ColumnType>> accepted{
+            {script::ColumnKind::Integer, {ColumnType::Integer, ColumnType::SmallInt, ColumnType::BigInt}},
+            {script::ColumnKind::Real, {ColumnType::Real}},
+            {script::ColumnKind::Text, {ColumnType::Text, ColumnType::LongText}},
+            {script::ColumnKind::Date, {ColumnType::Date}}};
         for (const script::TableDef &written : script::catalogue::tables) {
             const TableDecl *table = Schema::table(QString::fromLatin1(written.name));
             QVERIFY2(table, written.name);
             for (const script::ColumnDef &column : written.columns) {
                 const ColumnDecl *declared = table->column(QString::fromLatin1(column.name));
-                QVERIFY2(declared, qPrintable(table->name + QLatin1Char('.') + QLatin1String(column.name)));
-                switch (column.kind) {
-                case script::ColumnKind::Integer:
-                    QVERIFY(declared->type == ColumnType::Integer || declared->type == ColumnType::SmallInt
-                            || declared->type == ColumnType::BigInt);
-                    break;
-                case script::ColumnKind::Real:
-                    QCOMPARE(declared->type, ColumnType::Real);
-                    break;
-                case script::ColumnKind::Text:
-                    QVERIFY(declared->type == ColumnType::Text || declared->type == ColumnType::LongText);
-                    break;
-                case script::ColumnKind::Date:
-                    QCOMPARE(declared->type, ColumnType::Date);
-                    break;
-                }
+                const QString name = table->name + QLatin1Char('.') + QLatin1String(column.name);
+                QVERIFY2(declared && accepted.at(column.kind).contains(declared->type), qPrintable(name));
             }
         }
     }
@@ -105,21 +97,19 @@ private slots:
             QCOMPARE(SchemaManager(old, dialect).version(), 1);
             QVERIFY(!lowered(dialect.tableNames(old)).contains(u"t_auxclass"_s));
             QVERIFY(!lowered(dialect.columnNames(old, u"t_ICItem"_s)).contains(u"fauxclassid"_s));
-            SqlRun::exec(old, u"INSERT INTO t_UnitGroup (FUnitGroupID, FNumber, FName) VALUES (7, '07', '旧组')"_s);
-            SqlRun::exec(old,
-                         u"INSERT INTO t_MeasureUnit (FMeasureUnitID, FUnitGroupID, FNumber, FName) "
-                         "VALUES (70, 7, '070', '旧单位')"_s);
-            SqlRun::exec(old,
-                         u"INSERT INTO t_ICItem (FItemID, FNumber, FName, FUnitGroupID, FUnitID) "
-                         "VALUES (5, 'OLD.1', '旧物料', 7, 70)"_s);
+            SqlRun::execAll(old, {u"INSERT INTO t_UnitGroup (FUnitGroupID, FNumber, FName) VALUES (7, '07', '旧组')"_s,
+                                  u"INSERT INTO t_MeasureUnit (FMeasureUnitID, FUnitGroupID, FNumber, FName) "
+                                  "VALUES (70, 7, '070', '旧单位')"_s,
+                                  u"INSERT INTO t_ICItem (FItemID, FNumber, FName, FUnitGroupID, FUnitID) "
+                                  "VALUES (5, 'OLD.1', '旧物料', 7, 70)"_s,
+                                  u"INSERT INTO t_Stock (FItemID, FNumber, FName) VALUES (3, '03', '旧仓')"_s});
             // Balance rows from before the place totals: two lines of one item row, and another place.
-            SqlRun::exec(old, u"INSERT INTO t_Stock (FItemID, FNumber, FName) VALUES (3, '03', '旧仓')"_s);
             const QString line = u"INSERT INTO ICInvInitial (FBrNo, FPeriod, FStockID, FSPID, FItemID, "
                                  "FUnitID, FBatchNo, FAuxPropID, FAuxBegQty, FBegBal, FFieldCompose) "
                                  "VALUES ('0', 1, 3, ?, 5, 70, ?, 0, ?, ?, '')"_s;
-            SqlRun::exec(old, line, {0, u"A"_s, 2.0, 20.5});
-            SqlRun::exec(old, line, {0, u"B"_s, 3.0, 30.25});
-            SqlRun::exec(old, line, {4, QString(QLatin1String("")), 1.0, 9.0});
+            for (const QVariantList &values : {QVariantList{0, u"A"_s, 2.0, 20.5}, QVariantList{0, u"B"_s, 3.0, 30.25},
+                                               QVariantList{4, QString(QLatin1String("")), 1.0, 9.0}})
+                SqlRun::exec(old, line, values);
             old.close();
         }
         QSqlDatabase::removeDatabase(u"v1"_s);
@@ -182,10 +172,8 @@ private slots:
         QCOMPARE(SqlRun::scalar(db, valueSql).toString(), u"2"_s);
         QCOMPARE(SqlRun::scalar(db, u"SELECT count(*) FROM t_SystemProfile WHERE FCategory='T'"_s).toInt(), 1);
 
-        QCOMPARE(SqlRun::scalar(
-                     db, u"SELECT %1 FROM t_Currency WHERE FCurrencyID=1"_s.arg(dialect.isNull(u"NULL"_s, u"FScale"_s)))
-                     .toInt(),
-                 2);
+        const QString scale = dialect.isNull(u"NULL"_s, u"FScale"_s);
+        QCOMPARE(SqlRun::scalar(db, u"SELECT %1 FROM t_Currency WHERE FCurrencyID=1"_s.arg(scale)).toInt(), 2);
         SqlRun::exec(db,
                      u"INSERT INTO t_TaskMutex (FTaskID, FComputerName, FProcessID, FStartTime) VALUES (1, 'PC', 1, ?)"_s,
                      {QDateTime(QDate(2024, 3, 5), QTime(23, 59, 58))});
@@ -259,8 +247,7 @@ private slots:
             return;
         }
         QCOMPARE((QStringList{location.host(), QString::number(location.port()), location.userName(), location.password(),
-                              location.databaseName(), location.schema()}),
-                 parts);
+                              location.databaseName(), location.schema()}), parts);
         QVERIFY2(location.password().isEmpty() || !location.key().contains(location.password()),
                  "the password stays out of connection names");
     }
