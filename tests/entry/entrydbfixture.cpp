@@ -53,11 +53,14 @@ bool show(ICInitCtl &control, const ScratchAccountSet &scratch, QObject *host)
     return control.Show(host, host == nullptr);
 }
 
-int itemRow(const ICInitCtl &control, int itemId)
+int itemRow(const ICInitCtl &control, const QVariant &item)
 {
     const EntrySheet &sheet = *control.sheet();
+    const bool byCode = item.typeId() == QMetaType::QString;
     for (int row = 1; row <= sheet.lastDataRow(); ++row) {
-        if (sheet.isItemRow(row) && int(control.grid()->number(row, EntryCol::ItemID)) == itemId)
+        if (sheet.isItemRow(row)
+            && (byCode ? control.grid()->TextMatrix(row, EntryCol::Number) == item.toString()
+                       : int(control.grid()->number(row, EntryCol::ItemID)) == item.toInt()))
             return row;
     }
     return 0;

@@ -29,7 +29,8 @@ void setParameter(const ScratchAccountSet &scratch, const QString &key, const QV
 // Publishes the login of the scratch set and shows the control on it; with a host window it is
 // hosted, else shown as the tests show it. False when Show failed.
 bool show(ICInitCtl &control, const ScratchAccountSet &scratch, QObject *host = nullptr);
-// The grid row of an item row of the place shown; 0 when it is not on the page.
-int itemRow(const ICInitCtl &control, int itemId);
+// The grid row of an item row of the place shown, found by item id or, given a text, by code; 0
+// when it is not on the page.
+int itemRow(const ICInitCtl &control, const QVariant &item);
 
 } // namespace EntryDb
