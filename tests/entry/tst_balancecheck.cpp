@@ -19,7 +19,21 @@ QString lines(std::initializer_list<const char *> parts)
 constexpr int OrdinaryStock = 501;
 constexpr int AgencyStock = BalanceCheck::AgencyStockType;
 
+// One group typed under the account set's rules, and the refusal expected; empty: the group passes.
+struct Case
+{
+    double quantity, amount, difference;
+    int stockType;
+    bool underStock;
+    int auditChoice;
+    bool allocate;
+    int track;
+    QString message;
+};
+
 } // namespace
+
+Q_DECLARE_METATYPE(Case)
 
 class TestBalanceCheck : public QObject
 {
@@ -28,16 +42,7 @@ class TestBalanceCheck : public QObject
 private slots:
     void group_data()
     {
-        QTest::addColumn<double>("quantity");
-        QTest::addColumn<double>("amount");
-        QTest::addColumn<double>("difference");
-        QTest::addColumn<int>("stockType");
-        QTest::addColumn<bool>("underStock");
-        QTest::addColumn<int>("auditChoice");
-        QTest::addColumn<bool>("allocate");
-        QTest::addColumn<int>("track");
-        QTest::addColumn<QString>("message"); // empty: the group passes
-
+        QTest::addColumn<Case>("c");
         const QString negative =
             lines({"录入的数据[数量<0]！", "但账套不允许负结存,因此数量不能<0！", "数据非法！请重新录入！"});
         const QString negativePrice = lines({"录入的数据[数量>0，金额<0]！", "单价将出现负数，数据非法！请重新录入！"});
@@ -46,65 +51,43 @@ private slots:
             lines({"录入的数据[金额=0]！", "但账套实行数量金额核算,因此金额不能等于0！", "数据非法！请重新录入！"});
         const QString allocation = lines({"分摊的数据[数量=0，金额<>0]！", "单价将不一致，数据非法！请重新录入！"});
 
-        struct Case
-        {
-            const char *name;
-            double quantity, amount, difference;
-            int stockType;
-            bool underStock;
-            int auditChoice;
-            bool allocate;
-            int track;
-            QString message;
-        };
         constexpr int Wa = Valuation::WeightedAverage;
         constexpr int Ma = Valuation::MovingAverage;
-        const Case cases[] = {
-            {"negative stock refused", -5, -100, 0, OrdinaryStock, false, 0, false, 0, negative},
-            {"negative stock allowed", -5, -100, 0, OrdinaryStock, true, 0, false, 0, {}},
+        constexpr int Ord = OrdinaryStock;
+        const std::pair<const char *, Case> cases[] = {
+            {"negative stock refused", {-5, -100, 0, Ord, false, 0, false, 0, negative}},
+            {"negative stock allowed", {-5, -100, 0, Ord, true, 0, false, 0, {}}},
             // Without negative stock the sign of the quantity is refused before the price rules look.
-            {"negative quantity, positive value, no negative stock", -1, 5, 0, OrdinaryStock, false, 0, false, 0, negative},
-            {"negative quantity, positive value", -1, 5, 0, OrdinaryStock, true, 0, false, 0, positiveValue},
-            {"positive quantity, negative amount", 1, -1, 0, OrdinaryStock, true, 0, false, 0, negativePrice},
+            {"negative quantity, positive value, no negative stock", {-1, 5, 0, Ord, false, 0, false, 0, negative}},
+            {"negative quantity, positive value", {-1, 5, 0, Ord, true, 0, false, 0, positiveValue}},
+            {"positive quantity, negative amount", {1, -1, 0, Ord, true, 0, false, 0, negativePrice}},
             // The value is amount plus difference: a difference larger than the amount turns the price.
-            {"difference turns the value negative", 2, 5, -10, OrdinaryStock, true, 0, false, 0, negativePrice},
-            {"difference alone gives the value", 2, 0, 3, OrdinaryStock, true, 1, false, 0, {}},
-            {"quantity without amount, amounts kept", 3, 0, 0, OrdinaryStock, true, 1, false, 0, noAmount},
-            {"amount and difference cancel, amounts kept", 3, 5, -5, OrdinaryStock, true, 1, false, 0, noAmount},
-            {"quantity without amount, quantities only", 3, 0, 0, OrdinaryStock, true, 0, false, 0, {}},
-            {"quantity without amount, agency warehouse", 3, 0, 0, AgencyStock, true, 1, false, 0, {}},
-            {"value without quantity, entry grid", 0, 10, 0, OrdinaryStock, true, 1, false, Wa, {}},
-            {"value without quantity, allocated weighted average", 0, 10, 0, OrdinaryStock, true, 1, true, Wa, allocation},
-            {"value without quantity, allocated moving average", 0, 10, 0, OrdinaryStock, true, 1, true, Ma, allocation},
-            {"difference without quantity, allocated moving average", 0, 0, -4, OrdinaryStock, true, 1, true, Ma,
-             allocation},
-            {"value without quantity, allocated FIFO", 0, 10, 0, OrdinaryStock, true, 1, true, Valuation::Fifo, {}},
-            {"value without quantity, allocated unknown method", 0, 10, 0, OrdinaryStock, true, 1, true, 12345, {}},
-            {"allocated average with quantity", 2, 10, 0, OrdinaryStock, true, 1, true, Wa, {}},
+            {"difference turns the value negative", {2, 5, -10, Ord, true, 0, false, 0, negativePrice}},
+            {"difference alone gives the value", {2, 0, 3, Ord, true, 1, false, 0, {}}},
+            {"quantity without amount, amounts kept", {3, 0, 0, Ord, true, 1, false, 0, noAmount}},
+            {"amount and difference cancel, amounts kept", {3, 5, -5, Ord, true, 1, false, 0, noAmount}},
+            {"quantity without amount, quantities only", {3, 0, 0, Ord, true, 0, false, 0, {}}},
+            {"quantity without amount, agency warehouse", {3, 0, 0, AgencyStock, true, 1, false, 0, {}}},
+            {"value without quantity, entry grid", {0, 10, 0, Ord, true, 1, false, Wa, {}}},
+            {"value without quantity, allocated weighted average", {0, 10, 0, Ord, true, 1, true, Wa, allocation}},
+            {"value without quantity, allocated moving average", {0, 10, 0, Ord, true, 1, true, Ma, allocation}},
+            {"difference without quantity, allocated moving average", {0, 0, -4, Ord, true, 1, true, Ma, allocation}},
+            {"value without quantity, allocated FIFO", {0, 10, 0, Ord, true, 1, true, Valuation::Fifo, {}}},
+            {"value without quantity, allocated unknown method", {0, 10, 0, Ord, true, 1, true, 12345, {}}},
+            {"allocated average with quantity", {2, 10, 0, Ord, true, 1, true, Wa, {}}},
         };
-        for (const Case &c : cases) {
-            QTest::newRow(c.name) << c.quantity << c.amount << c.difference << c.stockType << c.underStock
-                                  << c.auditChoice << c.allocate << c.track << c.message;
-        }
+        for (const auto &[name, c] : cases)
+            QTest::newRow(name) << c;
     }
 
     void group()
     {
-        QFETCH(double, quantity);
-        QFETCH(double, amount);
-        QFETCH(double, difference);
-        QFETCH(int, stockType);
-        QFETCH(bool, underStock);
-        QFETCH(int, auditChoice);
-        QFETCH(bool, allocate);
-        QFETCH(int, track);
-        QFETCH(QString, message);
-
+        QFETCH(Case, c);
         int emptyGroups = 0;
-        const BalanceVerdict verdict = BalanceCheck::check(quantity, amount, difference, emptyGroups, allocate, track,
-                                                           {stockType, underStock, auditChoice});
-        QCOMPARE(verdict.valid, message.isEmpty());
-        QCOMPARE(verdict.lines.join(CrLf), message);
+        const BalanceVerdict verdict = BalanceCheck::check(c.quantity, c.amount, c.difference, emptyGroups, c.allocate,
+                                                           c.track, {c.stockType, c.underStock, c.auditChoice});
+        QCOMPARE(verdict.valid, c.message.isEmpty());
+        QCOMPARE(verdict.lines.join(CrLf), c.message);
         QCOMPARE(emptyGroups, 0);
     }
 
