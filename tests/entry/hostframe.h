@@ -1,8 +1,7 @@
 #pragma once
 
+#include <QKeyEvent>
 #include <QWidget>
-
-class BarList;
 
 // The host's child window as the suite shows a control in it: it takes the menu and toolbar
 // description, reports its toolbar's clicks by key, and closes on Ctrl+F4.
@@ -18,7 +17,13 @@ signals:
     void ToolBarClick(const QString &key);
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (event->key() != Qt::Key_F4 || event->modifiers() != Qt::ControlModifier)
+            return QWidget::keyPressEvent(event);
+        m_closedByKey = true;
+        close();
+    }
 
 private:
     QList<QObject *> m_menuBars;

@@ -129,23 +129,14 @@ struct Snapshot
 
     static Snapshot of(ICInitCtl &control, HostFrame &host, const ScratchAccountSet &scratch)
     {
-        Snapshot s;
-        s.rows = control.grid()->rows();
-        s.row = control.grid()->row();
-        s.col = control.grid()->col();
-        s.treeShown = control.tree()->isVisibleTo(&control);
-        s.toolbarShown = control.barList()->toolbarVisible();
-        s.labels = control.barList()->toolbarLabels();
-        s.statusShown = control.statusPanels()->isVisibleTo(&control);
-        for (const QString &key : control.barList()->Keys()) {
-            if (control.barList()->isChecked(key))
-                s.checked.append(key);
-        }
-        s.hostShown = host.isVisible();
-        s.sums = sumsOfPlace(scratch, ShelfBId);
-        s.topLevels = int(QApplication::topLevelWidgets().size());
-        s.nameWidth = control.grid()->colWidth(EntryCol::Name);
-        return s;
+        const SpreadGrid &grid = *control.grid();
+        const BarList &bars = *control.barList();
+        QStringList checked = bars.Keys();
+        checked.removeIf([&bars](const QString &key) { return !bars.isChecked(key); });
+        return {grid.rows(), grid.row(), grid.col(), control.tree()->isVisibleTo(&control), bars.toolbarVisible(),
+                bars.toolbarLabels(), control.statusPanels()->isVisibleTo(&control), checked, host.isVisible(),
+                sumsOfPlace(scratch, ShelfBId), int(QApplication::topLevelWidgets().size()),
+                grid.colWidth(EntryCol::Name)};
     }
 
     bool operator==(const Snapshot &) const = default;
@@ -319,24 +310,18 @@ private slots:
     void toggleClickedTwiceKeepsTheSavedSetting_data()
     {
         QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("setting");
-        QTest::newRow("toolbar") << EntryKeys::ToolBar << QString::fromLatin1(Setting::ShowToolBar.key);
-        QTest::newRow("labels") << EntryKeys::ToolBarLabel << QString::fromLatin1(Setting::ShowToolBarLabel.key);
-        QTest::newRow("status bar") << EntryKeys::StatusBar << QString::fromLatin1(Setting::ShowStateBar.key);
-        QTest::newRow("default stock") << EntryKeys::DefaultStock << QString::fromLatin1(Setting::ShowDefaultStock.key);
-        QTest::newRow("refresh") << EntryKeys::AutoRefresh << QString::fromLatin1(Setting::ShowRefresh.key);
+        QTest::addColumn<int>("setting"); // its place in viewSettings
+        const QString keys[] = {EntryKeys::ToolBar, EntryKeys::ToolBarLabel, EntryKeys::StatusBar,
+                                EntryKeys::DefaultStock, EntryKeys::AutoRefresh};
+        for (int i = 0; i < 5; ++i)
+            QTest::newRow(viewSettings[i]->key) << keys[i] << i;
     }
 
     void toggleClickedTwiceKeepsTheSavedSetting()
     {
         QFETCH(QString, key);
-        QFETCH(QString, setting);
-        const SettingSpec *viewSetting = nullptr;
-        for (const SettingSpec *s : viewSettings) {
-            if (QLatin1String(s->key) == setting)
-                viewSetting = s;
-        }
-        QVERIFY(viewSetting);
+        QFETCH(int, setting);
+        const SettingSpec *viewSetting = viewSettings[setting];
         // Stored the other way round from the default, so that a reset to defaults would show.
         const bool stored = !viewSetting->defaultValue.toBool();
         SettingsStore::setValue(*viewSetting, stored);
