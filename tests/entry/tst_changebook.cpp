@@ -13,11 +13,7 @@ namespace {
 std::unique_ptr<ICInitStruct> record(int itemId, int auxPropId, double begBal)
 {
     auto r = std::make_unique<ICInitStruct>();
-    r->StockID = 12;
-    r->Period = 3;
-    r->ItemID = itemId;
-    r->AuxPropID = auxPropId;
-    r->BegBal = begBal;
+    r->StockID = 12; r->Period = 3; r->ItemID = itemId; r->AuxPropID = auxPropId; r->BegBal = begBal;
     return r;
 }
 

@@ -96,15 +96,6 @@ public:
 
 constexpr int TotalsMark = -100;
 
-// A figure as the grid shows it: thousands separated, the given decimal places.
-QString shown(double value, int decimals)
-{
-    QLocale c(QLocale::C);
-    c.setNumberOptions(QLocale::DefaultNumberOptions);
-    return c.toString(value, 'f', decimals);
-}
-
-// Rows whose item id column holds the totals mark.
 QList<int> totalsRows(const SpreadGrid &grid)
 {
     QList<int> rows;
@@ -184,7 +175,6 @@ private:
             "SELECT * FROM ICInvInitial ORDER BY FStockID, FSPID, FItemID, FAuxPropID, FBatchNo, FBillInterID"));
     }
 
-    // The opening quantity stored under a record key.
     double storedQty(const QString &key) const
     {
         return scalar(QStringLiteral("SELECT FAuxBegQty FROM ICInvInitial WHERE FFieldCompose=?"), {key}).toDouble();
@@ -199,10 +189,10 @@ private:
                                                        : QStringLiteral("K%1P%2").arg(stockId).arg(spId)));
     }
 
-    // The item rows' codes, top to bottom.
-    QStringList codes() const
+    // The page label, then the item rows' codes top to bottom.
+    QStringList page() const
     {
-        QStringList list;
+        QStringList list{m_control->pageLabel()};
         for (int row = 1; row <= sheet().lastDataRow(); ++row) {
             if (sheet().isItemRow(row))
                 list.append(grid().TextMatrix(row, EntryCol::Number));
@@ -224,13 +214,11 @@ private:
         return texts;
     }
 
-    // The one message the prompter showed.
     QString onlyMessage() const
     {
         return m_prompter.messages().size() == 1 ? m_prompter.messages().first().text : QString();
     }
 
-    // A new row with an item typed into its code cell.
     int addItemRow(const QString &code)
     {
         const int row = m_control->AddNewRow();
@@ -264,7 +252,6 @@ private slots:
         addBackendRows();
     }
 
-    // Each case starts on a fresh demo account set.
     void init()
     {
         QFETCH_GLOBAL(QString, backend);
@@ -285,9 +272,8 @@ private slots:
     void loadsAWarehouseAndAStockPlace()
     {
         clickNode(RawMaterials, 2);
-        QCOMPARE(codes(), QStringList({"1.01.002", "1.02.002", "1.03.002", "1.04.001", "1.04.002", "1.05.001",
-                                       "3.02.002", "3.02.002"}));
-        QCOMPARE(m_control->pageLabel(), QStringLiteral("1/1"));
+        QCOMPARE(page(), QStringList({"1/1", "1.01.002", "1.02.002", "1.03.002", "1.04.001", "1.04.002", "1.05.001",
+                                      "3.02.002", "3.02.002"}));
         // Batch-managed items carry the unfold mark; the rest carry none.
         QStringList marks;
         for (int row = 1; row <= sheet().lastDataRow(); ++row)
@@ -309,10 +295,9 @@ private slots:
 
         // A warehouse without stock places shows its own rows; an empty one shows none.
         clickNode(SemiFinished);
-        QCOMPARE(codes(), QStringList({"2.01.001", "2.01.002"}));
+        QCOMPARE(page(), QStringList({"1/1", "2.01.001", "2.01.002"}));
         clickNode(7);
-        QCOMPARE(codes(), QStringList());
-        QCOMPARE(m_control->pageLabel(), QStringLiteral("0/0"));
+        QCOMPARE(page(), QStringList{"0/0"});
         QVERIFY(m_prompter.messages().isEmpty());
     }
 
@@ -320,8 +305,7 @@ private slots:
     {
         m_control->setMlngPerPageSize(3);
         clickNode(RawMaterials, 2);
-        QCOMPARE(m_control->pageLabel(), QStringLiteral("1/3"));
-        QCOMPARE(codes(), QStringList({"1.01.002", "1.02.002", "1.03.002"}));
+        QCOMPARE(page(), QStringList({"1/3", "1.01.002", "1.02.002", "1.03.002"}));
 
         // Yes saves the page before the next one is shown.
         QVERIFY(grid().editCell(1, EntryCol::BegQty, 3100.0));
@@ -329,8 +313,7 @@ private slots:
         m_prompter.queueAnswer(Prompter::Answer::Yes);
         m_control->PageCommand(QStringLiteral("NEXTPAGE"));
         QCOMPARE(onlyMessage(), AskToSave);
-        QCOMPARE(m_control->pageLabel(), QStringLiteral("2/3"));
-        QCOMPARE(codes(), QStringList({"1.04.001", "1.04.002", "1.05.001"}));
+        QCOMPARE(page(), QStringList({"2/3", "1.04.001", "1.04.002", "1.05.001"}));
         QCOMPARE(storedQty(firstKey), 3100.0);
 
         // No drops the edit: the database and the page shown again keep the old figure.
@@ -347,8 +330,7 @@ private slots:
         QCOMPARE(m_prompter.messages().size(), 2); // nothing left to save: no question
         QCOMPARE(grid().number(1, EntryCol::BegQty), old);
         m_control->PageCommand(QStringLiteral("LASTPAGE"));
-        QCOMPARE(m_control->pageLabel(), QStringLiteral("3/3"));
-        QCOMPARE(codes(), QStringList({"3.02.002", "3.02.002"}));
+        QCOMPARE(page(), QStringList({"3/3", "3.02.002", "3.02.002"}));
     }
 
     // The save question comes before the load is logged; a No drops the edit and loads the node.
@@ -360,7 +342,7 @@ private slots:
         m_prompter.queueAnswer(Prompter::Answer::No);
         clickNode(SemiFinished);
         QCOMPARE(events, QStringList({AskToSave, QStringLiteral("log start"), QStringLiteral("log end")}));
-        QCOMPARE(codes(), QStringList({"2.01.001", "2.01.002"}));
+        QCOMPARE(page(), QStringList({"1/1", "2.01.001", "2.01.002"}));
     }
 
     void balanceRules_data()
@@ -530,7 +512,7 @@ private slots:
         QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("FItemID=?"), {Laptop}), 0);
         QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("FStockID=5 AND FSPID=3")), 3);
         QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("NOT (FStockID=5 AND FSPID=3)")), others);
-        QCOMPARE(codes(), QStringList({"3.01.001", "3.02.001", "3.02.001"}));
+        QCOMPARE(page(), QStringList({"1/1", "3.01.001", "3.02.001", "3.02.001"}));
     }
 
     void batchCellKeepsOtherEditsPendingUnlessTold_data()
@@ -664,6 +646,8 @@ private slots:
         QCOMPARE(grid().TextMatrix(row, EntryCol::Number), QStringLiteral("总计"));
         const QVector<double> sums = EntryDb::sumsOfPlace(*m_set, 2);
         const QList<int> columns = EntryDb::figureColumns();
+        QLocale shown(QLocale::C); // thousands separated
+        shown.setNumberOptions(QLocale::DefaultNumberOptions);
         // The whole place, not the two rows on the page.
         QVERIFY(sums.at(columns.indexOf(EntryCol::BegQty)) > grid().number(1, EntryCol::BegQty) * 2);
         for (int i = 0; i < columns.size(); ++i) {
@@ -671,7 +655,7 @@ private slots:
             const bool quantity = col == EntryCol::YtdBegQty || col == EntryCol::ReceiveQty
                                   || col == EntryCol::SendQty || col == EntryCol::BegQty;
             QCOMPARE(grid().number(row, col), sums.at(i));
-            QCOMPARE(grid().TextMatrix(row, col), shown(sums.at(i), quantity ? 3 : 2));
+            QCOMPARE(grid().TextMatrix(row, col), shown.toString(sums.at(i), 'f', quantity ? 3 : 2));
             QCOMPARE(grid().cellBackColor(row, col), SettingsStore::colorValue(Setting::SumColor));
         }
         // The secondary quantities are not summed.

@@ -21,22 +21,15 @@ constexpr qint32 Period = 3;
 std::unique_ptr<ICInitStruct> record(const QString &loadedKey = {}, bool batchManaged = false)
 {
     auto r = std::make_unique<ICInitStruct>();
-    r->Period = 3;
-    r->StockID = 12;
-    r->ItemID = 3057;
-    r->UnitID = 7;
+    r->Period = 3; r->StockID = 12; r->ItemID = 3057; r->UnitID = 7;
     // The four groups: quantity, amount, difference; then the secondary quantities.
     r->YtdAuxBegQty = 10; r->YtdBegBal = 100.5; r->YtdBegDiff = 0;
     r->YtdAuxReceive = 2; r->YtdDebit = 20; r->YtdReceiveDiff = 0.25;
     r->YtdAuxSend = 1; r->YtdCredit = 10.05; r->YtdSendDiff = 0;
     r->AuxBegQty = 11; r->BegBal = 110.45; r->BegDiff = 0.25;
     r->AuxUnitBegQty = 5.5; r->YtdAuxUnitBegQty = 5; r->YtdAuxUnitSend = 0.5; r->YtdAuxUnitReceive = 1;
-    r->StockInDate = QStringLiteral("2024-01-05");
-    r->SecUnitID = 9;
-    r->AuxPropID = 41;
-    r->SecCoefficient = 2;
-    r->oFieldCompose = loadedKey;
-    r->BatchManager = batchManaged;
+    r->StockInDate = QStringLiteral("2024-01-05"); r->SecUnitID = 9; r->AuxPropID = 41; r->SecCoefficient = 2;
+    r->oFieldCompose = loadedKey; r->BatchManager = batchManaged;
     return r;
 }
 
@@ -192,7 +185,6 @@ private slots:
     {
         QFETCH(QString, deleted);
         QVERIFY_THROWS_EXCEPTION(LumoError, SaveScript::build({}, {deleted}, Place, Period));
-        // Nothing changed writes nothing.
         QCOMPARE(SaveScript::build({}, {}, Place, Period), QString());
     }
 
