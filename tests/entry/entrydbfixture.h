@@ -11,8 +11,7 @@ class ScratchAccountSet;
 // What the entry control's database suites share.
 namespace EntryDb {
 
-// The demo company's raw-material shelves, as tree keys, and their stock place ids.
-inline const QString ShelfA = QStringLiteral("K1P1");
+// The demo company's raw-material shelves: their stock place ids, and shelf B's tree key.
 inline const QString ShelfB = QStringLiteral("K1P2");
 inline constexpr int ShelfAId = 1;
 inline constexpr int ShelfBId = 2;

@@ -30,11 +30,7 @@ namespace {
 enum class Effect { Saves, AddsRow, DeletesRow, ShowsTotals, Reloads, RestoresWidths, TogglesTree, Toggles,
                     ClosesFrame, Nothing };
 
-struct KeyEffect
-{
-    const char *key;
-    Effect effect;
-};
+using KeyEffect = std::pair<const char *, Effect>;
 
 // Every key of the control's menu and of its toolbar, and what it does in this build; the keys of
 // features still to come must be disabled and do nothing.
@@ -80,18 +76,16 @@ bool run(Route route, const QString &key, ICInitCtl &control, HostFrame &host)
     case Route::Menu:
         control.barList()->Click(key);
         return true;
-    case Route::ToolBar: {
-        auto *toolBar = control.findChild<QToolBar *>(QStringLiteral("tbICInit"));
-        QAction *action = nullptr;
-        for (QAction *a : toolBar ? toolBar->actions() : QList<QAction *>()) {
-            if (a->objectName() == key)
-                action = a;
+    case Route::ToolBar:
+        if (auto *toolBar = control.findChild<QToolBar *>(QStringLiteral("tbICInit"))) {
+            for (QAction *action : toolBar->actions()) {
+                if (action->objectName() == key) {
+                    action->trigger();
+                    return true;
+                }
+            }
         }
-        if (!action)
-            return false;
-        action->trigger();
-        return true;
-    }
+        return false;
     case Route::Host:
         emit host.ToolBarClick(key);
         return true;
@@ -114,18 +108,12 @@ std::unique_ptr<HostFrame> showAtShelfB(const ScratchAccountSet &scratch)
 // What the commands could change, taken before and after a command that must do nothing.
 struct Snapshot
 {
-    int rows = 0;
-    int row = 0;
-    int col = 0;
-    bool treeShown = false;
-    bool toolbarShown = false;
-    bool labels = false;
-    bool statusShown = false;
+    int rows = 0, row = 0, col = 0;
+    bool treeShown = false, toolbarShown = false, labels = false, statusShown = false;
     QStringList checked;
     bool hostShown = false;
     QVector<double> sums;
-    int topLevels = 0;
-    int nameWidth = 0;
+    int topLevels = 0, nameWidth = 0;
 
     static Snapshot of(ICInitCtl &control, HostFrame &host, const ScratchAccountSet &scratch)
     {
@@ -201,9 +189,10 @@ private slots:
         QTest::addColumn<int>("effect");
         // Each key through its own menu or toolbar and through the host's.
         const auto addRows = [](const KeyEffect &row, Route own) {
-            const QString key = QString::fromLatin1(row.key);
-            QTest::addRow("%s %s", own == Route::Menu ? "menu" : "toolbar", row.key) << int(own) << key << int(row.effect);
-            QTest::addRow("host %s", row.key) << int(Route::Host) << key << int(row.effect);
+            const auto [name, effect] = row;
+            const QString key = QString::fromLatin1(name);
+            QTest::addRow("%s %s", own == Route::Menu ? "menu" : "toolbar", name) << int(own) << key << int(effect);
+            QTest::addRow("host %s", name) << int(Route::Host) << key << int(effect);
         };
         for (const KeyEffect &row : menuKeys)
             addRows(row, Route::Menu);

@@ -33,7 +33,6 @@
 #include "grid/spreadgrid.h"
 
 #include <QApplication>
-#include <QDate>
 #include <QLocale>
 #include <QSqlQuery>
 #include <QSqlRecord>
@@ -47,11 +46,9 @@ namespace {
 constexpr int RawMaterials = 1;
 constexpr int SemiFinished = 2;
 constexpr int FinishedTwo = 5;
-constexpr int ShelfA = 1;
 constexpr int ShelfC = 3;
 constexpr int RoundSteel = 2;
 constexpr int Nut = 8;
-constexpr int MotorHousing = 10;
 constexpr int Laptop = 16;
 constexpr int Kilogram = 4;
 
@@ -106,8 +103,7 @@ QList<int> totalsRows(const SpreadGrid &grid)
     return rows;
 }
 
-using Edit = std::pair<int, double>;
-using Edits = QList<Edit>;
+using Edits = QList<std::pair<int, double>>;
 
 } // namespace
 
@@ -122,12 +118,13 @@ private:
     std::unique_ptr<ScratchAccountSet> m_set;
     std::unique_ptr<ICInitCtl> m_control;
 
-    // The control shown afresh on the account set with the two balance rules.
-    void show(int underStock, int auditChoice)
+    // The control shown afresh on the account set, with quantities and amounts kept and negative
+    // stock allowed or not.
+    void show(int underStock)
     {
         m_control.reset();
         EntryDb::setParameter(*m_set, QStringLiteral("UnderStock"), underStock);
-        EntryDb::setParameter(*m_set, QStringLiteral("AuditChoice"), auditChoice);
+        EntryDb::setParameter(*m_set, QStringLiteral("AuditChoice"), 1);
         m_control = std::make_unique<ICInitCtl>();
         QVERIFY(EntryDb::show(*m_control, *m_set));
         m_prompter.clear();
@@ -141,8 +138,7 @@ private:
 
     QVariant scalar(const QString &sql, const QVariantList &values = {}) const
     {
-        QSqlQuery query = exec(sql, values);
-        return query.next() ? query.value(0) : QVariant();
+        return SqlRun::scalar(m_set->db(), sql, values);
     }
 
     int count(const QString &table, const QString &where, const QVariantList &values = {}) const
@@ -257,7 +253,7 @@ private slots:
         QFETCH_GLOBAL(QString, backend);
         REQUIRE_BACKEND(backend);
         m_set = std::make_unique<ScratchAccountSet>(backend);
-        show(0, 1);
+        show(0);
     }
 
     void cleanup()
@@ -349,7 +345,6 @@ private slots:
     {
         QTest::addColumn<int>("stockId");
         QTest::addColumn<int>("underStock");
-        QTest::addColumn<int>("auditChoice");
         QTest::addColumn<Edits>("edits");
         QTest::addColumn<bool>("lastEditRefused");
         QTest::addColumn<QString>("message");
@@ -361,19 +356,19 @@ private slots:
         const QString noAmount = QStringLiteral("录入的数据[金额=0]！\r\n但账套实行数量金额核算,因此金额不能等于0！\r\n"
                                                 "数据非法！请重新录入！");
         constexpr int Consigned = 6;
-        QTest::newRow("negative quantity, no negative stock") << SemiFinished << 0 << 1
-            << Edits{{EntryCol::BegQty, -5}} << true << negative;
-        QTest::newRow("negative quantity and value, negative stock") << SemiFinished << 1 << 1
-            << Edits{{EntryCol::BegQty, -5}, {EntryCol::BegBal, -100}} << false << QString();
-        QTest::newRow("all-zero row") << SemiFinished << 0 << 1
-            << Edits{{EntryCol::BegQty, 5}, {EntryCol::BegQty, 0}} << false << zeroRow;
-        QTest::newRow("quantity without amount, quantity and amount kept") << SemiFinished << 0 << 1
-            << Edits{{EntryCol::BegQty, 5}} << false << noAmount;
-        QTest::newRow("quantity without amount, held for others") << Consigned << 0 << 1
-            << Edits{{EntryCol::BegQty, 5}} << false << QString();
-        QTest::newRow("year start and receipts") << SemiFinished << 0 << 1
-            << Edits{{EntryCol::YtdBegQty, 2}, {EntryCol::YtdBegBal, 9.6}, {EntryCol::ReceiveQty, 3},
-                     {EntryCol::Debit, 14.4}, {EntryCol::SendQty, 4}, {EntryCol::Credit, -1}}
+        using namespace EntryCol;
+        QTest::newRow("negative quantity, no negative stock") << SemiFinished << 0 << Edits{{BegQty, -5}} << true
+                                                              << negative;
+        QTest::newRow("negative quantity and value, negative stock")
+            << SemiFinished << 1 << Edits{{BegQty, -5}, {BegBal, -100}} << false << QString();
+        QTest::newRow("all-zero row") << SemiFinished << 0 << Edits{{BegQty, 5}, {BegQty, 0}} << false << zeroRow;
+        QTest::newRow("quantity without amount, quantity and amount kept")
+            << SemiFinished << 0 << Edits{{BegQty, 5}} << false << noAmount;
+        QTest::newRow("quantity without amount, held for others") << Consigned << 0 << Edits{{BegQty, 5}} << false
+                                                                  << QString();
+        QTest::newRow("year start and receipts")
+            << SemiFinished << 0
+            << Edits{{YtdBegQty, 2}, {YtdBegBal, 9.6}, {ReceiveQty, 3}, {Debit, 14.4}, {SendQty, 4}, {Credit, -1}}
             << true << negativePrice;
     }
     // Each figure typed is checked against its group at once; the whole row when it is saved.
@@ -381,11 +376,10 @@ private slots:
     {
         QFETCH(int, stockId);
         QFETCH(int, underStock);
-        QFETCH(int, auditChoice);
         QFETCH(Edits, edits);
         QFETCH(bool, lastEditRefused);
         QFETCH(QString, message);
-        show(underStock, auditChoice);
+        show(underStock);
         clickNode(stockId);
         const QStringList before = balances();
         const int row = addItemRow(RoundSteelCode);
@@ -406,11 +400,10 @@ private slots:
         QCOMPARE(grid().TextMatrix(row, EntryCol::Flag), QStringLiteral("1"));
         QCOMPARE(m_control->SaveData(), message.isEmpty());
         if (message.isEmpty()) {
-            const auto typed = std::find_if(edits.cbegin(), edits.cend(),
-                                            [](const Edit &edit) { return edit.first == EntryCol::BegQty; });
+            // The rows that save type the opening quantity first.
             QCOMPARE(rows(QStringLiteral("SELECT FAuxBegQty FROM ICInvInitial WHERE FStockID=? AND FItemID=?"),
                           {stockId, RoundSteel}),
-                     QStringList{QString::number(typed->second)});
+                     QStringList{QString::number(edits.first().second)});
             return;
         }
         // Refused once, on the group that broke the rule.
@@ -435,7 +428,7 @@ private slots:
 
     void newRowIsInsertedWithItsOwnKey()
     {
-        clickNode(RawMaterials, ShelfA);
+        clickNode(RawMaterials, EntryDb::ShelfAId);
         QVERIFY(m_control->barList()->Click(QStringLiteral("AddNew")));
         const int row = grid().row();
         QVERIFY(sheet().isNewRow(row));
@@ -487,7 +480,7 @@ private slots:
         QVERIFY(m_control->SaveData());
 
         QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("FFieldCompose='2|0|4|10|0'")), 0);
-        QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("FStockID=2 AND FItemID=?"), {MotorHousing}), 0);
+        QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("FStockID=2 AND FItemID=?"), {EntryDb::MotorHousing}), 0);
         QCOMPARE(rows(QStringLiteral(
                      "SELECT FItemID, FAuxBegQty, FBegBal FROM ICInvInitial WHERE FFieldCompose='2|0|4|8|0'")),
                  QStringList{QStringLiteral("%1;401;%2").arg(Nut).arg(amount)});
@@ -622,7 +615,7 @@ private slots:
     void grandTotalSumsTheWholePlace()
     {
         // Two more rows make shelf B's ten rows five pages of two.
-        for (const auto &[item, unit] : {std::pair{EntryDb::CopperWire, 7}, {MotorHousing, 1}})
+        for (const auto &[item, unit] : {std::pair{EntryDb::CopperWire, 7}, {EntryDb::MotorHousing, 1}})
             exec(QStringLiteral("INSERT INTO ICInvInitial (FBrNo, FPeriod, FStockID, FSPID, FItemID, FUnitID, "
                                 "FBatchNo, FAuxPropID, FYtdAuxBegQty, FYtdBegBal, FAuxBegQty, FBegBal, FStockInDate, "
                                 "FKFDate, FFieldCompose, FBillInterID) VALUES ('0', 4, 1, 2, ?, ?, '', 0, 1001, "
@@ -694,7 +687,7 @@ private slots:
     void filterSelectingNothingGivesZeros()
     {
         LibraryState::instance().filters()->setItem(FilterKey::Filter, QStringLiteral("FNumber = 'no such item'"));
-        clickNode(RawMaterials, ShelfA);
+        clickNode(RawMaterials, EntryDb::ShelfAId);
         QCOMPARE(m_control->pageLabel(), QStringLiteral("0/0"));
         QCOMPARE(grid().rows(), 2);
         QCOMPARE(totalsRows(grid()), QList<int>{1});
@@ -703,7 +696,7 @@ private slots:
         // Without the filter the same place has rows again.
         LibraryState::instance().filters()->setItem(FilterKey::Filter, QString());
         clickNode(RawMaterials, 2);
-        clickNode(RawMaterials, ShelfA);
+        clickNode(RawMaterials, EntryDb::ShelfAId);
         QCOMPARE(m_control->pageLabel(), QStringLiteral("1/1"));
     }
 

@@ -33,11 +33,6 @@ QString className(qint32 auxClassId)
     return auxClassId == ColorClass ? QStringLiteral("颜色") : QStringLiteral("未知类别");
 }
 
-void setParam(const QString &key, const QVariant &value)
-{
-    SysParams::current()->setItem(key, value);
-}
-
 enum Fault {
     NoItemId = 0x01,
     NegativeItemId = 0x02,
@@ -83,9 +78,9 @@ private slots:
     void init()
     {
         SysParams::replace(std::make_unique<Dictionary>());
-        setParam(SysParam::CurrentPeriod, 3);
-        setParam(SysParam::UnderStock, 0);
-        setParam(SysParam::AuditChoice, 1);
+        SysParams::current()->setItem(SysParam::CurrentPeriod, 3);
+        SysParams::current()->setItem(SysParam::UnderStock, 0);
+        SysParams::current()->setItem(SysParam::AuditChoice, 1);
     }
 
     void cleanup()
@@ -150,7 +145,7 @@ private slots:
         quantityOnly.groups[0] = {3, 0, 0, 0};
         QCOMPARE(RowCheck::check(quantityOnly, Place, className, record).message, NoAmount);
         QVERIFY(RowCheck::check(quantityOnly, {12, 0, 502}, className, record).valid);
-        setParam(SysParam::AuditChoice, 0);
+        SysParams::current()->setItem(SysParam::AuditChoice, 0);
         QVERIFY(RowCheck::check(quantityOnly, Place, className, record).valid);
     }
 
