@@ -64,10 +64,8 @@ enum class Route { Menu, ToolBar, Host };
 
 double storedBegDiff(const ScratchAccountSet &scratch, int itemId)
 {
-    return SqlRun::scalar(scratch.db(),
-                          QStringLiteral("SELECT FBegDiff FROM ICInvInitial WHERE FStockID=1 AND FSPID=2 AND FItemID=?"),
-                          {itemId})
-        .toDouble();
+    const QString sql = QStringLiteral("SELECT FBegDiff FROM ICInvInitial WHERE FStockID=1 AND FSPID=2 AND FItemID=?");
+    return SqlRun::scalar(scratch.db(), sql, {itemId}).toDouble();
 }
 
 bool run(Route route, const QString &key, ICInitCtl &control, HostFrame &host)
@@ -207,9 +205,8 @@ private slots:
         QFETCH(int, effect);
         // One demo account set for all rows: the screw's figure is all a row writes.
         const ScratchAccountSet &scratch = *m_keysSet;
-        SqlRun::exec(scratch.db(),
-                     QStringLiteral("UPDATE ICInvInitial SET FBegDiff=? WHERE FStockID=1 AND FSPID=2 AND FItemID=?"),
-                     {ScrewBegDiff, Screw});
+        SqlRun::exec(scratch.db(), QStringLiteral("UPDATE ICInvInitial SET FBegDiff=? WHERE FStockID=1 AND FSPID=2 "
+                                                  "AND FItemID=?"), {ScrewBegDiff, Screw});
         // A key that must do nothing leaves the control as it was, so those keys share one control;
         // every other key gets a control of its own.
         std::unique_ptr<HostFrame> ownHost;
