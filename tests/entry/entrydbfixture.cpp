@@ -32,11 +32,9 @@ QVector<double> sumsOfPlace(const ScratchAccountSet &scratch, int spId)
                        "sum(FAuxBegQty), sum(FBegBal), sum(FBegDiff) FROM ICInvInitial "
                        "WHERE FStockID=1 AND FSPID=? AND FPeriod=4"),
         {spId});
-    QVector<double> sums;
-    if (query.next()) {
-        for (int i = 0; i < 12; ++i)
-            sums.append(query.value(i).toDouble());
-    }
+    QVector<double> sums(query.next() ? 12 : 0);
+    for (int i = 0; i < sums.size(); ++i)
+        sums[i] = query.value(i).toDouble();
     return sums;
 }
 

@@ -21,15 +21,13 @@ inline constexpr int MotorHousing = 10;
 
 // The twelve figure columns of the entry grid, in the order of sumsOfPlace.
 QList<int> figureColumns();
-// The sums of the twelve figures of a place of warehouse 1 in the current period, read from
-// the table directly.
+// The twelve figures of a place of warehouse 1 in the current period, summed from the table.
 QVector<double> sumsOfPlace(const ScratchAccountSet &scratch, int spId);
 void setParameter(const ScratchAccountSet &scratch, const QString &key, const QVariant &value);
 // Publishes the login of the scratch set and shows the control on it; with a host window it is
 // hosted, else shown as the tests show it. False when Show failed.
 bool show(ICInitCtl &control, const ScratchAccountSet &scratch, QObject *host = nullptr);
-// The grid row of an item row of the place shown, found by item id or, given a text, by code; 0
-// when it is not on the page.
+// The grid row of an item on the page, by item id or, given a text, by code; 0 when not there.
 int itemRow(const ICInitCtl &control, const QVariant &item);
 
 } // namespace EntryDb

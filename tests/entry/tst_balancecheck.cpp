@@ -6,15 +6,6 @@
 namespace {
 
 const QString CrLf = QStringLiteral("\r\n");
-const QString Retype = QStringLiteral("数据非法！请重新录入！");
-
-QString lines(std::initializer_list<const char *> parts)
-{
-    QStringList out;
-    for (const char *part : parts)
-        out << QString::fromUtf8(part);
-    return out.join(CrLf);
-}
 
 constexpr int OrdinaryStock = 501;
 constexpr int AgencyStock = BalanceCheck::AgencyStockType;
@@ -44,12 +35,12 @@ private slots:
     {
         QTest::addColumn<Case>("c");
         const QString negative =
-            lines({"录入的数据[数量<0]！", "但账套不允许负结存,因此数量不能<0！", "数据非法！请重新录入！"});
-        const QString negativePrice = lines({"录入的数据[数量>0，金额<0]！", "单价将出现负数，数据非法！请重新录入！"});
-        const QString positiveValue = lines({"录入的数据[数量<0，金额>0]！", "单价将出现负数，数据非法！请重新录入！"});
+            QStringLiteral("录入的数据[数量<0]！\r\n但账套不允许负结存,因此数量不能<0！\r\n数据非法！请重新录入！");
+        const QString negativePrice = QStringLiteral("录入的数据[数量>0，金额<0]！\r\n单价将出现负数，数据非法！请重新录入！");
+        const QString positiveValue = QStringLiteral("录入的数据[数量<0，金额>0]！\r\n单价将出现负数，数据非法！请重新录入！");
         const QString noAmount =
-            lines({"录入的数据[金额=0]！", "但账套实行数量金额核算,因此金额不能等于0！", "数据非法！请重新录入！"});
-        const QString allocation = lines({"分摊的数据[数量=0，金额<>0]！", "单价将不一致，数据非法！请重新录入！"});
+            QStringLiteral("录入的数据[金额=0]！\r\n但账套实行数量金额核算,因此金额不能等于0！\r\n数据非法！请重新录入！");
+        const QString allocation = QStringLiteral("分摊的数据[数量=0，金额<>0]！\r\n单价将不一致，数据非法！请重新录入！");
 
         constexpr int Wa = Valuation::WeightedAverage;
         constexpr int Ma = Valuation::MovingAverage;
@@ -96,9 +87,9 @@ private slots:
         QTest::addColumn<int>("stockType");
         QTest::addColumn<QString>("message");
         QTest::newRow("ordinary warehouse")
-            << OrdinaryStock << lines({"录入的数据[数量=0，金额=0]！", "没有实际意义，数据非法！请重新录入！"});
+            << OrdinaryStock << QStringLiteral("录入的数据[数量=0，金额=0]！\r\n没有实际意义，数据非法！请重新录入！");
         QTest::newRow("agency warehouse")
-            << AgencyStock << lines({"录入的数据[数量=0]！", "没有实际意义，数据非法！请重新录入！"});
+            << AgencyStock << QStringLiteral("录入的数据[数量=0]！\r\n没有实际意义，数据非法！请重新录入！");
     }
 
     void emptyRowRefusedOnceOnFourthGroup()

@@ -339,10 +339,9 @@ private slots:
         QFETCH(bool, closed);
         ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
         setParameter(scratch, QStringLiteral("ICClosed"), closed ? 1 : 0);
-        HostFrame host;
-        ICInitCtl control;
-        QVERIFY(show(control, scratch, &host));
-        control.tree()->clickNode(ShelfB);
+        const auto host = showAtShelfB(scratch);
+        QVERIFY(host);
+        ICInitCtl &control = *host->findChild<ICInitCtl *>();
         BarList &bars = *control.barList();
         for (const char *key : {"mcEAddNew", "AddNew", "mcEDelete", "Delete"})
             QVERIFY2(bars.isEnabled(QLatin1String(key)) == !closed, key);
@@ -354,7 +353,7 @@ private slots:
         QCOMPARE(bars.isEnabled(EntryKeys::Save), !closed);
         QCOMPARE(bars.isEnabled(EntryKeys::FSave), !closed);
         QCOMPARE(bars.Click(EntryKeys::FSave), !closed);
-        emit host.ToolBarClick(EntryKeys::Save);
+        emit host->ToolBarClick(EntryKeys::Save);
         QCOMPARE(storedBegDiff(scratch, Screw), closed ? 150.0 : 140.0);
 
         // Reconciliation enters no rows.
@@ -379,10 +378,9 @@ private slots:
         QFETCH(int, auditChoice);
         ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
         setParameter(scratch, QStringLiteral("AuditChoice"), auditChoice);
-        HostFrame host;
-        ICInitCtl control;
-        QVERIFY(show(control, scratch, &host));
-        control.tree()->clickNode(ShelfB);
+        const auto host = showAtShelfB(scratch);
+        QVERIFY(host);
+        ICInitCtl &control = *host->findChild<ICInitCtl *>();
         const BarList &bars = *control.barList();
         for (const char *key : {"mcVCheck", "Check", "mcVBalance", "Balance", "Transfer"})
             QVERIFY2(bars.isVisible(QLatin1String(key)) == (auditChoice != 0), key);
@@ -404,10 +402,9 @@ private slots:
     void keysRunTheCommandOfTheirAccelerator()
     {
         ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
-        HostFrame host;
-        ICInitCtl control;
-        QVERIFY(show(control, scratch, &host));
-        control.tree()->clickNode(ShelfB);
+        const auto host = showAtShelfB(scratch);
+        QVERIFY(host);
+        ICInitCtl &control = *host->findChild<ICInitCtl *>();
         SpreadGrid &grid = *control.grid();
         const int rows = grid.rows();
 

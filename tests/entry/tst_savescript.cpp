@@ -96,14 +96,13 @@ private slots:
         const auto r = record();
         r->SPID = 4;
         QCOMPARE(scriptOf(*r),
-                 QStringLiteral(
-                     "Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo, "
-                     "FYtdAuxBegQty,FYtdBegBal,FYtdBegDiff, FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff, "
-                     "FYtdAuxSend,FYtdCredit,FYtdSendDiff, FAuxBegQty,FBegBal,FBegDiff, "
-                     "FAuxUnitBegQty,FYtdAuxUnitBegQty,FYtdAuxUnitSend, "
-                     "FYtdAuxUnitReceive,FStockInDate,FSecUnitID,FAuxPropID,FSecCoefficient,FFieldCompose) "
-                     "Values('0',3,12,4,3057,7,'',10,100.5,0,2,20,0.25,1,10.05,0,11,110.45,0.25,5.5,5,0.5,1,"
-                     "'2024-01-05',9,41,2,'12|4|3|3057|41')\r\n"));
+                 QStringLiteral("Insert into ICInvInitial(FBrNo,FPeriod,FStockID,FSPID,FItemID,FUnitID,FBatchNo, "
+                                "FYtdAuxBegQty,FYtdBegBal,FYtdBegDiff, FYtdAuxReceive,FYtdDebit,FYtdReceiveDiff, "
+                                "FYtdAuxSend,FYtdCredit,FYtdSendDiff, FAuxBegQty,FBegBal,FBegDiff, FAuxUnitBegQty,"
+                                "FYtdAuxUnitBegQty,FYtdAuxUnitSend, FYtdAuxUnitReceive,FStockInDate,FSecUnitID,"
+                                "FAuxPropID,FSecCoefficient,FFieldCompose) Values('0',3,12,4,3057,7,'',10,100.5,0,"
+                                "2,20,0.25,1,10.05,0,11,110.45,0.25,5.5,5,0.5,1,'2024-01-05',9,41,2,'12|4|3|3057|41')"
+                                "\r\n"));
     }
 
     void updateForLoadedRow_data()
