@@ -85,10 +85,10 @@ private slots:
         ShowErrorMsg(QStringLiteral("系统在调用函数LoadingStocks()时发生错误"), true);
         QCOMPARE(m_prompter.messages().size(), 1);
         const Prompter::Message &shown = m_prompter.messages().first();
-        QCOMPARE(shown.caption, QStringLiteral("澄枫提示"));
-        QCOMPARE(shown.text, QStringLiteral("系统在调用函数LoadingStocks()时发生错误\r\n错误原因：磁盘已满\r\n错误来源：LumoMICInitial.Data"));
-        QCOMPARE(shown.buttons, Prompter::Buttons::Ok);
-        QCOMPARE(shown.icon, Prompter::Icon::Information);
+        QCOMPARE((std::tuple{shown.caption, shown.text, shown.buttons, shown.icon}),
+                 (std::tuple{QStringLiteral("澄枫提示"),
+                             QStringLiteral("系统在调用函数LoadingStocks()时发生错误\r\n错误原因：磁盘已满\r\n错误来源：LumoMICInitial.Data"),
+                             Prompter::Buttons::Ok, Prompter::Icon::Information}));
         QCOMPARE(ErrObject::current().number, 0);
 
         ErrObject::set(LumoError(77, QStringLiteral("x")));
@@ -113,14 +113,11 @@ private slots:
     void refusedTaskRaisesTheConflictError()
     {
         FakeWorld::instance().taskHandle = 0;
-        try {
-            ExecFunc(20, QStringLiteral("Cg0802"), 0, 0);
-            QFAIL("a refused task must raise");
-        } catch (const LumoError &error) {
-            QCOMPARE(error.source(), QStringLiteral("MNetControl.ExecFunc"));
-            QCOMPARE(error.description(), Msg::TaskConflict);
-            QVERIFY(error.number() > LumoError::AppBase);
-        }
+        const std::optional<LumoError> error = raisedBy([] { ExecFunc(20, QStringLiteral("Cg0802"), 0, 0); });
+        QVERIFY(error);
+        QCOMPARE((std::pair{error->source(), error->description()}),
+                 (std::pair{QStringLiteral("MNetControl.ExecFunc"), Msg::TaskConflict}));
+        QVERIFY(error->number() > LumoError::AppBase);
         FakeWorld::instance().taskHandle = 12;
         QCOMPARE(ExecFunc(20, QStringLiteral("Cg0802"), 0, 0), 12);
     }
@@ -134,9 +131,9 @@ private slots:
         QVERIFY(FakeWorld::instance().logLines.first().contains(QLatin1String("tvICInit_NodeClick")));
         ErrObject::set(LumoError(91, QStringLiteral("调用者的错误"), QStringLiteral("Caller")));
         LogEnd(handle, 1); // the fake log fails inside LogEnd
-        QCOMPARE(ErrObject::current().number, 91);
-        QCOMPARE(ErrObject::current().description, QStringLiteral("调用者的错误"));
-        QCOMPARE(ErrObject::current().source, QStringLiteral("Caller"));
+        const auto &kept = ErrObject::current();
+        QCOMPARE((std::tuple{kept.number, kept.description, kept.source}),
+                 (std::tuple{91, QStringLiteral("调用者的错误"), QStringLiteral("Caller")}));
     }
 
     void disabledLogIsDroppedAfterTheFirstStart()
@@ -211,14 +208,10 @@ private slots:
         QFETCH(int, number);
         QFETCH(QString, description);
         QFETCH(QString, source);
-        try {
-            call();
-            QFAIL("an empty answer must raise");
-        } catch (const LumoError &error) {
-            QCOMPARE(error.number(), number);
-            QCOMPARE(error.description(), description);
-            QCOMPARE(error.source(), source);
-        }
+        const std::optional<LumoError> error = raisedBy(call);
+        QVERIFY(error);
+        QCOMPARE((std::tuple{error->number(), error->description(), error->source()}),
+                 (std::tuple{number, description, source}));
     }
 };
 

@@ -2,7 +2,6 @@
 
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dictionary.h"
-#include "frame/automation/lumoerror.h"
 #include "frame/automation/progids.h"
 #include "frame/automation/recordset.h"
 
@@ -162,6 +161,16 @@ void registerFakeServices()
     registry.registerClass(ProgId::NetControlMutex, [] { return new FakeMutex; });
     registry.registerClass(ProgId::LogMsgLog, [] { return new FakeLog; });
     registry.registerClass(ProgId::FrmResLoader, [] { return new FakeFormResources; });
+}
+
+std::optional<LumoError> raisedBy(const std::function<void()> &action)
+{
+    try {
+        action();
+    } catch (const LumoError &error) {
+        return error;
+    }
+    return std::nullopt;
 }
 
 #include "fakeservices.moc"

@@ -1,11 +1,16 @@
 #pragma once
 
+#include "frame/automation/lumoerror.h"
+
 #include <QList>
 #include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QVariantList>
 #include <QVariantMap>
+
+#include <functional>
+#include <optional>
 
 // Stand-ins for the middle tier, one for each service interface, registered under the real
 // ProgIDs, so the frame and the dialogs are tested on exactly what they ask of their services and
@@ -42,3 +47,6 @@ struct FakeWorld
 
 // Registers every fake under its ProgID.
 void registerFakeServices();
+
+// The error the action raised; none when it raised nothing.
+std::optional<LumoError> raisedBy(const std::function<void()> &action);
