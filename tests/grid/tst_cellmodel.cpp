@@ -53,11 +53,10 @@ private slots:
         cells->setText(Grid::HeaderRow, 1, QStringLiteral("物料代码"));
         cells->setText(3, Grid::HeaderCol, QStringLiteral("*"));
         cells->setText(1, 1, QStringLiteral("first"));
-        QCOMPARE(cells->headerData(0, Qt::Horizontal).toString(), QStringLiteral("物料代码"));
-        QCOMPARE(cells->headerData(2, Qt::Vertical).toString(), QStringLiteral("*"));
         // A row header without text shows the grid's row number, not the model's.
-        QCOMPARE(cells->headerData(0, Qt::Vertical).toString(), QStringLiteral("1"));
-        QCOMPARE(cells->data(cells->index(0, 0)).toString(), QStringLiteral("first"));
+        QCOMPARE((QStringList{cells->headerData(0, Qt::Horizontal).toString(), cells->headerData(2, Qt::Vertical).toString(),
+                              cells->headerData(0, Qt::Vertical).toString(), cells->data(cells->index(0, 0)).toString()}),
+                 (QStringList{QStringLiteral("物料代码"), QStringLiteral("*"), QStringLiteral("1"), QStringLiteral("first")}));
     }
 
     void numberCellKeepsValueApartFromText()
@@ -250,9 +249,8 @@ private slots:
         cells->setColStyle(2, CellStyle().setBackColor(Lilac));
         cells->setRowStyle(3, CellStyle().setBackColor(Rose));
         cells->setCellStyle(4, 2, CellStyle().setBackColor(Sky));
-        QCOMPARE(background(1, 2), Lilac);
-        QCOMPARE(background(3, 2), Rose); // a totals row wins over the lock colour of its column
-        QCOMPARE(background(4, 2), Sky);
+        // A totals row (3) wins over the lock colour of its column.
+        QCOMPARE((QList<QColor>{background(1, 2), background(3, 2), background(4, 2)}), (QList<QColor>{Lilac, Rose, Sky}));
         QVERIFY(!data(1, 1, Qt::BackgroundRole).isValid());
 
         // Clearing the row colour brings back the column's, not nothing.
@@ -334,8 +332,7 @@ private slots:
         QCOMPARE(cells->text(2, 3), QString());
         cells->setRows(0);
         cells->setCols(0);
-        QCOMPARE(cells->rows(), 1);
-        QCOMPARE(cells->cols(), 1);
+        QCOMPARE((std::pair{cells->rows(), cells->cols()}), (std::pair{1, 1}));
 
         cells->reset(3, 3);
         cells->setColStyle(1, CellStyle().setLocked(true));
@@ -343,8 +340,7 @@ private slots:
         cells->setText(1, 1, QStringLiteral("x"));
         cells->reset(3, 3);
         QVERIFY(!cells->cellLocked(1, 1));
-        QCOMPARE(cells->colWidth(1), -1);
-        QCOMPARE(cells->text(1, 1), QString());
+        QCOMPARE((std::pair{cells->colWidth(1), cells->text(1, 1)}), (std::pair{-1, QString()}));
     }
 
     void figureOfACell()
@@ -352,10 +348,8 @@ private slots:
         cells->setText(1, 2, QStringLiteral("1,250.75"));
         cells->setText(1, 3, QStringLiteral("总计"));
         cells->fillBlock(2, 1, 3, 2, 7.0);
-        QCOMPARE(cells->number(1, 2), 1250.75);
-        QCOMPARE(cells->number(1, 3), 0.0);
-        QCOMPARE(cells->number(99, 1), 0.0);
-        QCOMPARE(cells->number(3, 2), 7.0);
+        QCOMPARE((QList<double>{cells->number(1, 2), cells->number(1, 3), cells->number(99, 1), cells->number(3, 2)}),
+                 (QList<double>{1250.75, 0, 0, 7}));
     }
 
     void changeSignals_data()
@@ -396,15 +390,12 @@ private slots:
         change(*cells);
         QCOMPARE(changed.count(), range.isEmpty() ? 0 : 1);
         if (!range.isEmpty()) {
-            QCOMPARE(changed.first().at(0).toModelIndex(), cells->cellIndex(range[0], range[1]));
-            QCOMPARE(changed.first().at(1).toModelIndex(), cells->cellIndex(range[2], range[3]));
+            QCOMPARE((QList{changed.first().at(0).toModelIndex(), changed.first().at(1).toModelIndex()}),
+                     (QList{cells->cellIndex(range[0], range[1]), cells->cellIndex(range[2], range[3])}));
         }
         QCOMPARE(header.count(), headerSection < 0 ? 0 : 1);
-        if (headerSection >= 0) {
-            QCOMPARE(header.first().at(0).value<Qt::Orientation>(), Qt::Horizontal);
-            QCOMPARE(header.first().at(1).toInt(), headerSection);
-            QCOMPARE(header.first().at(2).toInt(), headerSection);
-        }
+        if (headerSection >= 0)
+            QCOMPARE(header.first(), (QVariantList{QVariant::fromValue(Qt::Horizontal), headerSection, headerSection}));
     }
 
     void bulkUpdateAcrossStructureChange()
