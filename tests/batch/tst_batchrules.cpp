@@ -15,9 +15,8 @@ Q_DECLARE_METATYPE(Amounts)
 Q_DECLARE_METATYPE(FigureKind)
 Q_DECLARE_METATYPE(QList<FigureKind>)
 using Lines = QList<BatchLine>;
-Q_DECLARE_METATYPE(Lines)
-Q_DECLARE_METATYPE(ItemInfo)
-Q_DECLARE_METATYPE(ApportionState)
+struct SaveCase { ItemInfo item; bool allocate; ApportionState apportion; Lines lines; int row, col; QString message; };
+Q_DECLARE_METATYPE(SaveCase)
 
 namespace {
 
@@ -191,17 +190,10 @@ private slots:
 
     void saveCheck_data()
     {
-        QTest::addColumn<ItemInfo>("item");
-        QTest::addColumn<bool>("allocate");
-        QTest::addColumn<ApportionState>("apportion");
-        QTest::addColumn<Lines>("lines");
-        QTest::addColumn<int>("row"); // of the refusal
-        QTest::addColumn<int>("col");
-        QTest::addColumn<QString>("message"); // empty: the lines pass
-
+        QTest::addColumn<SaveCase>("check"); // row, col and message of the refusal; no message: the lines pass
         const auto add = [](const char *name, const ItemInfo &it, const Lines &lines, int row = -1, int col = -1,
                             const QString &message = {}, bool allocate = false, ApportionState state = {}) {
-            QTest::newRow(name) << it << allocate << state << lines << row << col << message;
+            QTest::newRow(name) << SaveCase{it, allocate, state, lines, row, col, message};
         };
         const ItemInfo both = item(true, true);
         const QDate stockIn(2024, 1, 1);
@@ -266,14 +258,8 @@ private slots:
 
     void saveCheck()
     {
-        QFETCH(ItemInfo, item);
-        QFETCH(bool, allocate);
-        QFETCH(ApportionState, apportion);
-        QFETCH(Lines, lines);
-        QFETCH(int, row);
-        QFETCH(int, col);
-        QFETCH(QString, message);
-
+        QFETCH(SaveCase, check);
+        const auto &[item, allocate, apportion, lines, row, col, message] = check;
         const std::optional<BatchRefusal> refused =
             BatchValidation::checkBeforeSave(item, amountRules(allocate), apportion, lines);
         const auto text = [](int row, int col, const QString &message) {

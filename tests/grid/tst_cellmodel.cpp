@@ -13,6 +13,8 @@ using Grid::CellType;
 using Grid::EditResult;
 using CellChange = std::function<void(CellModel &)>;
 Q_DECLARE_METATYPE(CellChange)
+struct Typed { int row, col; QString input; EditResult result; QString shown; };
+Q_DECLARE_METATYPE(Typed)
 
 namespace {
 const QColor Lilac{248, 237, 254};
@@ -77,13 +79,9 @@ private slots:
     // are locked, cell (4, 1) is a button. Cells nobody may type into refuse before any handler is asked.
     void typedInput_data()
     {
-        QTest::addColumn<int>("row");
-        QTest::addColumn<int>("col");
-        QTest::addColumn<QString>("input");
-        QTest::addColumn<EditResult>("result");
-        QTest::addColumn<QString>("shown");
+        QTest::addColumn<Typed>("typed");
         const auto add = [](const char *name, int row, int col, const char *input, EditResult result, const char *shown) {
-            QTest::newRow(name) << row << col << QString::fromUtf8(input) << result << QString::fromUtf8(shown);
+            QTest::newRow(name) << Typed{row, col, QString::fromUtf8(input), result, QString::fromUtf8(shown)};
         };
         add("separators", 2, 3, "1,000", EditResult::Accepted, "1,000.00");
         add("negative", 2, 3, "-12.345", EditResult::Accepted, "-12.35");
@@ -119,11 +117,8 @@ private slots:
 
     void typedInput()
     {
-        QFETCH(int, row);
-        QFETCH(int, col);
-        QFETCH(QString, input);
-        QFETCH(EditResult, result);
-        QFETCH(QString, shown);
+        QFETCH(Typed, typed);
+        const auto &[row, col, input, result, shown] = typed;
         const QStringList directions{QStringLiteral("升序"), QStringLiteral("降序")};
         cells->setColStyle(2, CellStyle().setType(CellType::List).setComboList(directions));
         cells->setCellStyle(3, 2, CellStyle().setComboList({QStringLiteral("(无)")}));
