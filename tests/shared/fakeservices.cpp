@@ -33,12 +33,7 @@ public:
     Q_INVOKABLE QObject *FetchStocks(const QString &, const QString &types)
     {
         FakeWorld::instance().stockTypeArguments.append(types);
-        auto *rs = new Recordset({QStringLiteral("FItemID"), QStringLiteral("FParentID"), QStringLiteral("FSPID"),
-                                  QStringLiteral("FName"), QStringLiteral("FNumber"), QStringLiteral("FShortNumber"),
-                                  QStringLiteral("FIsStockMgr"), QStringLiteral("FTypeID")});
-        for (const QVariantList &row : FakeWorld::instance().stocks)
-            rs->appendRow(QVector<QVariant>(row.begin(), row.end()));
-        return rs;
+        return FakeWorld::instance().stockRecords();
     }
     // A place without balances: no rows, no pages.
     Q_INVOKABLE QObject *FetchYtdInitialData(const QString &, int, int, int, int, int, const QString &,
@@ -53,8 +48,7 @@ public:
     }
     Q_INVOKABLE QObject *FetchMeasureUnits(const QString &)
     {
-        auto *rs = new Recordset({QStringLiteral("FMeasureUnitID"), QStringLiteral("FUnitGroupID"),
-                                  QStringLiteral("FNumber"), QStringLiteral("FName")});
+        auto *rs = new Recordset(QStringLiteral("FMeasureUnitID FUnitGroupID FNumber FName").split(u' '));
         rs->appendRow({1, 1, QStringLiteral("PCS"), QStringLiteral("个")});
         return rs;
     }
@@ -141,6 +135,14 @@ FakeWorld &FakeWorld::instance()
 {
     static FakeWorld world;
     return world;
+}
+
+Recordset *FakeWorld::stockRecords() const
+{
+    auto *rs = new Recordset(QStringLiteral("FItemID FParentID FSPID FName FNumber FShortNumber FIsStockMgr FTypeID").split(u' '));
+    for (const QVariantList &row : stocks)
+        rs->appendRow(QVector<QVariant>(row.begin(), row.end()));
+    return rs;
 }
 
 void FakeWorld::reset()

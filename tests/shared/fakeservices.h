@@ -12,6 +12,8 @@
 #include <functional>
 #include <optional>
 
+class Recordset;
+
 // Stand-ins for the middle tier, one for each service interface, registered under the real
 // ProgIDs, so the frame and the dialogs are tested on exactly what they ask of their services and
 // what they would send to the database. Their state is static: the library creates a new service
@@ -24,6 +26,7 @@ struct FakeWorld
     // "LumoMICInitial.Data" and "LumoMICInitial.DataAdj"
     QVariantMap sysParams;
     QList<QVariantList> stocks; // FItemID, FParentID, FSPID, FName, FNumber, FShortNumber, FIsStockMgr, FTypeID
+    Recordset *stockRecords() const; // the stocks as FetchStocks returns them, for the caller to take
     int dataObjectsCreated = 0;
     QStringList stockTypeArguments;
 
