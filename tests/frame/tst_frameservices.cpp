@@ -152,11 +152,15 @@ private slots:
         ParseProps(GetPropsString());
         FakeWorld::instance().sysParams.insert(QStringLiteral("UnderStock"), QString());
         LoadSysParams(ProgId::MICInitialData);
-        QCOMPARE(SysParams::toInt(SysParam::UID), 9);
-        QCOMPARE(SysParams::toText(SysParam::UName), QStringLiteral("张三"));
-        QCOMPARE(SysParams::toInt(SysParam::QtyDecimal), 2);
-        QCOMPARE(SysParams::toInt(SysParam::CurrentPeriod), 1);
-        QCOMPARE(SysParams::toInt(QStringLiteral("NoSuchParameter")), 0);
+        const auto loaded = [] {
+            return QStringLiteral("%1 %2 %3 %4 %5")
+                .arg(SysParams::toText(SysParam::UName))
+                .arg(SysParams::toInt(SysParam::UID))
+                .arg(SysParams::toInt(SysParam::CurrentPeriod))
+                .arg(SysParams::toInt(SysParam::QtyDecimal))
+                .arg(SysParams::toInt(QStringLiteral("NoSuchParameter")));
+        };
+        QCOMPARE(loaded(), QStringLiteral("张三 9 1 2 0"));
         QVERIFY(!SysParams::toBool(SysParam::UnderStock)); // empty counts as false
         QCOMPARE(FetchAmountScale(), qint16(2));
 
@@ -165,9 +169,7 @@ private slots:
         FakeWorld::instance().propsString = QStringLiteral("UserName=乙;UserID=2;");
         ParseProps(GetPropsString());
         LoadSysParams(ProgId::MICInitialData);
-        QCOMPARE(SysParams::toInt(SysParam::CurrentPeriod), 5);
-        QCOMPARE(SysParams::toText(SysParam::UName), QStringLiteral("乙"));
-        QCOMPARE(SysParams::toInt(SysParam::UID), 2);
+        QCOMPARE(loaded(), QStringLiteral("乙 2 5 2 0"));
     }
 
     // Hosts and scripts tell these errors apart by number, text and source.

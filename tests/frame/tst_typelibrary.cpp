@@ -93,10 +93,9 @@ private slots:
                 structClass = &cls;
         }
         QVERIFY(structClass);
-        QCOMPARE(structClass->members.size(), 32);
-        QCOMPARE(structClass->members.first().id, 0x40030000u);
-        QCOMPARE(QByteArray(structClass->members.last().name), QByteArray("BatchManager"));
-        QCOMPARE(structClass->members.last().id, 0x4003001Fu);
+        const auto &members = structClass->members;
+        QCOMPARE((std::tuple{members.size(), members.first().id, QByteArray(members.last().name), members.last().id}),
+                 (std::tuple{qsizetype(32), 0x40030000u, QByteArray("BatchManager"), 0x4003001Fu}));
     }
 
     void dispatchByMemberIdOnTheStructAndTheControl()
