@@ -16,7 +16,6 @@
 
 #include "grid/spreadgrid.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QDate>
 #include <QSqlQuery>
@@ -129,10 +128,8 @@ private:
                               {spId, itemId});
         QStringList lines;
         while (query.next()) {
-            lines.append(QStringLiteral("%1 %2 %3 %4 %5")
-                             .arg(query.value(0).toString(), query.value(1).toString())
-                             .arg(query.value(2).toDouble())
-                             .arg(query.value(3).toDouble())
+            lines.append(QStringLiteral("%1 %2 %3 %4 %5").arg(query.value(0).toString(), query.value(1).toString())
+                             .arg(query.value(2).toDouble()).arg(query.value(3).toDouble())
                              .arg(query.value(4).toDouble()));
         }
         return lines;

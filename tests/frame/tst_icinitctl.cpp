@@ -25,7 +25,6 @@
 #include <QFile>
 #include <QLabel>
 #include <QSettings>
-#include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -144,8 +143,7 @@ private slots:
         QCOMPARE(QStringLiteral("%1 %2 %3 %4 %5 %6")
                      .arg(tree->nodeParent(QStringLiteral("K12P3")), tree->nodeParent(QStringLiteral("K5")),
                           tree->nodeText(QStringLiteral("K12P3")))
-                     .arg(tree->nodeTag(QStringLiteral("K8")))
-                     .arg(tree->nodeImage(QStringLiteral("K5")))
+                     .arg(tree->nodeTag(QStringLiteral("K8"))).arg(tree->nodeImage(QStringLiteral("K5")))
                      .arg(tree->nodeSelectedImage(QStringLiteral("K5"))),
                  QStringLiteral("K12 K0 01.01|A区货架[仓位] 4 21 22"));
         QCOMPARE(control.amountScale(), qint16(2));
