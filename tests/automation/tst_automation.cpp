@@ -134,10 +134,7 @@ private slots:
         Dictionary d;
         d.Add(QStringLiteral("x"), 1);
         QCOMPARE(Dispatch::call(&sample, QStringLiteral("Count2"), {QVariant::fromValue<QObject *>(&d)}).toInt(), 1);
-        QVariantList many;
-        for (int i = 1; i <= 13; ++i)
-            many.append(i);
-        many.append(QStringLiteral("!"));
+        const QVariantList many{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, QStringLiteral("!")};
         QCOMPARE(Dispatch::call(&sample, QStringLiteral("Fourteen"), many).toString(), QStringLiteral("91!"));
     }
 

@@ -182,9 +182,8 @@ private slots:
         QFETCH(QString, typed);
         QFETCH(QString, loaded);
         QFETCH(QString, message);
-
-        const std::optional<QString> refused = BatchValidation::checkTypedBatch(
-            item(true, shelfLife), typed, loaded, {QStringLiteral("B2"), QStringLiteral("B3")});
+        const QStringList others{QStringLiteral("B2"), QStringLiteral("B3")};
+        const std::optional<QString> refused = BatchValidation::checkTypedBatch(item(true, shelfLife), typed, loaded, others);
         QCOMPARE(refused.value_or(QString()), message);
     }
 
