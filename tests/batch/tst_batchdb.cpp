@@ -229,11 +229,10 @@ private slots:
         // Planned cost: the amount follows quantity x planned price 2.5; the secondary quantity
         // follows the units' coefficients (1 t = 1000 kg).
         QVERIFY(grid->editCell(line, BegQty, 4000));
-        QCOMPARE(grid->number(line, BegBal), 10000.0);
-        QCOMPARE(grid->number(line, BegSecQty), 4.0);
         QVERIFY(grid->editCell(line, YtdSecQty, 6));
-        QCOMPARE(grid->number(line, YtdQty), 6000.0);
-        QCOMPARE(grid->number(line, YtdBal), 15000.0);
+        QCOMPARE((QList<double>{grid->number(line, BegBal), grid->number(line, BegSecQty), grid->number(line, YtdQty),
+                                grid->number(line, YtdBal)}),
+                 (QList<double>{10000, 4, 6000, 15000}));
     }
 
     void figureRefusedWhileTypingStaysToBeCorrected()
@@ -354,8 +353,7 @@ private slots:
         QVERIFY(grid->editCell(2, KFDate, demoDay(4, 2)));
         QVERIFY(m_dialog->pressButton(QStringLiteral("Save")));
         QCOMPARE(lastMessage(), QStringLiteral("该物料实行保质期管理，生产日期不能大于入库日期！"));
-        QCOMPARE(grid->row(), 2);
-        QCOMPARE(grid->col(), int(KFDate));
+        QCOMPARE((std::pair{grid->row(), grid->col()}), (std::pair{2, int(KFDate)}));
         QCOMPARE(storedLines(2, EpoxyGlue), saved);
     }
 
@@ -427,8 +425,7 @@ private slots:
         QCOMPARE(grid->TextMatrix(2, BatchNo), QStringLiteral("K002"));
         QCOMPARE(m_prompter.messages().last().caption, QStringLiteral("澄枫提示"));
         QCOMPARE(lastMessage(), QStringLiteral("当前批号已存在，请重新输入！"));
-        QCOMPARE(grid->row(), 2);
-        QCOMPARE(grid->col(), int(BatchNo));
+        QCOMPARE((std::pair{grid->row(), grid->col()}), (std::pair{2, int(BatchNo)}));
         QCOMPARE(grid->TextMatrix(2, Flag), QString()); // refused edits change nothing
         QVERIFY(grid->editCell(1, BatchNo, QStringLiteral("K001-A")));
         QVERIFY(m_dialog->pressButton(QStringLiteral("Save")));
@@ -451,11 +448,11 @@ private slots:
             QVERIFY(grid);
             QVERIFY(m_dialog->pressButton(QStringLiteral("AddNew")));
             const int line = grid->row();
-            QCOMPARE(line, 3);
-            QCOMPARE(grid->col(), int(BatchNo));
-            QCOMPARE(grid->value(line, StockIn).toString(), demoDay(4, 1));
-            QCOMPARE(grid->TextMatrix(line, KFPeriod), itemId == EpoxyGlue ? QStringLiteral("180") : QString());
-            QCOMPARE(grid->TextMatrix(line, Flag), QStringLiteral("1"));
+            QCOMPARE((std::pair{line, grid->col()}), (std::pair{3, int(BatchNo)}));
+            const QString shelfLife = itemId == EpoxyGlue ? QStringLiteral("180") : QString();
+            QCOMPARE((QStringList{grid->value(line, StockIn).toString(), grid->TextMatrix(line, KFPeriod),
+                                  grid->TextMatrix(line, Flag)}),
+                     (QStringList{demoDay(4, 1), shelfLife, QStringLiteral("1")}));
             QVERIFY(grid->editCell(line, BatchNo, QStringLiteral("N1")));
             if (itemId == EpoxyGlue)
                 QVERIFY(grid->editCell(line, KFDate, demoDay(3, 1)));

@@ -35,16 +35,10 @@ public:
     Q_INVOKABLE QObject *FetchSysParameter(const QString &) { return nullptr; }
     Q_INVOKABLE QObject *FetchStocks(const QString &, const QString &) { return nullptr; }
     Q_INVOKABLE QObject *FetchYtdAccounts(const QString &, int) { return nullptr; }
-    Q_INVOKABLE QObject *FetchYtdInitialData(const QString &, int, int, int, int, int, const QString &,
-                                             const QString &, const QString &, const QString &, bool)
-    {
-        return nullptr;
-    }
+    Q_INVOKABLE QObject *FetchYtdInitialData(const QString &, int, int, int, int, int, const QString &, const QString &,
+                                             const QString &, const QString &, bool) { return nullptr; }
     Q_INVOKABLE QObject *FetchYtdBatManDetail(const QString &, int, int, int, int, int, int, bool, bool,
-                                              const QString &)
-    {
-        return nullptr;
-    }
+                                              const QString &) { return nullptr; }
     Q_INVOKABLE QObject *FetchYtdItemDetail(const QString &, const QString &) { return nullptr; }
     Q_INVOKABLE QObject *GetInitData(const QString &, const QString &) { return nullptr; }
 };

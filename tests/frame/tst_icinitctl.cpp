@@ -57,6 +57,7 @@ class TestICInitCtl : public QObject
 private:
     QTemporaryDir m_install;
     ScriptedPrompter m_prompter;
+    FakeHostWindow m_host;
 
     void useDemoStocks()
     {
@@ -87,6 +88,7 @@ private slots:
         FakeWorld::instance().reset();
         LoginContext::instance().reset();
         m_prompter.clear();
+        m_host.received.clear();
         useDemoStocks();
         for (const ViewToggle &toggle : viewToggles())
             SettingsStore::setValue(*toggle.setting, toggle.setting->defaultValue);
@@ -131,9 +133,8 @@ private slots:
     void showInAHostBuildsTitleTreeAndCommits()
     {
         ICInitCtl control;
-        FakeHostWindow host;
-        QVERIFY(control.Show(&host, false));
-        QCOMPARE(host.received, QList<QObject *>{control.barList()});
+        QVERIFY(control.Show(&m_host, false));
+        QCOMPARE(m_host.received, QList<QObject *>{control.barList()});
         QCOMPARE(FakeWorld::instance().committed, QList<int>{7});
         QCOMPARE((QStringList{control.findChild<QLabel *>(QStringLiteral("lblTitle"))->text(),
                               control.findChild<QLabel *>(QStringLiteral("lblStock"))->text(), control.statusPanels()->panelText(1)}),
@@ -161,9 +162,8 @@ private slots:
     void queryUnloadIsCaseSensitive()
     {
         ICInitCtl control;
-        FakeHostWindow host;
-        QVERIFY(control.Show(&host, false));
-        emit host.ToolBarClick(QStringLiteral("mcWStatusBar")); // status bar off, not yet saved
+        QVERIFY(control.Show(&m_host, false));
+        emit m_host.ToolBarClick(QStringLiteral("mcWStatusBar")); // status bar off, not yet saved
         control.NotifyMessage(QStringLiteral("queryunload"), {});
         QVERIFY(SettingsStore::boolValue(Setting::ShowStateBar));
         control.NotifyMessage(QStringLiteral("FirstShow"), {});
@@ -178,15 +178,13 @@ private slots:
             SettingsStore::setValue(*toggle.setting, !toggle.setting->defaultValue.toBool());
         {
             ICInitAdjCtl adjust;
-            FakeHostWindow host;
-            QVERIFY(adjust.Show(&host, false));
+            QVERIFY(adjust.Show(&m_host, false));
             adjust.barList()->Click(QStringLiteral("mcWTBLable")); // clicked twice: as it was
             adjust.barList()->Click(QStringLiteral("mcWTBLable"));
             adjust.NotifyMessage(QStringLiteral("QueryUnload"), {});
         }
         ICInitCtl control;
-        FakeHostWindow host;
-        QVERIFY(control.Show(&host, false));
+        QVERIFY(control.Show(&m_host, false));
         for (const ViewToggle &toggle : viewToggles())
             QVERIFY2(control.barList()->isChecked(QLatin1String(toggle.menuKey)) != toggle.setting->defaultValue.toBool(),
                      toggle.menuKey);
@@ -214,8 +212,7 @@ private slots:
     void toolbarRebuildsKeepTheControlCount()
     {
         ICInitCtl control;
-        FakeHostWindow host;
-        QVERIFY(control.Show(&host, false));
+        QVERIFY(control.Show(&m_host, false));
         const auto *controls = qobject_cast<ControlCollection *>(control.Controls());
         QVERIFY(controls);
         const int count = controls->Count();
@@ -229,9 +226,8 @@ private slots:
     void refreshToolbarBeforeShowDoesNothing()
     {
         ICInitCtl control;
-        FakeHostWindow host;
         control.RefreshToolbar();
-        QVERIFY(host.received.isEmpty());
+        QVERIFY(m_host.received.isEmpty());
         QVERIFY(!control.parentWindow());
     }
 
