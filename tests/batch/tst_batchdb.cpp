@@ -46,9 +46,13 @@ QString demoDay(int month, int day)
     return QDate(QDate::currentDate().year(), month, day).toString(Qt::ISODate);
 }
 
-// What the dialog shows of an item: the column groups, whether apportioning is offered, the mode.
+// The accounting choice and the item the dialog is opened for, and what it shows then: the column
+// groups, whether apportioning is offered, the mode.
 struct Shown
 {
+    int auditChoice;
+    QString place;
+    int itemId;
     bool amounts, secondary, shelfLife, apportioning;
     QString caption;
 };
@@ -172,23 +176,17 @@ private slots:
 
     void columnsFollowTheAccountingAndTheItem_data()
     {
-        QTest::addColumn<int>("auditChoice");
-        QTest::addColumn<QString>("place");
-        QTest::addColumn<int>("itemId");
         QTest::addColumn<Shown>("shown");
-        QTest::newRow("quantities only") << 0 << ShelfA << SteelPlate << Shown{false, true, false, false, "批号/数量"};
-        QTest::newRow("amounts, secondary unit") << 1 << ShelfA << SteelPlate << Shown{true, true, false, true, "批号/数量/金额"};
-        QTest::newRow("amounts, shelf life") << 1 << ShelfB << EpoxyGlue << Shown{true, false, true, false, "批号/数量/金额"};
+        QTest::newRow("quantities only") << Shown{0, ShelfA, SteelPlate, false, true, false, false, "批号/数量"};
+        QTest::newRow("amounts, secondary unit") << Shown{1, ShelfA, SteelPlate, true, true, false, true, "批号/数量/金额"};
+        QTest::newRow("amounts, shelf life") << Shown{1, ShelfB, EpoxyGlue, true, false, true, false, "批号/数量/金额"};
     }
 
     void columnsFollowTheAccountingAndTheItem()
     {
-        QFETCH(int, auditChoice);
-        QFETCH(QString, place);
-        QFETCH(int, itemId);
         QFETCH(Shown, shown);
-        setParameter(QStringLiteral("AuditChoice"), auditChoice);
-        SpreadGrid *grid = openItem(place, itemId);
+        setParameter(QStringLiteral("AuditChoice"), shown.auditChoice);
+        SpreadGrid *grid = openItem(shown.place, shown.itemId);
         QVERIFY(grid);
         const std::pair<QList<int>, bool> columns[] = {
             {{4, 5, 8, 9, 12, 13, 16, 17}, shown.amounts}, {{3, 7, 11, 15}, shown.secondary},

@@ -333,26 +333,14 @@ private slots:
         QCOMPARE(ItemInfo::fromItemKey(key).title(), QStringLiteral("冷轧板"));
     }
 
-    void modeCaption_data()
-    {
-        QTest::addColumn<bool>("batch");
-        QTest::addColumn<int>("track");
-        QTest::addColumn<bool>("quantitiesOnly");
-        QTest::addColumn<QString>("caption");
-
-        QTest::newRow("batch, planned cost") << true << 81 << false << "批号/数量/金额/材料成本差异";
-        QTest::newRow("batch, planned cost, quantities") << true << 81 << true << "批号/数量";
-        QTest::newRow("shelf life, amounts") << false << 81 << false << "数量/金额";
-        QTest::newRow("shelf life, quantities") << false << 76 << true << "数量";
-    }
-
+    // A batch item or else a shelf-life one, its valuation (81: planned cost), quantities only or with amounts.
     void modeCaption()
     {
-        QFETCH(bool, batch);
-        QFETCH(int, track);
-        QFETCH(bool, quantitiesOnly);
-        QFETCH(QString, caption);
-        QCOMPARE(batchModeCaption(item(batch, !batch, track), quantitiesOnly), caption);
+        const struct { bool batch; int track; bool quantitiesOnly; const char *caption; } cases[] = {
+            {true, 81, false, "批号/数量/金额/材料成本差异"}, {true, 81, true, "批号/数量"},
+            {false, 81, false, "数量/金额"},                  {false, 76, true, "数量"}};
+        for (const auto &c : cases)
+            QCOMPARE(batchModeCaption(item(c.batch, !c.batch, c.track), c.quantitiesOnly), QString(c.caption));
     }
 };
 

@@ -249,20 +249,17 @@ private slots:
         grid->setColHidden(2, true);
         grid->setColWidth(3, 150);
         grid->setRowHidden(3, true);
-        QVERIFY(view->isColumnHidden(1));
-        QCOMPARE(view->columnWidth(2), 150);
-        QVERIFY(view->isRowHidden(2));
+        QCOMPARE((std::tuple{view->isColumnHidden(1), view->columnWidth(2), view->isRowHidden(2)}),
+                 (std::tuple{true, 150, true}));
 
         // Rows inserted above a hidden row push it down in the view as in the model.
         grid->insertRows(2, 2);
-        QVERIFY(grid->rowHidden(5));
-        QVERIFY(view->isRowHidden(4));
-        QVERIFY(!view->isRowHidden(2));
+        QCOMPARE((QList<bool>{grid->rowHidden(5), view->isRowHidden(4), view->isRowHidden(2)}),
+                 (QList<bool>{true, true, false}));
         // New columns and rows leave the layout alone.
         grid->setCols(8);
         grid->setRows(100);
-        QVERIFY(view->isColumnHidden(1));
-        QCOMPARE(view->columnWidth(2), 150);
+        QCOMPARE((std::pair{view->isColumnHidden(1), view->columnWidth(2)}), (std::pair{true, 150}));
 
         // A width dragged by the user is what the grid reports afterwards.
         view->horizontalHeader()->resizeSection(0, 77);
@@ -272,17 +269,14 @@ private slots:
         QVERIFY(defaultWidth > 0);
         grid->setColHidden(4, true);
         grid->setColHidden(3, true);
-        QCOMPARE(grid->colWidth(4), defaultWidth);
-        QCOMPARE(grid->colWidth(3), 150);
+        QCOMPARE((std::pair{grid->colWidth(4), grid->colWidth(3)}), (std::pair{defaultWidth, 150}));
         grid->setColHidden(4, false);
         grid->setColHidden(3, false);
-        QCOMPARE(grid->cells()->colWidth(4), -1);
-        QCOMPARE(view->columnWidth(2), 150);
+        QCOMPARE((std::pair{grid->cells()->colWidth(4), view->columnWidth(2)}), (std::pair{-1, 150}));
 
         // A reset starts from a plain layout.
         grid->cells()->reset(4, 4);
-        QVERIFY(!view->isColumnHidden(1));
-        QVERIFY(!view->isRowHidden(2));
+        QVERIFY(!view->isColumnHidden(1) && !view->isRowHidden(2));
     }
 
     void moveToRefusesCellsOutsideTheGrid()
