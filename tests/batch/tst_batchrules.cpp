@@ -15,6 +15,8 @@ Q_DECLARE_METATYPE(Amounts)
 Q_DECLARE_METATYPE(FigureKind)
 Q_DECLARE_METATYPE(QList<FigureKind>)
 using Lines = QList<BatchLine>;
+struct TypedBatch { bool shelfLife; QString typed, loaded, message; };
+Q_DECLARE_METATYPE(TypedBatch)
 struct SaveCase { ItemInfo item; bool allocate; ApportionState apportion; Lines lines; int row, col; QString message; };
 Q_DECLARE_METATYPE(SaveCase)
 
@@ -160,31 +162,25 @@ private slots:
 
     void typedBatch_data()
     {
-        QTest::addColumn<bool>("shelfLife");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("loaded");
-        QTest::addColumn<QString>("message"); // empty: accepted
+        QTest::addColumn<TypedBatch>("batch"); // message empty: accepted
 
         const QString empty = QStringLiteral("批号不能为空，请输入批号！");
         const QString exists = QStringLiteral("当前批号已存在，请重新输入！");
-        QTest::newRow("empty") << false << QString() << QStringLiteral("B1") << empty;
-        QTest::newRow("blanks") << false << QStringLiteral("   ") << QString() << empty;
-        QTest::newRow("new number") << false << QStringLiteral("B9") << QString() << QString();
-        QTest::newRow("held by another line") << false << QStringLiteral("B2") << QString() << exists;
-        QTest::newRow("held, blanks around") << false << QStringLiteral(" B2 ") << QStringLiteral("B1") << exists;
+        QTest::newRow("empty") << TypedBatch{false, QString(), QStringLiteral("B1"), empty};
+        QTest::newRow("blanks") << TypedBatch{false, QStringLiteral("   "), QString(), empty};
+        QTest::newRow("new number") << TypedBatch{false, QStringLiteral("B9"), QString(), QString()};
+        QTest::newRow("held by another line") << TypedBatch{false, QStringLiteral("B2"), QString(), exists};
+        QTest::newRow("held, blanks around") << TypedBatch{false, QStringLiteral(" B2 "), QStringLiteral("B1"), exists};
         // With shelf life the same batch may come again under another production date.
-        QTest::newRow("held, shelf-life item") << true << QStringLiteral("B2") << QString() << QString();
+        QTest::newRow("held, shelf-life item") << TypedBatch{true, QStringLiteral("B2"), QString(), QString()};
     }
 
     void typedBatch()
     {
-        QFETCH(bool, shelfLife);
-        QFETCH(QString, typed);
-        QFETCH(QString, loaded);
-        QFETCH(QString, message);
-        const QStringList others{QStringLiteral("B2"), QStringLiteral("B3")};
-        const std::optional<QString> refused = BatchValidation::checkTypedBatch(item(true, shelfLife), typed, loaded, others);
-        QCOMPARE(refused.value_or(QString()), message);
+        QFETCH(TypedBatch, batch);
+        const std::optional<QString> refused = BatchValidation::checkTypedBatch(
+            item(true, batch.shelfLife), batch.typed, batch.loaded, {QStringLiteral("B2"), QStringLiteral("B3")});
+        QCOMPARE(refused.value_or(QString()), batch.message);
     }
 
     void saveCheck_data()
