@@ -11,7 +11,8 @@
 #include <QTest>
 
 using Amounts = QList<std::optional<double>>;
-Q_DECLARE_METATYPE(Amounts)
+struct Split { Amounts quantities; double total; int scale; Amounts expected; };
+Q_DECLARE_METATYPE(Split)
 Q_DECLARE_METATYPE(FigureKind)
 Q_DECLARE_METATYPE(QList<FigureKind>)
 using Lines = QList<BatchLine>;
@@ -83,32 +84,25 @@ class TestBatchRules : public QObject
 private slots:
     void apportion_data()
     {
-        QTest::addColumn<Amounts>("quantities");
-        QTest::addColumn<double>("total");
-        QTest::addColumn<int>("scale");
-        QTest::addColumn<Amounts>("expected");
+        QTest::addColumn<Split>("split"); // quantities, total, decimals, expected amounts
 
-        QTest::newRow("three batches of one") << Amounts{1, 1, 1} << 100.0 << 2 << Amounts{33.33, 33.33, 33.34};
-        QTest::newRow("negative total") << Amounts{1, 1, 1} << -100.0 << 2 << Amounts{-33.33, -33.33, -33.34};
+        QTest::newRow("three batches of one") << Split{{1, 1, 1}, 100.0, 2, {33.33, 33.33, 33.34}};
+        QTest::newRow("negative total") << Split{{1, 1, 1}, -100.0, 2, {-33.33, -33.33, -33.34}};
         // Empty quantity cells are passed over and keep their amounts.
-        QTest::newRow("empty cell skipped") << Amounts{1, std::nullopt, 2} << 10.0 << 2
-                                            << Amounts{3.33, std::nullopt, 6.67};
+        QTest::newRow("empty cell skipped") << Split{{1, std::nullopt, 2}, 10.0, 2, {3.33, std::nullopt, 6.67}};
         // The residue goes to the last line with quantity; a zero line after it gets nothing.
-        QTest::newRow("zero after the last") << Amounts{1, 2, 0} << 10.0 << 2 << Amounts{3.33, 6.67, 0.0};
-        QTest::newRow("no total typed") << Amounts{4, 6} << 0.0 << 2 << Amounts{0.0, 0.0};
+        QTest::newRow("zero after the last") << Split{{1, 2, 0}, 10.0, 2, {3.33, 6.67, 0.0}};
+        QTest::newRow("no total typed") << Split{{4, 6}, 0.0, 2, {0.0, 0.0}};
         // 0.025 per unit rounds half away from zero on its decimal text, not down on its binary value.
-        QTest::newRow("halves away from zero") << Amounts{1, 1, 2} << 0.1 << 2 << Amounts{0.03, 0.03, 0.04};
-        QTest::newRow("tenths") << Amounts{0.1, 0.2, 0.3} << 100.0 << 2 << Amounts{16.67, 33.33, 50.0};
-        QTest::newRow("no decimals") << Amounts{1, 1, 1} << 100.0 << 0 << Amounts{33.0, 33.0, 34.0};
+        QTest::newRow("halves away from zero") << Split{{1, 1, 2}, 0.1, 2, {0.03, 0.03, 0.04}};
+        QTest::newRow("tenths") << Split{{0.1, 0.2, 0.3}, 100.0, 2, {16.67, 33.33, 50.0}};
+        QTest::newRow("no decimals") << Split{{1, 1, 1}, 100.0, 0, {33.0, 33.0, 34.0}};
     }
 
     void apportion()
     {
-        QFETCH(Amounts, quantities);
-        QFETCH(double, total);
-        QFETCH(int, scale);
-        QFETCH(Amounts, expected);
-
+        QFETCH(Split, split);
+        const auto &[quantities, total, scale, expected] = split;
         const Amounts amounts = Apportion::split(quantities, total, scale);
         QCOMPARE(amounts.size(), expected.size());
         double sum = 0;

@@ -139,28 +139,20 @@ private slots:
                  QStringLiteral("0"));
     }
 
-    void printLinesTakeThePrintObjectsFont_data()
-    {
-        QTest::addColumn<bool>("hasFont");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("charset");
-        QTest::newRow("own font") << true << QStringLiteral("黑体") << 1;
-        QTest::newRow("no font") << false << QStringLiteral("宋体") << 134;
-    }
-
+    // Every header and footer line takes the print object's own font, or 宋体 (charset 134) when it has none.
     void printLinesTakeThePrintObjectsFont()
     {
-        QFETCH(bool, hasFont);
-        QFETCH(QString, name);
-        QFETCH(int, charset);
-        PrintObject print;
-        print.hasFont = hasFont;
-        print.m_font.name = QStringLiteral("黑体");
-        print.m_font.charset = 1;
-        SetPrintFonts(&print);
-        for (const PrintLine *lines : {print.headers, print.footers}) {
-            for (int line = 0; line < 10; ++line)
-                QCOMPARE((std::pair{lines[line].m_font.name, lines[line].m_font.charset}), (std::pair{name, charset}));
+        for (const auto &[hasFont, name, charset] : {std::tuple{true, "黑体", 1}, {false, "宋体", 134}}) {
+            PrintObject print;
+            print.hasFont = hasFont;
+            print.m_font.name = QStringLiteral("黑体");
+            print.m_font.charset = 1;
+            SetPrintFonts(&print);
+            for (const PrintLine *lines : {print.headers, print.footers}) {
+                for (int line = 0; line < 10; ++line)
+                    QCOMPARE((std::pair{lines[line].m_font.name, lines[line].m_font.charset}),
+                             (std::pair{QString::fromUtf8(name), charset}));
+            }
         }
     }
 
