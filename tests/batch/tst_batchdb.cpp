@@ -16,7 +16,6 @@
 
 #include "grid/spreadgrid.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QDate>
 #include <QSqlQuery>
@@ -47,9 +46,13 @@ QString demoDay(int month, int day)
     return QDate(QDate::currentDate().year(), month, day).toString(Qt::ISODate);
 }
 
-// What the dialog shows of an item: the column groups, whether apportioning is offered, the mode.
+// The accounting choice and the item the dialog is opened for, and what it shows then: the column
+// groups, whether apportioning is offered, the mode.
 struct Shown
 {
+    int auditChoice;
+    QString place;
+    int itemId;
     bool amounts, secondary, shelfLife, apportioning;
     QString caption;
 };
@@ -73,27 +76,30 @@ private:
     ScriptedPrompter m_prompter;
     std::unique_ptr<ScratchAccountSet> m_scratch;
     std::unique_ptr<ICInitCtl> m_control;
+    std::unique_ptr<frmBatchManager> m_dialog;
 
-    // Shows the entry control on the scratch set, clicks the place and opens the dialog on the
-    // item's row; null (with the test failed) when any step does not work.
-    std::unique_ptr<frmBatchManager> openItem(const QString &placeKey, int itemId)
+    // Shows the entry control on the scratch set, clicks the place and opens the dialog (m_dialog)
+    // on the item's row; gives its grid, or null when any step does not work.
+    SpreadGrid *openItem(const QString &placeKey, int itemId)
     {
         ServiceCalls::publishLogin(m_scratch->propsString());
         LoginContext::instance().reset();
+        m_dialog.reset(); // before the control it belongs to
         m_control = std::make_unique<ICInitCtl>();
         if (!m_control->Show(nullptr, true))
-            return {};
+            return nullptr;
         m_control->tree()->clickNode(placeKey);
         const EntrySheet &sheet = *m_control->sheet();
         for (int row = 1; row <= sheet.lastDataRow(); ++row) {
             if (sheet.isItemRow(row) && int(m_control->grid()->number(row, EntryCol::ItemID)) == itemId) {
-                std::unique_ptr<frmBatchManager> dialog = m_control->batchDialogFor(row);
-                if (dialog)
-                    dialog->prepare();
-                return dialog;
+                m_dialog = m_control->batchDialogFor(row);
+                if (!m_dialog)
+                    return nullptr;
+                m_dialog->prepare();
+                return m_dialog->grid();
             }
         }
-        return {};
+        return nullptr;
     }
 
     QString lastMessage() const
@@ -126,10 +132,8 @@ private:
                               {spId, itemId});
         QStringList lines;
         while (query.next()) {
-            lines.append(QStringLiteral("%1 %2 %3 %4 %5")
-                             .arg(query.value(0).toString(), query.value(1).toString())
-                             .arg(query.value(2).toDouble())
-                             .arg(query.value(3).toDouble())
+            lines.append(QStringLiteral("%1 %2 %3 %4 %5").arg(query.value(0).toString(), query.value(1).toString())
+                             .arg(query.value(2).toDouble()).arg(query.value(3).toDouble())
                              .arg(query.value(4).toDouble()));
         }
         return lines;
@@ -164,6 +168,7 @@ private slots:
 
     void cleanup()
     {
+        m_dialog.reset();
         m_control.reset();
         m_scratch.reset();
         QCOMPARE(m_prompter.pendingAnswers(), 0);
@@ -171,107 +176,95 @@ private slots:
 
     void columnsFollowTheAccountingAndTheItem_data()
     {
-        QTest::addColumn<int>("auditChoice");
-        QTest::addColumn<QString>("place");
-        QTest::addColumn<int>("itemId");
         QTest::addColumn<Shown>("shown");
-        QTest::newRow("quantities only") << 0 << ShelfA << SteelPlate << Shown{false, true, false, false, "批号/数量"};
-        QTest::newRow("amounts, secondary unit") << 1 << ShelfA << SteelPlate << Shown{true, true, false, true, "批号/数量/金额"};
-        QTest::newRow("amounts, shelf life") << 1 << ShelfB << EpoxyGlue << Shown{true, false, true, false, "批号/数量/金额"};
+        QTest::newRow("quantities only") << Shown{0, ShelfA, SteelPlate, false, true, false, false, "批号/数量"};
+        QTest::newRow("amounts, secondary unit") << Shown{1, ShelfA, SteelPlate, true, true, false, true, "批号/数量/金额"};
+        QTest::newRow("amounts, shelf life") << Shown{1, ShelfB, EpoxyGlue, true, false, true, false, "批号/数量/金额"};
     }
 
     void columnsFollowTheAccountingAndTheItem()
     {
-        QFETCH(int, auditChoice);
-        QFETCH(QString, place);
-        QFETCH(int, itemId);
         QFETCH(Shown, shown);
-        setParameter(QStringLiteral("AuditChoice"), auditChoice);
-        const auto dialog = openItem(place, itemId);
-        QVERIFY(dialog);
-        const SpreadGrid &grid = *dialog->grid();
+        setParameter(QStringLiteral("AuditChoice"), shown.auditChoice);
+        SpreadGrid *grid = openItem(shown.place, shown.itemId);
+        QVERIFY(grid);
         const std::pair<QList<int>, bool> columns[] = {
             {{4, 5, 8, 9, 12, 13, 16, 17}, shown.amounts}, {{3, 7, 11, 15}, shown.secondary},
             {{KFDate, KFPeriod}, shown.shelfLife},         {{1, 2, 6, 10, 14, 18}, true}, {{19, 20, 21, 24}, false}};
         for (const auto &[cols, visible] : columns) {
             for (int col : cols)
-                QVERIFY2(grid.colHidden(col) != visible, qPrintable(QString::number(col)));
+                QVERIFY2(grid->colHidden(col) != visible, qPrintable(QString::number(col)));
         }
-        QCOMPARE(dialog->findChild<QTabBar *>(QStringLiteral("sstBatMan"))->tabText(0), shown.caption);
-        QCOMPARE(dialog->button(QStringLiteral("ShareBal"))->isEnabled(), shown.apportioning);
+        QCOMPARE(m_dialog->findChild<QTabBar *>(QStringLiteral("sstBatMan"))->tabText(0), shown.caption);
+        QCOMPARE(m_dialog->button(QStringLiteral("ShareBal"))->isEnabled(), shown.apportioning);
         // The demo lines came in on the period's first day; the totals row has the sum colour.
-        QCOMPARE(grid.value(1, StockIn).toString(), demoDay(4, 1));
-        QCOMPARE(grid.TextMatrix(3, BatchNo), QStringLiteral("合计"));
-        QCOMPARE(grid.cellBackColor(3, BegQty), SettingsStore::colorValue(Setting::SumColor));
+        QCOMPARE(grid->value(1, StockIn).toString(), demoDay(4, 1));
+        QCOMPARE(grid->TextMatrix(3, BatchNo), QStringLiteral("合计"));
+        QCOMPARE(grid->cellBackColor(3, BegQty), SettingsStore::colorValue(Setting::SumColor));
     }
 
     // With the initialisation closed every line is locked.
     void lockedLinesStayReadOnly()
     {
         setParameter(QStringLiteral("ICClosed"), 1);
-        const auto dialog = openItem(ShelfB, ComponentKit);
-        QVERIFY(dialog);
-        SpreadGrid &grid = *dialog->grid();
-        QCOMPARE(grid.cellBackColor(1, BegQty), SettingsStore::colorValue(Setting::LockColor));
-        QVERIFY(!grid.editCell(1, BegQty, 11));
-        QVERIFY(!grid.editCell(2, BatchNo, QStringLiteral("K9")));
-        grid.select(1, BegQty);
-        QVERIFY(dialog->pressButton(QStringLiteral("Delete")));
-        QCOMPARE(grid.rows(), 4);
+        SpreadGrid *grid = openItem(ShelfB, ComponentKit);
+        QVERIFY(grid);
+        QCOMPARE(grid->cellBackColor(1, BegQty), SettingsStore::colorValue(Setting::LockColor));
+        QVERIFY(!grid->editCell(1, BegQty, 11));
+        QVERIFY(!grid->editCell(2, BatchNo, QStringLiteral("K9")));
+        grid->select(1, BegQty);
+        QVERIFY(m_dialog->pressButton(QStringLiteral("Delete")));
+        QCOMPARE(grid->rows(), 4);
     }
 
     void typedQuantitiesFillTheirDependentCells()
     {
         run(QStringLiteral("UPDATE t_ICItem SET FTrack=81, FPlanPrice=2.5 WHERE FItemID=?"), {SteelPlate});
-        const auto dialog = openItem(ShelfA, SteelPlate);
-        QVERIFY(dialog);
-        SpreadGrid &grid = *dialog->grid();
-        QVERIFY(dialog->pressButton(QStringLiteral("AddNew")));
-        const int line = grid.row();
+        SpreadGrid *grid = openItem(ShelfA, SteelPlate);
+        QVERIFY(grid);
+        QVERIFY(m_dialog->pressButton(QStringLiteral("AddNew")));
+        const int line = grid->row();
         // Planned cost: the amount follows quantity x planned price 2.5; the secondary quantity
         // follows the units' coefficients (1 t = 1000 kg).
-        QVERIFY(grid.editCell(line, BegQty, 4000));
-        QCOMPARE(grid.number(line, BegBal), 10000.0);
-        QCOMPARE(grid.number(line, BegSecQty), 4.0);
-        QVERIFY(grid.editCell(line, YtdSecQty, 6));
-        QCOMPARE(grid.number(line, YtdQty), 6000.0);
-        QCOMPARE(grid.number(line, YtdBal), 15000.0);
+        QVERIFY(grid->editCell(line, BegQty, 4000));
+        QVERIFY(grid->editCell(line, YtdSecQty, 6));
+        QCOMPARE((QList<double>{grid->number(line, BegBal), grid->number(line, BegSecQty), grid->number(line, YtdQty),
+                                grid->number(line, YtdBal)}),
+                 (QList<double>{10000, 4, 6000, 15000}));
     }
 
     void figureRefusedWhileTypingStaysToBeCorrected()
     {
-        const auto dialog = openItem(ShelfB, ComponentKit);
-        QVERIFY(dialog);
-        SpreadGrid &grid = *dialog->grid();
+        SpreadGrid *grid = openItem(ShelfB, ComponentKit);
+        QVERIFY(grid);
         // Negative stock is not allowed: the user is told at once, the figure stays to be corrected.
-        QVERIFY(grid.editCell(1, SendQty, -5));
+        QVERIFY(grid->editCell(1, SendQty, -5));
         QCOMPARE(m_prompter.messages().size(), 1);
         QCOMPARE(lastMessage(), QStringLiteral("录入的数据[数量<0]！\r\n但账套不允许负结存,因此数量不能<0！\r\n数据非法！请重新录入！"));
-        QCOMPARE(grid.number(1, SendQty), -5.0);
-        QCOMPARE(grid.TextMatrix(1, Flag), QStringLiteral("1"));
-        QCOMPARE(grid.col(), int(SendQty));
+        QCOMPARE(grid->number(1, SendQty), -5.0);
+        QCOMPARE(grid->TextMatrix(1, Flag), QStringLiteral("1"));
+        QCOMPARE(grid->col(), int(SendQty));
     }
 
     void serviceFailuresAreReportedAndKeepTheChanges()
     {
-        const auto dialog = openItem(ShelfB, ComponentKit);
-        QVERIFY(dialog);
-        SpreadGrid &grid = *dialog->grid();
-        QVERIFY(grid.editCell(1, BatchNo, QStringLiteral("K005")));
+        SpreadGrid *grid = openItem(ShelfB, ComponentKit);
+        QVERIFY(grid);
+        QVERIFY(grid->editCell(1, BatchNo, QStringLiteral("K005")));
         run(QStringLiteral("ALTER TABLE ICInvInitial RENAME TO ICInvInitialGone"));
-        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+        QVERIFY(m_dialog->pressButton(QStringLiteral("Save")));
         QCOMPARE(m_prompter.messages().size(), 1);
         QVERIFY2(lastMessage().startsWith(QStringLiteral("系统在调用函数SaveBatManDetail()时发生错误\r\n错误原因：")),
                  qPrintable(lastMessage()));
-        QVERIFY(!dialog->SavedBatMan());
-        QVERIFY(dialog->session()->hasChanges());
-        QCOMPARE(grid.TextMatrix(1, BatchNo), QStringLiteral("K005"));
+        QVERIFY(!m_dialog->SavedBatMan());
+        QVERIFY(m_dialog->session()->hasChanges());
+        QCOMPARE(grid->TextMatrix(1, BatchNo), QStringLiteral("K005"));
         // A failed load leaves the header and the totals row.
-        dialog->prepare();
+        m_dialog->prepare();
         QCOMPARE(m_prompter.messages().size(), 2);
         QVERIFY2(lastMessage().startsWith(QStringLiteral("系统在调用函数FillBatManDetailByRs()时发生错误\r\n错误原因：")),
                  qPrintable(lastMessage()));
-        QCOMPARE(grid.rows(), 2);
+        QCOMPARE(grid->rows(), 2);
     }
 
     void apportionedAmountsReachTheTable_data()
@@ -289,48 +282,47 @@ private slots:
     {
         QFETCH(double, quantity);
         QFETCH(QStringList, amounts);
-        const auto dialog = openItem(ShelfA, SteelPlate);
-        QVERIFY(dialog);
-        SpreadGrid &grid = *dialog->grid();
+        SpreadGrid *grid = openItem(ShelfA, SteelPlate);
+        QVERIFY(grid);
         // The two demo batches go; three new ones come.
         for (int i = 0; i < 2; ++i) {
-            grid.select(1, BegQty);
-            QVERIFY(dialog->pressButton(QStringLiteral("Delete")));
+            grid->select(1, BegQty);
+            QVERIFY(m_dialog->pressButton(QStringLiteral("Delete")));
         }
         for (int line = 1; line <= 3; ++line) {
-            QVERIFY(dialog->pressButton(QStringLiteral("AddNew")));
-            QVERIFY(grid.editCell(line, BatchNo, QStringLiteral("N%1").arg(line)));
+            QVERIFY(m_dialog->pressButton(QStringLiteral("AddNew")));
+            QVERIFY(grid->editCell(line, BatchNo, QStringLiteral("N%1").arg(line)));
         }
         // Amounts of an average-valued item must be apportioned before anything is saved.
         const QStringList before = storedLines(1, SteelPlate);
-        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+        QVERIFY(m_dialog->pressButton(QStringLiteral("Save")));
         QCOMPARE(lastMessage(), QStringLiteral("加权平均法、移动平均法的物料") + CRLF
                                     + QStringLiteral("采用批次管理时，金额需要分摊来确定单价！") + CRLF
                                     + QStringLiteral("系统检测到金额未分摊，请先分摊金额！"));
         QCOMPARE(m_prompter.messages().last().icon, Prompter::Icon::Warning);
         QCOMPARE(storedLines(1, SteelPlate), before);
         m_prompter.clear();
-        QVERIFY(dialog->pressButton(QStringLiteral("ShareBal")));
-        QVERIFY(dialog->button(QStringLiteral("ShareBal"))->isChecked());
+        QVERIFY(m_dialog->pressButton(QStringLiteral("ShareBal")));
+        QVERIFY(m_dialog->button(QStringLiteral("ShareBal"))->isChecked());
         // Below the totals an input line takes the two totals to apportion, nothing else.
-        const int inputRow = grid.rows() - 1;
-        QCOMPARE(grid.TextMatrix(inputRow - 1, BatchNo), QStringLiteral("合计"));
-        QVERIFY(!grid.editCell(inputRow, BegQty, 1));
-        QVERIFY(grid.editCell(inputRow, BegBal, 100));
-        QVERIFY(grid.editCell(inputRow, YtdBal, 100));
+        const int inputRow = grid->rows() - 1;
+        QCOMPARE(grid->TextMatrix(inputRow - 1, BatchNo), QStringLiteral("合计"));
+        QVERIFY(!grid->editCell(inputRow, BegQty, 1));
+        QVERIFY(grid->editCell(inputRow, BegBal, 100));
+        QVERIFY(grid->editCell(inputRow, YtdBal, 100));
         // Quantities typed afterwards are apportioned at once.
         for (int line = 1; line <= 3; ++line) {
-            QVERIFY(grid.editCell(line, BegQty, quantity));
-            QVERIFY(grid.editCell(line, YtdQty, quantity));
+            QVERIFY(grid->editCell(line, BegQty, quantity));
+            QVERIFY(grid->editCell(line, YtdQty, quantity));
         }
         // Each quantity comes with its share of the total: no line is warned of a zero amount.
         QVERIFY(m_prompter.messages().isEmpty());
-        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
-        QVERIFY(dialog->SavedBatMan());
+        QVERIFY(m_dialog->pressButton(QStringLiteral("Save")));
+        QVERIFY(m_dialog->SavedBatMan());
         // Apportioning switched off takes the input line away again; the input line is never stored.
-        QVERIFY(dialog->pressButton(QStringLiteral("ShareBal")));
-        QCOMPARE(grid.rows(), inputRow);
-        QCOMPARE(grid.TextMatrix(inputRow - 1, BatchNo), QStringLiteral("合计"));
+        QVERIFY(m_dialog->pressButton(QStringLiteral("ShareBal")));
+        QCOMPARE(grid->rows(), inputRow);
+        QCOMPARE(grid->TextMatrix(inputRow - 1, BatchNo), QStringLiteral("合计"));
 
         QStringList expected;
         for (int line = 1; line <= 3; ++line)
@@ -341,27 +333,25 @@ private slots:
     // The dates a shelf-life item's lines are judged by, as the account set gives them back.
     void productionDatesOfAShelfLifeItem()
     {
-        const auto dialog = openItem(ShelfB, EpoxyGlue);
-        QVERIFY(dialog);
-        SpreadGrid &grid = *dialog->grid();
-        QCOMPARE(grid.TextMatrix(2, BatchNo), QStringLiteral("E2402"));
+        SpreadGrid *grid = openItem(ShelfB, EpoxyGlue);
+        QVERIFY(grid);
+        QCOMPARE(grid->TextMatrix(2, BatchNo), QStringLiteral("E2402"));
 
         // Produced on the day it came in (the demo lines came in on April 1st, the first day of the
         // period); the same batch with another production date is a line of its own.
-        QVERIFY(grid.editCell(1, KFDate, demoDay(4, 1)));
-        QVERIFY(grid.editCell(2, BatchNo, QStringLiteral("E2401")));
-        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
-        QVERIFY2(dialog->SavedBatMan(), qPrintable(lastMessage()));
+        QVERIFY(grid->editCell(1, KFDate, demoDay(4, 1)));
+        QVERIFY(grid->editCell(2, BatchNo, QStringLiteral("E2401")));
+        QVERIFY(m_dialog->pressButton(QStringLiteral("Save")));
+        QVERIFY2(m_dialog->SavedBatMan(), qPrintable(lastMessage()));
         const QStringList saved{QStringLiteral("E2401 %1 150 4275 0").arg(demoDay(2, 12)),
                                 QStringLiteral("E2401 %1 200 5600 0").arg(demoDay(4, 1))};
         QCOMPARE(storedLines(2, EpoxyGlue), saved);
 
         // Produced after it came in: refused at the date.
-        QVERIFY(grid.editCell(2, KFDate, demoDay(4, 2)));
-        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
+        QVERIFY(grid->editCell(2, KFDate, demoDay(4, 2)));
+        QVERIFY(m_dialog->pressButton(QStringLiteral("Save")));
         QCOMPARE(lastMessage(), QStringLiteral("该物料实行保质期管理，生产日期不能大于入库日期！"));
-        QCOMPARE(grid.row(), 2);
-        QCOMPARE(grid.col(), int(KFDate));
+        QCOMPARE((std::pair{grid->row(), grid->col()}), (std::pair{2, int(KFDate)}));
         QCOMPARE(storedLines(2, EpoxyGlue), saved);
     }
 
@@ -369,25 +359,24 @@ private slots:
     {
         setParameter(QStringLiteral("UnderStock"), 1);
         const QStringList before = storedLines(2, ComponentKit);
-        const auto dialog = openItem(ShelfB, ComponentKit);
-        QVERIFY(dialog);
-        SpreadGrid &grid = *dialog->grid();
-        const QColor plain = grid.cellBackColor(2, YtdQty);
+        SpreadGrid *grid = openItem(ShelfB, ComponentKit);
+        QVERIFY(grid);
+        const QColor plain = grid->cellBackColor(2, YtdQty);
         // Year opening -3 against period opening -2 + sent 0 - received 0.
         for (const auto &[col, value] : {std::pair{RecvQty, 0.0}, {SendQty, 0.0}, {BegQty, -2.0}, {YtdQty, -3.0}})
-            QVERIFY(grid.editCell(1, col, value));
-        QVERIFY(dialog->pressButton(QStringLiteral("Balance")));
+            QVERIFY(grid->editCell(1, col, value));
+        QVERIFY(m_dialog->pressButton(QStringLiteral("Balance")));
         for (int col : {YtdQty, RecvQty, SendQty, BegQty}) {
-            QVERIFY2(grid.cellBackColor(1, col) != plain, qPrintable(QString::number(col)));
-            QCOMPARE(grid.cellBackColor(2, col), plain);
+            QVERIFY2(grid->cellBackColor(1, col) != plain, qPrintable(QString::number(col)));
+            QCOMPARE(grid->cellBackColor(2, col), plain);
         }
-        QCOMPARE(grid.row(), 1);
+        QCOMPARE(grid->row(), 1);
 
         // Sending -1 makes it add up; the marks go.
-        QVERIFY(grid.editCell(1, SendQty, -1));
-        QVERIFY(dialog->pressButton(QStringLiteral("Balance")));
+        QVERIFY(grid->editCell(1, SendQty, -1));
+        QVERIFY(m_dialog->pressButton(QStringLiteral("Balance")));
         for (int col : {YtdQty, RecvQty, SendQty, BegQty})
-            QCOMPARE(grid.cellBackColor(1, col), plain);
+            QCOMPARE(grid->cellBackColor(1, col), plain);
         // The test itself writes nothing.
         QCOMPARE(storedLines(2, ComponentKit), before);
     }
@@ -408,17 +397,16 @@ private slots:
         const int laptopSerials = serialRecords(1);
         QVERIFY(laptopSerials > 0);
 
-        const auto dialog = openItem(ShelfB, ComponentKit);
-        QVERIFY(dialog);
-        SpreadGrid &grid = *dialog->grid();
+        SpreadGrid *grid = openItem(ShelfB, ComponentKit);
+        QVERIFY(grid);
         for (int i = 0; i < 2; ++i) {
-            grid.select(1, BegQty);
-            QVERIFY(dialog->pressButton(QStringLiteral("Delete")));
+            grid->select(1, BegQty);
+            QVERIFY(m_dialog->pressButton(QStringLiteral("Delete")));
         }
-        QCOMPARE(grid.rows(), 2); // the header and the totals row, which takes no figures
-        QVERIFY(!grid.editCell(1, BegQty, 5));
-        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
-        QVERIFY(dialog->SavedBatMan());
+        QCOMPARE(grid->rows(), 2); // the header and the totals row, which takes no figures
+        QVERIFY(!grid->editCell(1, BegQty, 5));
+        QVERIFY(m_dialog->pressButton(QStringLiteral("Save")));
+        QVERIFY(m_dialog->SavedBatMan());
 
         QCOMPARE(storedLines(2, ComponentKit), QStringList());
         QCOMPARE(serialRecords(KitSerials), 0);
@@ -428,24 +416,22 @@ private slots:
 
     void renamedBatchIsCheckedAndWrittenAgain()
     {
-        const auto dialog = openItem(ShelfB, ComponentKit);
-        QVERIFY(dialog);
-        SpreadGrid &grid = *dialog->grid();
+        SpreadGrid *grid = openItem(ShelfB, ComponentKit);
+        QVERIFY(grid);
         // Another line's number is refused at once, and the cursor stays.
-        QVERIFY(!grid.editCell(2, BatchNo, QStringLiteral("K001")));
-        QCOMPARE(grid.TextMatrix(2, BatchNo), QStringLiteral("K002"));
+        QVERIFY(!grid->editCell(2, BatchNo, QStringLiteral("K001")));
+        QCOMPARE(grid->TextMatrix(2, BatchNo), QStringLiteral("K002"));
         QCOMPARE(m_prompter.messages().last().caption, QStringLiteral("澄枫提示"));
         QCOMPARE(lastMessage(), QStringLiteral("当前批号已存在，请重新输入！"));
-        QCOMPARE(grid.row(), 2);
-        QCOMPARE(grid.col(), int(BatchNo));
-        QCOMPARE(grid.TextMatrix(2, Flag), QString()); // refused edits change nothing
-        QVERIFY(grid.editCell(1, BatchNo, QStringLiteral("K001-A")));
-        QVERIFY(dialog->pressButton(QStringLiteral("Save")));
-        QVERIFY(dialog->SavedBatMan());
+        QCOMPARE((std::pair{grid->row(), grid->col()}), (std::pair{2, int(BatchNo)}));
+        QCOMPARE(grid->TextMatrix(2, Flag), QString()); // refused edits change nothing
+        QVERIFY(grid->editCell(1, BatchNo, QStringLiteral("K001-A")));
+        QVERIFY(m_dialog->pressButton(QStringLiteral("Save")));
+        QVERIFY(m_dialog->SavedBatMan());
         QCOMPARE(storedLines(2, ComponentKit), (QStringList{QStringLiteral("K001-A  50 6000 0"), KitLines[1]}));
         // Saved: nothing is pending any more, and closing asks nothing.
-        QCOMPARE(grid.TextMatrix(1, Flag), QString());
-        QVERIFY(dialog->pressButton(QStringLiteral("Exit")));
+        QCOMPARE(grid->TextMatrix(1, Flag), QString());
+        QVERIFY(m_dialog->pressButton(QStringLiteral("Exit")));
         QCOMPARE(m_prompter.messages().size(), 1);
     }
 
@@ -456,25 +442,24 @@ private slots:
         const QString counter = QStringLiteral("SELECT FValue FROM t_SystemProfile WHERE FCategory='IC' AND FKey='INIBillInterID'");
         const int before = count(counter);
         for (const int itemId : {ComponentKit, EpoxyGlue}) {
-            const auto dialog = openItem(ShelfB, itemId);
-            QVERIFY(dialog);
-            SpreadGrid &grid = *dialog->grid();
-            QVERIFY(dialog->pressButton(QStringLiteral("AddNew")));
-            const int line = grid.row();
-            QCOMPARE(line, 3);
-            QCOMPARE(grid.col(), int(BatchNo));
-            QCOMPARE(grid.value(line, StockIn).toString(), demoDay(4, 1));
-            QCOMPARE(grid.TextMatrix(line, KFPeriod), itemId == EpoxyGlue ? QStringLiteral("180") : QString());
-            QCOMPARE(grid.TextMatrix(line, Flag), QStringLiteral("1"));
-            QVERIFY(grid.editCell(line, BatchNo, QStringLiteral("N1")));
+            SpreadGrid *grid = openItem(ShelfB, itemId);
+            QVERIFY(grid);
+            QVERIFY(m_dialog->pressButton(QStringLiteral("AddNew")));
+            const int line = grid->row();
+            QCOMPARE((std::pair{line, grid->col()}), (std::pair{3, int(BatchNo)}));
+            const QString shelfLife = itemId == EpoxyGlue ? QStringLiteral("180") : QString();
+            QCOMPARE((QStringList{grid->value(line, StockIn).toString(), grid->TextMatrix(line, KFPeriod),
+                                  grid->TextMatrix(line, Flag)}),
+                     (QStringList{demoDay(4, 1), shelfLife, QStringLiteral("1")}));
+            QVERIFY(grid->editCell(line, BatchNo, QStringLiteral("N1")));
             if (itemId == EpoxyGlue)
-                QVERIFY(grid.editCell(line, KFDate, demoDay(3, 1)));
+                QVERIFY(grid->editCell(line, KFDate, demoDay(3, 1)));
             // The amount is still to come: no warning of a zero amount in the middle of the pair.
-            QVERIFY(grid.editCell(line, BegQty, 1));
+            QVERIFY(grid->editCell(line, BegQty, 1));
             QVERIFY(m_prompter.messages().isEmpty());
-            QVERIFY(grid.editCell(line, BegBal, 10));
-            QVERIFY(dialog->pressButton(QStringLiteral("Save")));
-            QVERIFY2(dialog->SavedBatMan(), qPrintable(lastMessage()));
+            QVERIFY(grid->editCell(line, BegBal, 10));
+            QVERIFY(m_dialog->pressButton(QStringLiteral("Save")));
+            QVERIFY2(m_dialog->SavedBatMan(), qPrintable(lastMessage()));
         }
         QSqlQuery query = run(QStringLiteral("SELECT FBillInterID FROM ICInvInitial WHERE FBatchNo='N1' ORDER BY FBillInterID"));
         QList<int> numbers;
@@ -500,37 +485,35 @@ private slots:
     {
         QFETCH(Closing, closing);
         const auto &[change, byWindow, answer, staysOpen, stored] = closing;
-        const auto dialog = openItem(ShelfB, ComponentKit);
-        QVERIFY(dialog);
-        dialog->show();
-        QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
+        QVERIFY(openItem(ShelfB, ComponentKit));
+        m_dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
         if (change == 1)
-            QVERIFY(dialog->grid()->editCell(1, BatchNo, QStringLiteral("K009")));
+            QVERIFY(m_dialog->grid()->editCell(1, BatchNo, QStringLiteral("K009")));
         else if (change == 2)
-            QVERIFY(dialog->pressButton(QStringLiteral("AddNew")));
+            QVERIFY(m_dialog->pressButton(QStringLiteral("AddNew")));
         if (answer >= 0)
             m_prompter.queueAnswer(Prompter::Answer(answer));
         if (byWindow)
-            dialog->close();
+            m_dialog->close();
         else
-            QVERIFY(dialog->pressButton(QStringLiteral("Exit")));
+            QVERIFY(m_dialog->pressButton(QStringLiteral("Exit")));
 
-        QCOMPARE(dialog->isVisible(), staysOpen);
+        QCOMPARE(m_dialog->isVisible(), staysOpen);
         QCOMPARE(storedLines(2, ComponentKit), stored);
-        QCOMPARE(dialog->SavedBatMan(), stored != KitLines);
+        QCOMPARE(m_dialog->SavedBatMan(), stored != KitLines);
         if (answer < 0) {
             QVERIFY(m_prompter.messages().isEmpty());
             return;
         }
         const Prompter::Message &asked = m_prompter.messages().first();
-        QCOMPARE(asked.text, QStringLiteral("数据已经改变，是否需要保存？"));
-        QCOMPARE(asked.caption, QStringLiteral("澄枫提示"));
-        QCOMPARE(asked.buttons, Prompter::Buttons::YesNo);
-        QCOMPARE(asked.icon, Prompter::Icon::Question);
+        QCOMPARE((std::tuple{asked.text, asked.caption, asked.buttons, asked.icon}),
+                 (std::tuple{QStringLiteral("数据已经改变，是否需要保存？"), QStringLiteral("澄枫提示"),
+                             Prompter::Buttons::YesNo, Prompter::Icon::Question}));
         if (staysOpen)
             QCOMPARE(lastMessage(), QStringLiteral("该物料实行批次管理，批号不能为空，请输入批号！"));
         else
-            QCOMPARE(dialog->result(), int(dialog->SavedBatMan() ? QDialog::Accepted : QDialog::Rejected));
+            QCOMPARE(m_dialog->result(), int(m_dialog->SavedBatMan() ? QDialog::Accepted : QDialog::Rejected));
     }
 };
 

@@ -11,13 +11,15 @@
 #include <QTest>
 
 using Amounts = QList<std::optional<double>>;
-Q_DECLARE_METATYPE(Amounts)
+struct Split { Amounts quantities; double total; int scale; Amounts expected; };
+Q_DECLARE_METATYPE(Split)
 Q_DECLARE_METATYPE(FigureKind)
 Q_DECLARE_METATYPE(QList<FigureKind>)
 using Lines = QList<BatchLine>;
-Q_DECLARE_METATYPE(Lines)
-Q_DECLARE_METATYPE(ItemInfo)
-Q_DECLARE_METATYPE(ApportionState)
+struct TypedBatch { bool shelfLife; QString typed, loaded, message; };
+Q_DECLARE_METATYPE(TypedBatch)
+struct SaveCase { ItemInfo item; bool allocate; ApportionState apportion; Lines lines; int row, col; QString message; };
+Q_DECLARE_METATYPE(SaveCase)
 
 namespace {
 
@@ -82,32 +84,25 @@ class TestBatchRules : public QObject
 private slots:
     void apportion_data()
     {
-        QTest::addColumn<Amounts>("quantities");
-        QTest::addColumn<double>("total");
-        QTest::addColumn<int>("scale");
-        QTest::addColumn<Amounts>("expected");
+        QTest::addColumn<Split>("split"); // quantities, total, decimals, expected amounts
 
-        QTest::newRow("three batches of one") << Amounts{1, 1, 1} << 100.0 << 2 << Amounts{33.33, 33.33, 33.34};
-        QTest::newRow("negative total") << Amounts{1, 1, 1} << -100.0 << 2 << Amounts{-33.33, -33.33, -33.34};
+        QTest::newRow("three batches of one") << Split{{1, 1, 1}, 100.0, 2, {33.33, 33.33, 33.34}};
+        QTest::newRow("negative total") << Split{{1, 1, 1}, -100.0, 2, {-33.33, -33.33, -33.34}};
         // Empty quantity cells are passed over and keep their amounts.
-        QTest::newRow("empty cell skipped") << Amounts{1, std::nullopt, 2} << 10.0 << 2
-                                            << Amounts{3.33, std::nullopt, 6.67};
+        QTest::newRow("empty cell skipped") << Split{{1, std::nullopt, 2}, 10.0, 2, {3.33, std::nullopt, 6.67}};
         // The residue goes to the last line with quantity; a zero line after it gets nothing.
-        QTest::newRow("zero after the last") << Amounts{1, 2, 0} << 10.0 << 2 << Amounts{3.33, 6.67, 0.0};
-        QTest::newRow("no total typed") << Amounts{4, 6} << 0.0 << 2 << Amounts{0.0, 0.0};
+        QTest::newRow("zero after the last") << Split{{1, 2, 0}, 10.0, 2, {3.33, 6.67, 0.0}};
+        QTest::newRow("no total typed") << Split{{4, 6}, 0.0, 2, {0.0, 0.0}};
         // 0.025 per unit rounds half away from zero on its decimal text, not down on its binary value.
-        QTest::newRow("halves away from zero") << Amounts{1, 1, 2} << 0.1 << 2 << Amounts{0.03, 0.03, 0.04};
-        QTest::newRow("tenths") << Amounts{0.1, 0.2, 0.3} << 100.0 << 2 << Amounts{16.67, 33.33, 50.0};
-        QTest::newRow("no decimals") << Amounts{1, 1, 1} << 100.0 << 0 << Amounts{33.0, 33.0, 34.0};
+        QTest::newRow("halves away from zero") << Split{{1, 1, 2}, 0.1, 2, {0.03, 0.03, 0.04}};
+        QTest::newRow("tenths") << Split{{0.1, 0.2, 0.3}, 100.0, 2, {16.67, 33.33, 50.0}};
+        QTest::newRow("no decimals") << Split{{1, 1, 1}, 100.0, 0, {33.0, 33.0, 34.0}};
     }
 
     void apportion()
     {
-        QFETCH(Amounts, quantities);
-        QFETCH(double, total);
-        QFETCH(int, scale);
-        QFETCH(Amounts, expected);
-
+        QFETCH(Split, split);
+        const auto &[quantities, total, scale, expected] = split;
         const Amounts amounts = Apportion::split(quantities, total, scale);
         QCOMPARE(amounts.size(), expected.size());
         double sum = 0;
@@ -126,26 +121,26 @@ private slots:
         QTest::addColumn<QList<double>>("figures"); // columns 2 to 17
         QTest::addColumn<QList<FigureKind>>("unbalanced");
 
-        //                          qty  sec  amt   diff | received        | sent            | period
-        QTest::newRow("balanced") << QList<double>{10, 5, 100, 1, 2, 1, 20, 0, 4, 2, 40, 0.5, 8, 4, 80, 0.5}
-                                  << QList<FigureKind>{};
-        QTest::newRow("quantity off") << QList<double>{11, 5, 100, 1, 2, 1, 20, 0, 4, 2, 40, 0.5, 8, 4, 80, 0.5}
-                                      << QList<FigureKind>{FigureKind::Quantity};
+        using F = QList<double>;
+        using K = QList<FigureKind>;
+        //                             qty sec amt diff | received   | sent            | period
+        QTest::newRow("balanced") << F{10, 5, 100, 1, 2, 1, 20, 0, 4, 2, 40, 0.5, 8, 4, 80, 0.5} << K{};
+        QTest::newRow("quantity off") << F{11, 5, 100, 1, 2, 1, 20, 0, 4, 2, 40, 0.5, 8, 4, 80, 0.5}
+                                      << K{FigureKind::Quantity};
         QTest::newRow("amount and difference off")
-            << QList<double>{10, 5, 100, 1, 2, 1, 20, 0, 4, 2, 41, 0.5, 8, 4, 80, 1}
-            << QList<FigureKind>{FigureKind::Amount, FigureKind::Difference};
+            << F{10, 5, 100, 1, 2, 1, 20, 0, 4, 2, 41, 0.5, 8, 4, 80, 1}
+            << K{FigureKind::Amount, FigureKind::Difference};
         // -10 = -9 + (-3) - (-2): negative figures that balance pass.
-        QTest::newRow("negatives balanced") << QList<double>{-10, 0, -100, 0, -2, 0, -20, 0, -3, 0, -30, 0, -9, 0, -90, 0}
-                                            << QList<FigureKind>{};
+        QTest::newRow("negatives balanced") << F{-10, 0, -100, 0, -2, 0, -20, 0, -3, 0, -30, 0, -9, 0, -90, 0} << K{};
         // All negative and off: -10 against -5 + (-3) - (-2) = -6.
-        QTest::newRow("negatives off") << QList<double>{-10, 0, -100, 0, -2, 0, -20, 0, -3, 0, -30, 0, -5, 0, -90, 0}
-                                       << QList<FigureKind>{FigureKind::Quantity};
+        QTest::newRow("negatives off") << F{-10, 0, -100, 0, -2, 0, -20, 0, -3, 0, -30, 0, -5, 0, -90, 0}
+                                       << K{FigureKind::Quantity};
         // Unrounded: 0.004 apart is a difference even where the display shows two decimals.
-        QTest::newRow("below display precision") << QList<double>{1.004, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0}
-                                                 << QList<FigureKind>{FigureKind::Quantity};
+        QTest::newRow("below display precision") << F{1.004, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0}
+                                                 << K{FigureKind::Quantity};
         // 0.1 + 0.2 is 0.30000000000000004: the figures are compared as the cells hold them, unrounded.
-        QTest::newRow("unrounded sum") << QList<double>{0.3, 0, 0, 0, 0, 0, 0, 0, 0.2, 0, 0, 0, 0.1, 0, 0, 0}
-                                       << QList<FigureKind>{FigureKind::Quantity};
+        QTest::newRow("unrounded sum") << F{0.3, 0, 0, 0, 0, 0, 0, 0, 0.2, 0, 0, 0, 0.1, 0, 0, 0}
+                                       << K{FigureKind::Quantity};
     }
 
     void lineBalance()
@@ -161,47 +156,33 @@ private slots:
 
     void typedBatch_data()
     {
-        QTest::addColumn<bool>("shelfLife");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("loaded");
-        QTest::addColumn<QString>("message"); // empty: accepted
+        QTest::addColumn<TypedBatch>("batch"); // message empty: accepted
 
         const QString empty = QStringLiteral("批号不能为空，请输入批号！");
         const QString exists = QStringLiteral("当前批号已存在，请重新输入！");
-        QTest::newRow("empty") << false << QString() << QStringLiteral("B1") << empty;
-        QTest::newRow("blanks") << false << QStringLiteral("   ") << QString() << empty;
-        QTest::newRow("new number") << false << QStringLiteral("B9") << QString() << QString();
-        QTest::newRow("held by another line") << false << QStringLiteral("B2") << QString() << exists;
-        QTest::newRow("held, blanks around") << false << QStringLiteral(" B2 ") << QStringLiteral("B1") << exists;
+        QTest::newRow("empty") << TypedBatch{false, QString(), QStringLiteral("B1"), empty};
+        QTest::newRow("blanks") << TypedBatch{false, QStringLiteral("   "), QString(), empty};
+        QTest::newRow("new number") << TypedBatch{false, QStringLiteral("B9"), QString(), QString()};
+        QTest::newRow("held by another line") << TypedBatch{false, QStringLiteral("B2"), QString(), exists};
+        QTest::newRow("held, blanks around") << TypedBatch{false, QStringLiteral(" B2 "), QStringLiteral("B1"), exists};
         // With shelf life the same batch may come again under another production date.
-        QTest::newRow("held, shelf-life item") << true << QStringLiteral("B2") << QString() << QString();
+        QTest::newRow("held, shelf-life item") << TypedBatch{true, QStringLiteral("B2"), QString(), QString()};
     }
 
     void typedBatch()
     {
-        QFETCH(bool, shelfLife);
-        QFETCH(QString, typed);
-        QFETCH(QString, loaded);
-        QFETCH(QString, message);
-
+        QFETCH(TypedBatch, batch);
         const std::optional<QString> refused = BatchValidation::checkTypedBatch(
-            item(true, shelfLife), typed, loaded, {QStringLiteral("B2"), QStringLiteral("B3")});
-        QCOMPARE(refused.value_or(QString()), message);
+            item(true, batch.shelfLife), batch.typed, batch.loaded, {QStringLiteral("B2"), QStringLiteral("B3")});
+        QCOMPARE(refused.value_or(QString()), batch.message);
     }
 
     void saveCheck_data()
     {
-        QTest::addColumn<ItemInfo>("item");
-        QTest::addColumn<bool>("allocate");
-        QTest::addColumn<ApportionState>("apportion");
-        QTest::addColumn<Lines>("lines");
-        QTest::addColumn<int>("row"); // of the refusal
-        QTest::addColumn<int>("col");
-        QTest::addColumn<QString>("message"); // empty: the lines pass
-
+        QTest::addColumn<SaveCase>("check"); // row, col and message of the refusal; no message: the lines pass
         const auto add = [](const char *name, const ItemInfo &it, const Lines &lines, int row = -1, int col = -1,
                             const QString &message = {}, bool allocate = false, ApportionState state = {}) {
-            QTest::newRow(name) << it << allocate << state << lines << row << col << message;
+            QTest::newRow(name) << SaveCase{it, allocate, state, lines, row, col, message};
         };
         const ItemInfo both = item(true, true);
         const QDate stockIn(2024, 1, 1);
@@ -266,22 +247,14 @@ private slots:
 
     void saveCheck()
     {
-        QFETCH(ItemInfo, item);
-        QFETCH(bool, allocate);
-        QFETCH(ApportionState, apportion);
-        QFETCH(Lines, lines);
-        QFETCH(int, row);
-        QFETCH(int, col);
-        QFETCH(QString, message);
-
+        QFETCH(SaveCase, check);
+        const auto &[item, allocate, apportion, lines, row, col, message] = check;
         const std::optional<BatchRefusal> refused =
             BatchValidation::checkBeforeSave(item, amountRules(allocate), apportion, lines);
-        QCOMPARE(refused.has_value(), !message.isEmpty());
-        if (refused) {
-            QCOMPARE(refused->message, message);
-            QCOMPARE(refused->row, row);
-            QCOMPARE(refused->col, col);
-        }
+        const auto text = [](int row, int col, const QString &message) {
+            return message.isEmpty() ? QString() : QStringLiteral("%1,%2 %3").arg(row).arg(col).arg(message);
+        };
+        QCOMPARE(refused ? text(refused->row, refused->col, refused->message) : QString(), text(row, col, message));
     }
 
     // While typing, one group is judged alone: an empty one is no refusal, a value without quantity is.
@@ -339,46 +312,25 @@ private slots:
         for (const auto &[name, value] : values)
             key.Add(QLatin1String(name), value);
         const ItemInfo it = ItemInfo::fromItemKey(key);
-        QCOMPARE(it.id, 3057);
-        QCOMPARE(it.shortNumber, QStringLiteral("LZB"));
-        QCOMPARE(it.number, QStringLiteral("01.002"));
-        QVERIFY(it.batchManaged);
-        QVERIFY(!it.shelfLifeManaged);
-        QVERIFY(it.plannedCost());
-        QCOMPARE(it.planPrice, 12.5);
-        QCOMPARE(it.unitId, 7);
-        QCOMPARE(it.qtyDecimal, 3);
-        QCOMPARE(it.priceDecimal, 4);
-        QCOMPARE(it.kfPeriod, 180);
-        QCOMPARE(it.secUnitId, 8);
-        QCOMPARE(it.secCoefficient, 2.5);
-        QCOMPARE(it.auxPropId, 11);
-        QCOMPARE(it.title(), QStringLiteral("冷轧板/1.0mm"));
+        QCOMPARE(QStringLiteral("%1 %2 %3 %4%5%6 %7 %8 %9 %10 %11 %12 %13 %14 %15")
+                     .arg(it.id).arg(it.shortNumber, it.number)
+                     .arg(it.batchManaged).arg(it.shelfLifeManaged).arg(it.plannedCost())
+                     .arg(it.planPrice).arg(it.unitId).arg(it.qtyDecimal).arg(it.priceDecimal).arg(it.kfPeriod)
+                     .arg(it.secUnitId).arg(it.secCoefficient).arg(it.auxPropId).arg(it.title()),
+                 QStringLiteral("3057 LZB 01.002 101 12.5 7 3 4 180 8 2.5 11 冷轧板/1.0mm"));
 
         key.setItem(QStringLiteral("Model"), QStringLiteral(" "));
         QCOMPARE(ItemInfo::fromItemKey(key).title(), QStringLiteral("冷轧板"));
     }
 
-    void modeCaption_data()
-    {
-        QTest::addColumn<bool>("batch");
-        QTest::addColumn<int>("track");
-        QTest::addColumn<bool>("quantitiesOnly");
-        QTest::addColumn<QString>("caption");
-
-        QTest::newRow("batch, planned cost") << true << 81 << false << "批号/数量/金额/材料成本差异";
-        QTest::newRow("batch, planned cost, quantities") << true << 81 << true << "批号/数量";
-        QTest::newRow("shelf life, amounts") << false << 81 << false << "数量/金额";
-        QTest::newRow("shelf life, quantities") << false << 76 << true << "数量";
-    }
-
+    // A batch item or else a shelf-life one, its valuation (81: planned cost), quantities only or with amounts.
     void modeCaption()
     {
-        QFETCH(bool, batch);
-        QFETCH(int, track);
-        QFETCH(bool, quantitiesOnly);
-        QFETCH(QString, caption);
-        QCOMPARE(batchModeCaption(item(batch, !batch, track), quantitiesOnly), caption);
+        const struct { bool batch; int track; bool quantitiesOnly; const char *caption; } cases[] = {
+            {true, 81, false, "批号/数量/金额/材料成本差异"}, {true, 81, true, "批号/数量"},
+            {false, 81, false, "数量/金额"},                  {false, 76, true, "数量"}};
+        for (const auto &c : cases)
+            QCOMPARE(batchModeCaption(item(c.batch, !c.batch, c.track), c.quantitiesOnly), QString(c.caption));
     }
 };
 

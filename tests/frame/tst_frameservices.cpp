@@ -35,16 +35,10 @@ public:
     Q_INVOKABLE QObject *FetchSysParameter(const QString &) { return nullptr; }
     Q_INVOKABLE QObject *FetchStocks(const QString &, const QString &) { return nullptr; }
     Q_INVOKABLE QObject *FetchYtdAccounts(const QString &, int) { return nullptr; }
-    Q_INVOKABLE QObject *FetchYtdInitialData(const QString &, int, int, int, int, int, const QString &,
-                                             const QString &, const QString &, const QString &, bool)
-    {
-        return nullptr;
-    }
+    Q_INVOKABLE QObject *FetchYtdInitialData(const QString &, int, int, int, int, int, const QString &, const QString &,
+                                             const QString &, const QString &, bool) { return nullptr; }
     Q_INVOKABLE QObject *FetchYtdBatManDetail(const QString &, int, int, int, int, int, int, bool, bool,
-                                              const QString &)
-    {
-        return nullptr;
-    }
+                                              const QString &) { return nullptr; }
     Q_INVOKABLE QObject *FetchYtdItemDetail(const QString &, const QString &) { return nullptr; }
     Q_INVOKABLE QObject *GetInitData(const QString &, const QString &) { return nullptr; }
 };
@@ -85,10 +79,10 @@ private slots:
         ShowErrorMsg(QStringLiteral("系统在调用函数LoadingStocks()时发生错误"), true);
         QCOMPARE(m_prompter.messages().size(), 1);
         const Prompter::Message &shown = m_prompter.messages().first();
-        QCOMPARE(shown.caption, QStringLiteral("澄枫提示"));
-        QCOMPARE(shown.text, QStringLiteral("系统在调用函数LoadingStocks()时发生错误\r\n错误原因：磁盘已满\r\n错误来源：LumoMICInitial.Data"));
-        QCOMPARE(shown.buttons, Prompter::Buttons::Ok);
-        QCOMPARE(shown.icon, Prompter::Icon::Information);
+        QCOMPARE((std::tuple{shown.caption, shown.text, shown.buttons, shown.icon}),
+                 (std::tuple{QStringLiteral("澄枫提示"),
+                             QStringLiteral("系统在调用函数LoadingStocks()时发生错误\r\n错误原因：磁盘已满\r\n错误来源：LumoMICInitial.Data"),
+                             Prompter::Buttons::Ok, Prompter::Icon::Information}));
         QCOMPARE(ErrObject::current().number, 0);
 
         ErrObject::set(LumoError(77, QStringLiteral("x")));
@@ -113,14 +107,11 @@ private slots:
     void refusedTaskRaisesTheConflictError()
     {
         FakeWorld::instance().taskHandle = 0;
-        try {
-            ExecFunc(20, QStringLiteral("Cg0802"), 0, 0);
-            QFAIL("a refused task must raise");
-        } catch (const LumoError &error) {
-            QCOMPARE(error.source(), QStringLiteral("MNetControl.ExecFunc"));
-            QCOMPARE(error.description(), Msg::TaskConflict);
-            QVERIFY(error.number() > LumoError::AppBase);
-        }
+        const std::optional<LumoError> error = raisedBy([] { ExecFunc(20, QStringLiteral("Cg0802"), 0, 0); });
+        QVERIFY(error);
+        QCOMPARE((std::pair{error->source(), error->description()}),
+                 (std::pair{QStringLiteral("MNetControl.ExecFunc"), Msg::TaskConflict}));
+        QVERIFY(error->number() > LumoError::AppBase);
         FakeWorld::instance().taskHandle = 12;
         QCOMPARE(ExecFunc(20, QStringLiteral("Cg0802"), 0, 0), 12);
     }
@@ -134,9 +125,9 @@ private slots:
         QVERIFY(FakeWorld::instance().logLines.first().contains(QLatin1String("tvICInit_NodeClick")));
         ErrObject::set(LumoError(91, QStringLiteral("调用者的错误"), QStringLiteral("Caller")));
         LogEnd(handle, 1); // the fake log fails inside LogEnd
-        QCOMPARE(ErrObject::current().number, 91);
-        QCOMPARE(ErrObject::current().description, QStringLiteral("调用者的错误"));
-        QCOMPARE(ErrObject::current().source, QStringLiteral("Caller"));
+        const auto &kept = ErrObject::current();
+        QCOMPARE((std::tuple{kept.number, kept.description, kept.source}),
+                 (std::tuple{91, QStringLiteral("调用者的错误"), QStringLiteral("Caller")}));
     }
 
     void disabledLogIsDroppedAfterTheFirstStart()
@@ -155,11 +146,13 @@ private slots:
         ParseProps(GetPropsString());
         FakeWorld::instance().sysParams.insert(QStringLiteral("UnderStock"), QString());
         LoadSysParams(ProgId::MICInitialData);
-        QCOMPARE(SysParams::toInt(SysParam::UID), 9);
-        QCOMPARE(SysParams::toText(SysParam::UName), QStringLiteral("张三"));
-        QCOMPARE(SysParams::toInt(SysParam::QtyDecimal), 2);
-        QCOMPARE(SysParams::toInt(SysParam::CurrentPeriod), 1);
-        QCOMPARE(SysParams::toInt(QStringLiteral("NoSuchParameter")), 0);
+        const auto loaded = [] {
+            return QStringLiteral("%1 %2 %3 %4 %5").arg(SysParams::toText(SysParam::UName))
+                .arg(SysParams::toInt(SysParam::UID)).arg(SysParams::toInt(SysParam::CurrentPeriod))
+                .arg(SysParams::toInt(SysParam::QtyDecimal))
+                .arg(SysParams::toInt(QStringLiteral("NoSuchParameter")));
+        };
+        QCOMPARE(loaded(), QStringLiteral("张三 9 1 2 0"));
         QVERIFY(!SysParams::toBool(SysParam::UnderStock)); // empty counts as false
         QCOMPARE(FetchAmountScale(), qint16(2));
 
@@ -168,57 +161,38 @@ private slots:
         FakeWorld::instance().propsString = QStringLiteral("UserName=乙;UserID=2;");
         ParseProps(GetPropsString());
         LoadSysParams(ProgId::MICInitialData);
-        QCOMPARE(SysParams::toInt(SysParam::CurrentPeriod), 5);
-        QCOMPARE(SysParams::toText(SysParam::UName), QStringLiteral("乙"));
-        QCOMPARE(SysParams::toInt(SysParam::UID), 2);
+        QCOMPARE(loaded(), QStringLiteral("乙 2 5 2 0"));
     }
 
     // Hosts and scripts tell these errors apart by number, text and source.
     void emptyAnswerRaisesItsError_data()
     {
         QTest::addColumn<ServiceCall>("call");
-        QTest::addColumn<int>("number");
-        QTest::addColumn<QString>("description");
-        QTest::addColumn<QString>("source");
-
-        QTest::newRow("system parameters") << ServiceCall([] { LoadSysParams(EmptyDataProgId); }) << 533
-                                           << QStringLiteral("数据服务没有返回系统参数") << QStringLiteral("LoadSysParams");
-        QTest::newRow("stocks") << ServiceCall([] { InitialDataClient(EmptyDataProgId).FetchStocks(QString()); })
-                                << 543 << QStringLiteral("数据服务没有返回仓库") << QStringLiteral("FetchStocks");
-        QTest::newRow("accounts") << ServiceCall([] { InitialDataClient(EmptyDataProgId).FetchYtdAccounts(1); })
-                                  << 545 << QStringLiteral("数据服务没有返回科目") << QStringLiteral("FetchYtdAccounts");
-        QTest::newRow("initial data")
-            << ServiceCall([] {
-                   InitialDataClient(EmptyDataProgId).FetchYtdInitialData(1, 0, 1, 50, 1, {}, {}, {}, {}, false);
-               })
-            << 553 << QStringLiteral("数据服务没有返回初始数据") << QStringLiteral("FetchYtdInitialData");
-        QTest::newRow("batch detail")
-            << ServiceCall([] {
-                   InitialDataClient(EmptyDataProgId).FetchYtdBatManDetail(1, 1, 0, 7, 0, 1, true, false, {});
-               })
-            << 555 << QStringLiteral("数据服务没有返回批次明细") << QStringLiteral("FetchYtdBatManDetail");
-        QTest::newRow("item detail")
-            << ServiceCall([] { InitialDataClient(EmptyDataProgId).FetchYtdItemDetail(QStringLiteral("01")); })
-            << 573 << QStringLiteral("数据服务没有返回结果：FetchYtdItemDetail") << QStringLiteral("FetchYtdItemDetail");
-        QTest::newRow("saved rows")
-            << ServiceCall([] { InitialDataClient(EmptyDataProgId).GetInitData(QStringLiteral("1|0|1|7")); })
-            << 573 << QStringLiteral("数据服务没有返回结果：GetInitData") << QStringLiteral("GetInitData");
+        QTest::addColumn<QString>("error"); // number, description, source
+        const auto add = [](const char *name, ServiceCall call, int code, const QString &text, const QString &source) {
+            QTest::newRow(name) << call << QStringLiteral("%1 %2 %3").arg(code).arg(text, source);
+        };
+        using Client = InitialDataClient;
+        add("system parameters", [] { LoadSysParams(EmptyDataProgId); }, 533, "数据服务没有返回系统参数", "LoadSysParams");
+        add("stocks", [] { Client(EmptyDataProgId).FetchStocks(QString()); }, 543, "数据服务没有返回仓库", "FetchStocks");
+        add("accounts", [] { Client(EmptyDataProgId).FetchYtdAccounts(1); }, 545, "数据服务没有返回科目", "FetchYtdAccounts");
+        add("initial data", [] { Client(EmptyDataProgId).FetchYtdInitialData(1, 0, 1, 50, 1, {}, {}, {}, {}, false); },
+            553, "数据服务没有返回初始数据", "FetchYtdInitialData");
+        add("batch detail", [] { Client(EmptyDataProgId).FetchYtdBatManDetail(1, 1, 0, 7, 0, 1, true, false, {}); },
+            555, "数据服务没有返回批次明细", "FetchYtdBatManDetail");
+        add("item detail", [] { Client(EmptyDataProgId).FetchYtdItemDetail(QStringLiteral("01")); }, 573,
+            "数据服务没有返回结果：FetchYtdItemDetail", "FetchYtdItemDetail");
+        add("saved rows", [] { Client(EmptyDataProgId).GetInitData(QStringLiteral("1|0|1|7")); }, 573,
+            "数据服务没有返回结果：GetInitData", "GetInitData");
     }
 
     void emptyAnswerRaisesItsError()
     {
         QFETCH(ServiceCall, call);
-        QFETCH(int, number);
-        QFETCH(QString, description);
-        QFETCH(QString, source);
-        try {
-            call();
-            QFAIL("an empty answer must raise");
-        } catch (const LumoError &error) {
-            QCOMPARE(error.number(), number);
-            QCOMPARE(error.description(), description);
-            QCOMPARE(error.source(), source);
-        }
+        QFETCH(QString, error);
+        const std::optional<LumoError> raised = raisedBy(call);
+        QVERIFY(raised);
+        QCOMPARE(QStringLiteral("%1 %2 %3").arg(raised->number()).arg(raised->description(), raised->source()), error);
     }
 };
 

@@ -25,7 +25,6 @@
 #include <QFile>
 #include <QLabel>
 #include <QSettings>
-#include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -58,6 +57,7 @@ class TestICInitCtl : public QObject
 private:
     QTemporaryDir m_install;
     ScriptedPrompter m_prompter;
+    FakeHostWindow m_host;
 
     void useDemoStocks()
     {
@@ -75,11 +75,9 @@ private slots:
         QStandardPaths::setTestModeEnabled(true);
         registerFakeServices();
         Prompter::install(&m_prompter);
-        QDir(m_install.path()).mkpath(QStringLiteral("Common"));
+        QVERIFY(QDir(m_install.path()).mkpath(QStringLiteral("Common")));
         QFile scheme(QDir(m_install.path()).filePath(QStringLiteral("Common/LumoBaseScheme.ini")));
-        QVERIFY(scheme.open(QIODevice::WriteOnly));
-        scheme.write("[Version]\nAppType=2\nHangYeType=0\n");
-        scheme.close();
+        QVERIFY(scheme.open(QIODevice::WriteOnly) && scheme.write("[Version]\nAppType=2\nHangYeType=0\n") > 0);
         qputenv(PelmReg::InstallPathEnv, m_install.path().toLocal8Bit());
     }
 
@@ -90,6 +88,7 @@ private slots:
         FakeWorld::instance().reset();
         LoginContext::instance().reset();
         m_prompter.clear();
+        m_host.received.clear();
         useDemoStocks();
         for (const ViewToggle &toggle : viewToggles())
             SettingsStore::setValue(*toggle.setting, toggle.setting->defaultValue);
@@ -97,20 +96,14 @@ private slots:
 
     void treeKeysFollowTheWarehouseTable()
     {
-        Recordset rs({QStringLiteral("FItemID"), QStringLiteral("FParentID"), QStringLiteral("FSPID"),
-                      QStringLiteral("FName"), QStringLiteral("FNumber"), QStringLiteral("FShortNumber"),
-                      QStringLiteral("FIsStockMgr"), QStringLiteral("FTypeID")});
-        for (const QVariantList &row : FakeWorld::instance().stocks)
-            rs.appendRow(QVector<QVariant>(row.begin(), row.end()));
-        const QVector<WarehouseEntry> table = WarehouseTree::buildTable(rs);
+        const std::unique_ptr<Recordset> rs(FakeWorld::instance().stockRecords());
+        const QVector<WarehouseEntry> table = WarehouseTree::buildTable(*rs);
         QCOMPARE(table.size(), 5);
-        QCOMPARE(table.first().thirdText, QStringLiteral("-----.全部仓库.------"));
-        QCOMPARE(table.first().firstText, QStringLiteral("All"));
-        QCOMPARE(table.first().isStockMgr, qint16(1));
+        QCOMPARE((std::tuple{table.first().thirdText, table.first().firstText, table.first().isStockMgr}),
+                 (std::tuple{QStringLiteral("-----.全部仓库.------"), QStringLiteral("All"), qint16(1)}));
         // The control's tree is checked node by node below; here the link back to the table.
         const QVector<TreeNodeSpec> nodes = WarehouseTree::nodes(table);
-        QCOMPARE(nodes.at(0).text, QStringLiteral("全部仓库"));
-        QCOMPARE(nodes.at(2).tableIndex, 2);
+        QCOMPARE((std::pair{nodes.at(0).text, nodes.at(2).tableIndex}), (std::pair{QStringLiteral("全部仓库"), 2}));
     }
 
     void showForATestHostLoadsTheFirstNode()
@@ -119,8 +112,7 @@ private slots:
         QVERIFY(control.Show(nullptr, true));
         QCOMPARE(FakeWorld::instance().taskExecCalls, 0);
         QCOMPARE(FakeWorld::instance().commitCalls, 0); // handle 0: nothing to commit
-        QCOMPARE(control.tree()->selectedKey(), QStringLiteral("K0"));
-        QCOMPARE(control.currentNode(), 0);
+        QCOMPARE((std::pair{control.tree()->selectedKey(), control.currentNode()}), (std::pair{QStringLiteral("K0"), 0}));
         QVERIFY(SysParams::current());
         QCOMPARE(FakeWorld::instance().stockTypeArguments, QStringList{QStringLiteral("(500,502,20291,20293)")});
         // The root takes no rows: the entry commands are hidden there.
@@ -141,22 +133,20 @@ private slots:
     void showInAHostBuildsTitleTreeAndCommits()
     {
         ICInitCtl control;
-        FakeHostWindow host;
-        QVERIFY(control.Show(&host, false));
-        QCOMPARE(host.received.size(), 1);
-        QCOMPARE(host.received.first(), static_cast<QObject *>(control.barList()));
+        QVERIFY(control.Show(&m_host, false));
+        QCOMPARE(m_host.received, QList<QObject *>{control.barList()});
         QCOMPARE(FakeWorld::instance().committed, QList<int>{7});
-        QCOMPARE(control.findChild<QLabel *>(QStringLiteral("lblTitle"))->text(), QStringLiteral("存货初始数据录入"));
-        QCOMPARE(control.findChild<QLabel *>(QStringLiteral("lblStock"))->text(), QStringLiteral("仓    库:"));
+        QCOMPARE((QStringList{control.findChild<QLabel *>(QStringLiteral("lblTitle"))->text(),
+                              control.findChild<QLabel *>(QStringLiteral("lblStock"))->text(), control.statusPanels()->panelText(1)}),
+                 (QStringList{QStringLiteral("存货初始数据录入"), QStringLiteral("仓    库:"), QStringLiteral("就绪")}));
         NavTree *tree = control.tree();
         QCOMPARE(tree->nodeKeys(), QStringList({"K0", "K12", "K12P3", "K5", "K8"}));
-        QCOMPARE(tree->nodeParent(QStringLiteral("K12P3")), QStringLiteral("K12"));
-        QCOMPARE(tree->nodeParent(QStringLiteral("K5")), QStringLiteral("K0"));
-        QCOMPARE(tree->nodeText(QStringLiteral("K12P3")), QStringLiteral("01.01|A区货架[仓位]"));
-        QCOMPARE(tree->nodeTag(QStringLiteral("K8")), 4);
-        QCOMPARE(tree->nodeImage(QStringLiteral("K5")), 21);
-        QCOMPARE(tree->nodeSelectedImage(QStringLiteral("K5")), 22);
-        QCOMPARE(control.statusPanels()->panelText(1), QStringLiteral("就绪"));
+        QCOMPARE(QStringLiteral("%1 %2 %3 %4 %5 %6")
+                     .arg(tree->nodeParent(QStringLiteral("K12P3")), tree->nodeParent(QStringLiteral("K5")),
+                          tree->nodeText(QStringLiteral("K12P3")))
+                     .arg(tree->nodeTag(QStringLiteral("K8"))).arg(tree->nodeImage(QStringLiteral("K5")))
+                     .arg(tree->nodeSelectedImage(QStringLiteral("K5"))),
+                 QStringLiteral("K12 K0 01.01|A区货架[仓位] 4 21 22"));
         QCOMPARE(control.amountScale(), qint16(2));
         QVERIFY(control.measureUnits());
     }
@@ -172,9 +162,8 @@ private slots:
     void queryUnloadIsCaseSensitive()
     {
         ICInitCtl control;
-        FakeHostWindow host;
-        QVERIFY(control.Show(&host, false));
-        emit host.ToolBarClick(QStringLiteral("mcWStatusBar")); // status bar off, not yet saved
+        QVERIFY(control.Show(&m_host, false));
+        emit m_host.ToolBarClick(QStringLiteral("mcWStatusBar")); // status bar off, not yet saved
         control.NotifyMessage(QStringLiteral("queryunload"), {});
         QVERIFY(SettingsStore::boolValue(Setting::ShowStateBar));
         control.NotifyMessage(QStringLiteral("FirstShow"), {});
@@ -189,15 +178,13 @@ private slots:
             SettingsStore::setValue(*toggle.setting, !toggle.setting->defaultValue.toBool());
         {
             ICInitAdjCtl adjust;
-            FakeHostWindow host;
-            QVERIFY(adjust.Show(&host, false));
+            QVERIFY(adjust.Show(&m_host, false));
             adjust.barList()->Click(QStringLiteral("mcWTBLable")); // clicked twice: as it was
             adjust.barList()->Click(QStringLiteral("mcWTBLable"));
             adjust.NotifyMessage(QStringLiteral("QueryUnload"), {});
         }
         ICInitCtl control;
-        FakeHostWindow host;
-        QVERIFY(control.Show(&host, false));
+        QVERIFY(control.Show(&m_host, false));
         for (const ViewToggle &toggle : viewToggles())
             QVERIFY2(control.barList()->isChecked(QLatin1String(toggle.menuKey)) != toggle.setting->defaultValue.toBool(),
                      toggle.menuKey);
@@ -225,8 +212,7 @@ private slots:
     void toolbarRebuildsKeepTheControlCount()
     {
         ICInitCtl control;
-        FakeHostWindow host;
-        QVERIFY(control.Show(&host, false));
+        QVERIFY(control.Show(&m_host, false));
         const auto *controls = qobject_cast<ControlCollection *>(control.Controls());
         QVERIFY(controls);
         const int count = controls->Count();
@@ -240,9 +226,8 @@ private slots:
     void refreshToolbarBeforeShowDoesNothing()
     {
         ICInitCtl control;
-        FakeHostWindow host;
         control.RefreshToolbar();
-        QVERIFY(host.received.isEmpty());
+        QVERIFY(m_host.received.isEmpty());
         QVERIFY(!control.parentWindow());
     }
 

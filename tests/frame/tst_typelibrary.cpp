@@ -13,15 +13,6 @@
 #include <QSet>
 #include <QTest>
 
-namespace {
-
-QByteArray joined(const QList<QByteArray> &names)
-{
-    return names.join(',');
-}
-
-} // namespace
-
 class TestTypeLibrary : public QObject
 {
     Q_OBJECT
@@ -65,7 +56,7 @@ private slots:
                         continue;
                     }
                     QVERIFY2(found.isValid(), context);
-                    QCOMPARE(joined(found.parameterNames()), joined(wanted));
+                    QCOMPARE(found.parameterNames().join(','), wanted.join(','));
                     QCOMPARE(QByteArray(found.typeName()), QByteArray(m.type));
                     QVERIFY2(found.access() == QMetaMethod::Public, context);
                 } else {
@@ -79,7 +70,7 @@ private slots:
             for (const TypeLibraryEvent &event : cls.events) {
                 const int index = mo->indexOfSignal(QByteArray(event.name) + "(QString&,QString&)");
                 QVERIFY2(index >= 0, event.name);
-                QCOMPARE(joined(mo->method(index).parameterNames()), QByteArray(event.parameters));
+                QCOMPARE(mo->method(index).parameterNames().join(','), QByteArray(event.parameters));
             }
             QCOMPARE(QByteArray(cls.eventInterfaceId).isEmpty(), cls.events.isEmpty());
         }
@@ -93,10 +84,9 @@ private slots:
                 structClass = &cls;
         }
         QVERIFY(structClass);
-        QCOMPARE(structClass->members.size(), 32);
-        QCOMPARE(structClass->members.first().id, 0x40030000u);
-        QCOMPARE(QByteArray(structClass->members.last().name), QByteArray("BatchManager"));
-        QCOMPARE(structClass->members.last().id, 0x4003001Fu);
+        const auto &members = structClass->members;
+        QCOMPARE((std::tuple{members.size(), members.first().id, QByteArray(members.last().name), members.last().id}),
+                 (std::tuple{qsizetype(32), 0x40030000u, QByteArray("BatchManager"), 0x4003001Fu}));
     }
 
     void dispatchByMemberIdOnTheStructAndTheControl()

@@ -13,6 +13,8 @@ using Grid::CellType;
 using Grid::EditResult;
 using CellChange = std::function<void(CellModel &)>;
 Q_DECLARE_METATYPE(CellChange)
+struct Typed { int row, col; QString input; EditResult result; QString shown; };
+Q_DECLARE_METATYPE(Typed)
 
 namespace {
 const QColor Lilac{248, 237, 254};
@@ -53,11 +55,10 @@ private slots:
         cells->setText(Grid::HeaderRow, 1, QStringLiteral("物料代码"));
         cells->setText(3, Grid::HeaderCol, QStringLiteral("*"));
         cells->setText(1, 1, QStringLiteral("first"));
-        QCOMPARE(cells->headerData(0, Qt::Horizontal).toString(), QStringLiteral("物料代码"));
-        QCOMPARE(cells->headerData(2, Qt::Vertical).toString(), QStringLiteral("*"));
         // A row header without text shows the grid's row number, not the model's.
-        QCOMPARE(cells->headerData(0, Qt::Vertical).toString(), QStringLiteral("1"));
-        QCOMPARE(cells->data(cells->index(0, 0)).toString(), QStringLiteral("first"));
+        QCOMPARE((QStringList{cells->headerData(0, Qt::Horizontal).toString(), cells->headerData(2, Qt::Vertical).toString(),
+                              cells->headerData(0, Qt::Vertical).toString(), cells->data(cells->index(0, 0)).toString()}),
+                 (QStringList{QStringLiteral("物料代码"), QStringLiteral("*"), QStringLiteral("1"), QStringLiteral("first")}));
     }
 
     void numberCellKeepsValueApartFromText()
@@ -78,13 +79,9 @@ private slots:
     // are locked, cell (4, 1) is a button. Cells nobody may type into refuse before any handler is asked.
     void typedInput_data()
     {
-        QTest::addColumn<int>("row");
-        QTest::addColumn<int>("col");
-        QTest::addColumn<QString>("input");
-        QTest::addColumn<EditResult>("result");
-        QTest::addColumn<QString>("shown");
+        QTest::addColumn<Typed>("typed");
         const auto add = [](const char *name, int row, int col, const char *input, EditResult result, const char *shown) {
-            QTest::newRow(name) << row << col << QString::fromUtf8(input) << result << QString::fromUtf8(shown);
+            QTest::newRow(name) << Typed{row, col, QString::fromUtf8(input), result, QString::fromUtf8(shown)};
         };
         add("separators", 2, 3, "1,000", EditResult::Accepted, "1,000.00");
         add("negative", 2, 3, "-12.345", EditResult::Accepted, "-12.35");
@@ -120,11 +117,8 @@ private slots:
 
     void typedInput()
     {
-        QFETCH(int, row);
-        QFETCH(int, col);
-        QFETCH(QString, input);
-        QFETCH(EditResult, result);
-        QFETCH(QString, shown);
+        QFETCH(Typed, typed);
+        const auto &[row, col, input, result, shown] = typed;
         const QStringList directions{QStringLiteral("升序"), QStringLiteral("降序")};
         cells->setColStyle(2, CellStyle().setType(CellType::List).setComboList(directions));
         cells->setCellStyle(3, 2, CellStyle().setComboList({QStringLiteral("(无)")}));
@@ -143,9 +137,9 @@ private slots:
         QCOMPARE(cells->text(row, col), shown);
         const bool asked = result != EditResult::Locked && result != EditResult::NotEditable;
         const bool refusal = result != EditResult::Accepted && result != EditResult::Unchanged;
-        QCOMPARE(before.count(), asked ? 1 : 0);
-        QCOMPARE(after.count(), result == EditResult::Accepted ? 1 : 0);
-        QCOMPARE(refused.count(), refusal ? 1 : 0);
+        // Signals caught: before-edit, after-edit, refused.
+        QCOMPARE((QList<bool>{before.count() == 1, after.count() == 1, refused.count() == 1}),
+                 (QList<bool>{asked, result == EditResult::Accepted, refusal}));
         if (refusal)
             QCOMPARE(refused.first().at(2).value<EditResult>(), result);
         if (cells->isDataCell(row, col))
@@ -250,9 +244,8 @@ private slots:
         cells->setColStyle(2, CellStyle().setBackColor(Lilac));
         cells->setRowStyle(3, CellStyle().setBackColor(Rose));
         cells->setCellStyle(4, 2, CellStyle().setBackColor(Sky));
-        QCOMPARE(background(1, 2), Lilac);
-        QCOMPARE(background(3, 2), Rose); // a totals row wins over the lock colour of its column
-        QCOMPARE(background(4, 2), Sky);
+        // A totals row (3) wins over the lock colour of its column.
+        QCOMPARE((QList<QColor>{background(1, 2), background(3, 2), background(4, 2)}), (QList<QColor>{Lilac, Rose, Sky}));
         QVERIFY(!data(1, 1, Qt::BackgroundRole).isValid());
 
         // Clearing the row colour brings back the column's, not nothing.
@@ -287,9 +280,7 @@ private slots:
         cells->setCellStyle(2, 1, date);
         cells->setRowStyle(3, number);
         cells->setCellStyle(3, 1, date);
-        QVERIFY(retyped(2));
-        QVERIFY(retyped(3));
-        QVERIFY(!retyped(4));
+        QCOMPARE((QList<bool>{retyped(2), retyped(3), retyped(4)}), (QList<bool>{true, true, false}));
         cells->setColStyle(1, date);
         cells->setColStyle(3, number);
         cells->setColStyle(4, number);
@@ -334,8 +325,7 @@ private slots:
         QCOMPARE(cells->text(2, 3), QString());
         cells->setRows(0);
         cells->setCols(0);
-        QCOMPARE(cells->rows(), 1);
-        QCOMPARE(cells->cols(), 1);
+        QCOMPARE((std::pair{cells->rows(), cells->cols()}), (std::pair{1, 1}));
 
         cells->reset(3, 3);
         cells->setColStyle(1, CellStyle().setLocked(true));
@@ -343,8 +333,7 @@ private slots:
         cells->setText(1, 1, QStringLiteral("x"));
         cells->reset(3, 3);
         QVERIFY(!cells->cellLocked(1, 1));
-        QCOMPARE(cells->colWidth(1), -1);
-        QCOMPARE(cells->text(1, 1), QString());
+        QCOMPARE((std::pair{cells->colWidth(1), cells->text(1, 1)}), (std::pair{-1, QString()}));
     }
 
     void figureOfACell()
@@ -352,10 +341,8 @@ private slots:
         cells->setText(1, 2, QStringLiteral("1,250.75"));
         cells->setText(1, 3, QStringLiteral("总计"));
         cells->fillBlock(2, 1, 3, 2, 7.0);
-        QCOMPARE(cells->number(1, 2), 1250.75);
-        QCOMPARE(cells->number(1, 3), 0.0);
-        QCOMPARE(cells->number(99, 1), 0.0);
-        QCOMPARE(cells->number(3, 2), 7.0);
+        QCOMPARE((QList<double>{cells->number(1, 2), cells->number(1, 3), cells->number(99, 1), cells->number(3, 2)}),
+                 (QList<double>{1250.75, 0, 0, 7}));
     }
 
     void changeSignals_data()
@@ -396,15 +383,12 @@ private slots:
         change(*cells);
         QCOMPARE(changed.count(), range.isEmpty() ? 0 : 1);
         if (!range.isEmpty()) {
-            QCOMPARE(changed.first().at(0).toModelIndex(), cells->cellIndex(range[0], range[1]));
-            QCOMPARE(changed.first().at(1).toModelIndex(), cells->cellIndex(range[2], range[3]));
+            QCOMPARE((QList{changed.first().at(0).toModelIndex(), changed.first().at(1).toModelIndex()}),
+                     (QList{cells->cellIndex(range[0], range[1]), cells->cellIndex(range[2], range[3])}));
         }
         QCOMPARE(header.count(), headerSection < 0 ? 0 : 1);
-        if (headerSection >= 0) {
-            QCOMPARE(header.first().at(0).value<Qt::Orientation>(), Qt::Horizontal);
-            QCOMPARE(header.first().at(1).toInt(), headerSection);
-            QCOMPARE(header.first().at(2).toInt(), headerSection);
-        }
+        if (headerSection >= 0)
+            QCOMPARE(header.first(), (QVariantList{QVariant::fromValue(Qt::Horizontal), headerSection, headerSection}));
     }
 
     void bulkUpdateAcrossStructureChange()

@@ -73,10 +73,9 @@ private slots:
 
     void plainText()
     {
-        QCOMPARE(NumberFormat::plain(-0.0), QStringLiteral("0"));
-        QCOMPARE(NumberFormat::plain(0.1), QStringLiteral("0.1"));
-        QCOMPARE(NumberFormat::plain(1e12), QStringLiteral("1000000000000"));
-        QCOMPARE(NumberFormat::plain(-1234.5), QStringLiteral("-1234.5"));
+        for (const auto &[value, text] :
+             {std::pair{-0.0, "0"}, {0.1, "0.1"}, {1e12, "1000000000000"}, {-1234.5, "-1234.5"}})
+            QCOMPARE(NumberFormat::plain(value), QLatin1String(text));
     }
 };
 

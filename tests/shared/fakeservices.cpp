@@ -2,7 +2,6 @@
 
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dictionary.h"
-#include "frame/automation/lumoerror.h"
 #include "frame/automation/progids.h"
 #include "frame/automation/recordset.h"
 
@@ -34,12 +33,7 @@ public:
     Q_INVOKABLE QObject *FetchStocks(const QString &, const QString &types)
     {
         FakeWorld::instance().stockTypeArguments.append(types);
-        auto *rs = new Recordset({QStringLiteral("FItemID"), QStringLiteral("FParentID"), QStringLiteral("FSPID"),
-                                  QStringLiteral("FName"), QStringLiteral("FNumber"), QStringLiteral("FShortNumber"),
-                                  QStringLiteral("FIsStockMgr"), QStringLiteral("FTypeID")});
-        for (const QVariantList &row : FakeWorld::instance().stocks)
-            rs->appendRow(QVector<QVariant>(row.begin(), row.end()));
-        return rs;
+        return FakeWorld::instance().stockRecords();
     }
     // A place without balances: no rows, no pages.
     Q_INVOKABLE QObject *FetchYtdInitialData(const QString &, int, int, int, int, int, const QString &,
@@ -54,8 +48,7 @@ public:
     }
     Q_INVOKABLE QObject *FetchMeasureUnits(const QString &)
     {
-        auto *rs = new Recordset({QStringLiteral("FMeasureUnitID"), QStringLiteral("FUnitGroupID"),
-                                  QStringLiteral("FNumber"), QStringLiteral("FName")});
+        auto *rs = new Recordset(QStringLiteral("FMeasureUnitID FUnitGroupID FNumber FName").split(u' '));
         rs->appendRow({1, 1, QStringLiteral("PCS"), QStringLiteral("个")});
         return rs;
     }
@@ -144,6 +137,14 @@ FakeWorld &FakeWorld::instance()
     return world;
 }
 
+Recordset *FakeWorld::stockRecords() const
+{
+    auto *rs = new Recordset(QStringLiteral("FItemID FParentID FSPID FName FNumber FShortNumber FIsStockMgr FTypeID").split(u' '));
+    for (const QVariantList &row : stocks)
+        rs->appendRow(QVector<QVariant>(row.begin(), row.end()));
+    return rs;
+}
+
 void FakeWorld::reset()
 {
     *this = FakeWorld{};
@@ -162,6 +163,16 @@ void registerFakeServices()
     registry.registerClass(ProgId::NetControlMutex, [] { return new FakeMutex; });
     registry.registerClass(ProgId::LogMsgLog, [] { return new FakeLog; });
     registry.registerClass(ProgId::FrmResLoader, [] { return new FakeFormResources; });
+}
+
+std::optional<LumoError> raisedBy(const std::function<void()> &action)
+{
+    try {
+        action();
+    } catch (const LumoError &error) {
+        return error;
+    }
+    return std::nullopt;
 }
 
 #include "fakeservices.moc"

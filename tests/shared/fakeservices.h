@@ -1,11 +1,18 @@
 #pragma once
 
+#include "frame/automation/lumoerror.h"
+
 #include <QList>
 #include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QVariantList>
 #include <QVariantMap>
+
+#include <functional>
+#include <optional>
+
+class Recordset;
 
 // Stand-ins for the middle tier, one for each service interface, registered under the real
 // ProgIDs, so the frame and the dialogs are tested on exactly what they ask of their services and
@@ -19,6 +26,7 @@ struct FakeWorld
     // "LumoMICInitial.Data" and "LumoMICInitial.DataAdj"
     QVariantMap sysParams;
     QList<QVariantList> stocks; // FItemID, FParentID, FSPID, FName, FNumber, FShortNumber, FIsStockMgr, FTypeID
+    Recordset *stockRecords() const; // the stocks as FetchStocks returns them, for the caller to take
     int dataObjectsCreated = 0;
     QStringList stockTypeArguments;
 
@@ -42,3 +50,6 @@ struct FakeWorld
 
 // Registers every fake under its ProgID.
 void registerFakeServices();
+
+// The error the action raised; none when it raised nothing.
+std::optional<LumoError> raisedBy(const std::function<void()> &action);

@@ -32,8 +32,7 @@ ScratchAccountSet::ScratchAccountSet(const QString &backend, Content content)
     : m_backend(backend)
 {
     if (backend == Postgres) {
-        m_schema = QStringLiteral("lumo_t%1_%2")
-                       .arg(QCoreApplication::applicationPid())
+        m_schema = QStringLiteral("lumo_t%1_%2").arg(QCoreApplication::applicationPid())
                        .arg(schemaCounter.fetchAndAddOrdered(1));
         m_acctDb = postgresServer() + QStringLiteral("?schema=") + m_schema;
     } else {

@@ -1,4 +1,5 @@
 #include "servicecalls.h"
+#include "fakeservices.h"
 
 #include "mterrors.h"
 #include "services/sharedpropertystore.h"
@@ -15,12 +16,8 @@ namespace ServiceCalls {
 
 int errorNumberOf(const std::function<void()> &action)
 {
-    try {
-        action();
-    } catch (const LumoError &error) {
-        return error.number();
-    }
-    return 0;
+    const std::optional<LumoError> error = raisedBy(action);
+    return error ? error->number() : 0;
 }
 
 void publishLogin(const QString &props)
