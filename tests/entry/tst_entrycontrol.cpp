@@ -34,8 +34,6 @@
 
 #include <QApplication>
 #include <QLocale>
-#include <QSqlQuery>
-#include <QSqlRecord>
 #include <QStandardPaths>
 #include <QTest>
 #include <QTimer>
@@ -140,22 +138,7 @@ private:
         return scalar(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(table, where), values).toInt();
     }
 
-    // Each row of a query as one text; numbers in their shortest form, alike on both backends.
-    QStringList rows(const QString &sql, const QVariantList &values = {}) const
-    {
-        QStringList rows;
-        QSqlQuery query = SqlRun::exec(m_set->db(), sql, values);
-        while (query.next()) {
-            QStringList fields;
-            for (int i = 0; i < query.record().count(); ++i) {
-                bool number = false;
-                const double value = query.value(i).toString().toDouble(&number);
-                fields.append(number ? QString::number(value) : query.value(i).toString());
-            }
-            rows.append(fields.join(QLatin1Char(';')));
-        }
-        return rows;
-    }
+    QStringList rows(const QString &sql, const QVariantList &values = {}) const { return m_set->rows(sql, values); }
 
     // Every balance row as text, in a fixed order.
     QStringList balances() const
@@ -235,8 +218,7 @@ private slots:
     // Every case runs on each backend; one that cannot be reached here is skipped.
     void initTestCase_data()
     {
-        addBackendColumn();
-        addBackendRows();
+        addBackends();
     }
 
     void init()
@@ -449,7 +431,7 @@ private slots:
                      "SELECT FBrNo, FBatchNo, FFieldCompose, FPeriod, FUnitID, FAuxPropID, FYtdAuxBegQty, FYtdBegBal, "
                      "FYtdAuxReceive, FYtdDebit, FYtdAuxSend, FYtdCredit, FAuxBegQty, FBegBal, FBegDiff "
                      "FROM ICInvInitial WHERE FStockID=1 AND FSPID=1 AND FItemID=2")),
-                 QStringList{written.join(QLatin1Char(';'))});
+                 QStringList{written.join(QStringLiteral(", "))});
         // The grid row now carries the key written and no flag; it is an ordinary loaded row.
         QCOMPARE(grid().TextMatrix(row, EntryCol::FieldCompose), QStringLiteral("1|1|4|2|0"));
         QCOMPARE(grid().TextMatrix(row, EntryCol::Flag), QString());
@@ -475,7 +457,7 @@ private slots:
                        {EntryDb::MotorHousing}), 0);
         QCOMPARE(rows(QStringLiteral(
                      "SELECT FItemID, FAuxBegQty, FBegBal FROM ICInvInitial WHERE FFieldCompose='2|0|4|8|0'")),
-                 QStringList{QStringLiteral("%1;401;%2").arg(Nut).arg(amount)});
+                 QStringList{QStringLiteral("%1, 401, %2").arg(Nut).arg(amount)});
         QCOMPARE(count(QStringLiteral("ICInvInitial"), QStringLiteral("FStockID=2")), 2);
         QCOMPARE(grid().TextMatrix(row, EntryCol::FieldCompose), QStringLiteral("2|0|4|8|0"));
     }

@@ -100,8 +100,7 @@ private slots:
 
     void stocksComeParentsFirst_data()
     {
-        addBackendColumn();
-        addBackendRows();
+        addBackends();
     }
 
     void stocksComeParentsFirst()
@@ -170,8 +169,7 @@ private slots:
 
     void systemParametersAreTyped_data()
     {
-        addBackendColumn();
-        addBackendRows();
+        addBackends();
     }
 
     void systemParametersAreTyped()
@@ -215,8 +213,7 @@ private slots:
 
     void updateWritesAllOrNothing_data()
     {
-        addBackendColumn();
-        addBackendRows();
+        addBackends();
     }
 
     void updateWritesAllOrNothing()
@@ -251,8 +248,7 @@ private slots:
 
     void executeReadsOnlyWhatTheControlsSend_data()
     {
-        addBackendColumn();
-        addBackendRows();
+        addBackends();
     }
 
     void executeReadsOnlyWhatTheControlsSend()

@@ -358,8 +358,7 @@ private slots:
 
     void placeTotalsFollowEveryWrite_data()
     {
-        addBackendColumn();
-        addBackendRows();
+        addBackends();
     }
 
     void placeTotalsFollowEveryWrite()

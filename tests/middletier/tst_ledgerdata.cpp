@@ -159,8 +159,7 @@ private slots:
 
     void reconciliationPagesWithTotals_data()
     {
-        addBackendColumn();
-        addBackendRows();
+        addBackends();
     }
 
     void reconciliationPagesWithTotals()

@@ -76,8 +76,7 @@ private slots:
 
     void migratesFromVersionOne_data()
     {
-        addBackendColumn();
-        addBackendRows();
+        addBackends();
     }
 
     void migratesFromVersionOne()
@@ -147,8 +146,7 @@ private slots:
 
     void dialectStatementsRunOnTheBackend_data()
     {
-        addBackendColumn();
-        addBackendRows();
+        addBackends();
     }
 
     void dialectStatementsRunOnTheBackend()

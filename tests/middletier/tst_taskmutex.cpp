@@ -70,8 +70,7 @@ private slots:
     // Every case runs on each backend; one that cannot be reached here is skipped.
     void initTestCase_data()
     {
-        addBackendColumn();
-        addBackendRows();
+        addBackends();
     }
 
     void init()

@@ -1,8 +1,6 @@
 #include "scratchaccountset.h"
 #include "script/scriptexecutor.h"
 
-#include <QSqlQuery>
-#include <QSqlRecord>
 #include <QTest>
 #include <memory>
 
@@ -37,22 +35,6 @@ QString placeDelete(int stock, int place, const QString &itemCondition)
         .join(crlf);
 }
 
-// The rows of a query, the fields of a row joined by ", ".
-QStringList rows(const QSqlDatabase &db, const QString &select)
-{
-    QSqlQuery query(db);
-    if (!query.exec(select))
-        return {u"query failed"_s};
-    QStringList result;
-    while (query.next()) {
-        QStringList fields;
-        for (int i = 0; i < query.record().count(); ++i)
-            fields.append(query.value(i).toString());
-        result.append(fields.join(u", "_s));
-    }
-    return result;
-}
-
 const QString rowsOfShelfA = u"SELECT FItemID, FUnitID, FBatchNo, FAuxBegQty FROM ICInvInitial"
                              " WHERE FStockID = 1 AND FSPID = 1 ORDER BY FItemID, FBatchNo, FAuxBegQty"_s;
 const QString lineCount = u"SELECT COUNT(*) FROM ICInvInitial"_s;
@@ -69,21 +51,18 @@ class ScriptExecutorTest : public QObject
 private:
     QStringList snapshot() const
     {
-        QStringList all = rows(m_set->db(), u"SELECT * FROM ICInvInitial ORDER BY FEntryID"_s);
+        QStringList all = m_set->rows(u"SELECT * FROM ICInvInitial ORDER BY FEntryID"_s);
         for (const char *table : {"ICSerial", "ICSerialFlow", "ICSerial_F1"})
-            all += rows(m_set->db(), u"SELECT FSNListID, FSerialNo FROM %1 ORDER BY FSerialNo"_s.arg(QLatin1String(table)));
-        return all + rows(m_set->db(), u"SELECT FKey, FValue FROM t_SystemProfile ORDER BY FKey"_s);
+            all += m_set->rows(u"SELECT FSNListID, FSerialNo FROM %1 ORDER BY FSerialNo"_s.arg(QLatin1String(table)));
+        return all + m_set->rows(u"SELECT FKey, FValue FROM t_SystemProfile ORDER BY FKey"_s);
     }
-
-    QStringList rowsOf(const QString &select) const { return rows(m_set->db(), select); }
 
     std::unique_ptr<ScratchAccountSet> m_set;
 
 private slots:
     void initTestCase_data()
     {
-        addBackendColumn();
-        addBackendRows();
+        addBackends();
     }
 
     void init()
@@ -168,7 +147,7 @@ private slots:
         }
         QCOMPARE(checks.size(), expected.size());
         for (qsizetype i = 0; i < checks.size(); ++i)
-            QCOMPARE(rowsOf(checks.at(i)).join(u"; "_s), expected.at(i));
+            QCOMPARE(m_set->rows(checks.at(i)).join(u"; "_s), expected.at(i));
     }
 
     void failedScriptWritesNothing_data()
@@ -218,7 +197,7 @@ private slots:
         QCOMPARE(snapshot(), before);
         // The connection is usable again: the transaction was closed.
         executor.run(entryInsert(1));
-        QCOMPARE(rowsOf(u"SELECT COUNT(*) FROM ICInvInitial WHERE FStockID = 2 AND FItemID = 1"_s), QStringList{u"1"_s});
+        QCOMPARE(m_set->rows(u"SELECT COUNT(*) FROM ICInvInitial WHERE FStockID = 2 AND FItemID = 1"_s), QStringList{u"1"_s});
     }
 
     void sameShapeIsPreparedOnce()
@@ -234,11 +213,11 @@ private slots:
         ScriptExecutor executor(m_set->db(), SqlDialect::of(m_set->db()));
         executor.run(statements.join(crlf));
         QCOMPARE(executor.preparedFormCount(), 2);
-        QCOMPARE(rowsOf(u"SELECT COUNT(*), SUM(FAuxBegQty) FROM ICInvInitial WHERE FUnitID = 7 AND FStockID = 2"_s),
+        QCOMPARE(m_set->rows(u"SELECT COUNT(*), SUM(FAuxBegQty) FROM ICInvInitial WHERE FUnitID = 7 AND FStockID = 2"_s),
                  QStringList{u"2000, 1999000"_s});
-        QCOMPARE(rowsOf(u"SELECT FItemID, FBegBal FROM ICInvInitial WHERE FStockID = 2 AND FAuxBegQty = 1999"_s),
+        QCOMPARE(m_set->rows(u"SELECT FItemID, FBegBal FROM ICInvInitial WHERE FStockID = 2 AND FAuxBegQty = 1999"_s),
                  QStringList{u"16, 19990.5"_s});
-        QCOMPARE(rowsOf(u"SELECT FValue FROM t_SystemProfile WHERE FKey = 'INIBillInterID'"_s), QStringList{u"2010"_s});
+        QCOMPARE(m_set->rows(u"SELECT FValue FROM t_SystemProfile WHERE FKey = 'INIBillInterID'"_s), QStringList{u"2010"_s});
     }
 };
 

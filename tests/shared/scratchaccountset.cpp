@@ -10,6 +10,8 @@
 
 #include <QAtomicInt>
 #include <QCoreApplication>
+#include <QSqlQuery>
+#include <QSqlRecord>
 #include <QTest>
 
 namespace {
@@ -69,6 +71,22 @@ QSqlDatabase ScratchAccountSet::db() const
     return AccountSet::open(m_acctDb).database();
 }
 
+QStringList ScratchAccountSet::rows(const QString &sql, const QVariantList &values) const
+{
+    QStringList rows;
+    QSqlQuery query = SqlRun::exec(db(), sql, values);
+    while (query.next()) {
+        QStringList fields;
+        for (int i = 0; i < query.record().count(); ++i) {
+            bool number = false;
+            const double value = query.value(i).toString().toDouble(&number);
+            fields.append(number ? QString::number(value, 'g', 15) : query.value(i).toString());
+        }
+        rows.append(fields.join(QStringLiteral(", ")));
+    }
+    return rows;
+}
+
 void ScratchAccountSet::createAtVersion(int version)
 {
     const AcctDbLocation location = AcctDbLocation::parse(m_acctDb);
@@ -86,13 +104,9 @@ void ScratchAccountSet::createAtVersion(int version)
     QSqlDatabase::removeDatabase(name);
 }
 
-void addBackendColumn()
+void addBackends()
 {
     QTest::addColumn<QString>("backend");
-}
-
-void addBackendRows(const char *suffix)
-{
-    QTest::newRow(qPrintable(ScratchAccountSet::Sqlite + QLatin1String(suffix))) << ScratchAccountSet::Sqlite;
-    QTest::newRow(qPrintable(ScratchAccountSet::Postgres + QLatin1String(suffix))) << ScratchAccountSet::Postgres;
+    QTest::newRow(qPrintable(ScratchAccountSet::Sqlite)) << ScratchAccountSet::Sqlite;
+    QTest::newRow(qPrintable(ScratchAccountSet::Postgres)) << ScratchAccountSet::Postgres;
 }
