@@ -10,7 +10,6 @@
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
 
-#include <QSqlRecord>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -74,26 +73,9 @@ int currentYear(const QSqlDatabase &db)
     return SqlRun::scalar(db, u"SELECT FValue FROM t_SystemProfile WHERE FKey='CurrentYear'"_s).toInt();
 }
 
-// A row's values, comma-separated.
-QString rowText(const QSqlQuery &query)
-{
-    QStringList values;
-    for (int c = 0; c < query.record().count(); ++c)
-        values.append(query.value(c).toString());
-    return values.join(QLatin1Char(','));
-}
-
-// The ledger's balance rows of an account, as text, to see that nothing changed.
-QString ledgerOf(const QSqlDatabase &db, int account)
-{
-    QSqlQuery query = SqlRun::exec(db, u"SELECT FYear, FPeriod, FCurrencyID, FDetailID, FBeginBalance, FYtdDebit, FYtdCredit, "
-                                       "FEndBalance FROM t_Balance WHERE FAccountID=? ORDER BY FYear, FPeriod, FCurrencyID"_s,
-                                   {account});
-    QStringList rows;
-    while (query.next())
-        rows.append(rowText(query));
-    return rows.join(QLatin1Char(';'));
-}
+// The ledger's balance rows of an account, to see that nothing changed.
+const QString LedgerRows = u"SELECT FYear, FPeriod, FCurrencyID, FDetailID, FBeginBalance, FYtdDebit, FYtdCredit, FEndBalance "
+                           "FROM t_Balance WHERE FAccountID=? ORDER BY FYear, FPeriod, FCurrencyID"_s;
 
 } // namespace
 
@@ -223,11 +205,11 @@ private slots:
             QTest::newRow(name) << account << QString::fromUtf8(number) << dc << scale << ytdBegBal << begBal
                                 << QString::fromUtf8(stored) << ledgerDetail << detail << answer << error;
         };
-        add("debit, half a cent up", RawMaterialAcct, "1403", 1, 2, 1234.565, 2.675, "1234.57,10,20,2.68,0");
-        add("debit, half away from zero", RawMaterialAcct, "1403", 1, 0, -2.5, 2.5, "-3,10,20,3,0");
-        add("credit kept debit-positive", PayablesAcct, "2202", -1, 2, 500, 800, "-500,10,20,-800,0");
-        add("no scale: as given", RawMaterialAcct, " 1403 ", 1, -1, 1.23456, 7, "1.23456,10,20,7,0");
-        add("items match", SuppliesAcct, "1411", 1, 2, 99, 99, "99,10,20,99,3", 3, 3);
+        add("debit, half a cent up", RawMaterialAcct, "1403", 1, 2, 1234.565, 2.675, "1234.57, 10, 20, 2.68, 0");
+        add("debit, half away from zero", RawMaterialAcct, "1403", 1, 0, -2.5, 2.5, "-3, 10, 20, 3, 0");
+        add("credit kept debit-positive", PayablesAcct, "2202", -1, 2, 500, 800, "-500, 10, 20, -800, 0");
+        add("no scale: as given", RawMaterialAcct, " 1403 ", 1, -1, 1.23456, 7, "1.23456, 10, 20, 7, 0");
+        add("items match", SuppliesAcct, "1411", 1, 2, 99, 99, "99, 10, 20, 99, 3", 3, 3);
         add("items passed, account has none", SuppliesAcct, "1411", 1, 2, 99, 99, "", 0, 3, -1);
         add("account has items, none passed", SuppliesAcct, "1411", 1, 2, 99, 99, "", 3, 0, -1);
         add("other items", SuppliesAcct, "1411", 1, 2, 99, 99, "", 3, 4, -1);
@@ -248,23 +230,21 @@ private slots:
         ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
         const QSqlDatabase db = scratch.db();
         SqlRun::exec(db, u"UPDATE t_Account SET FDetailID=? WHERE FAccountID=?"_s, {ledgerDetail, account});
-        const QString before = ledgerOf(db, account);
+        const QStringList before = scratch.rows(LedgerRows, {account});
         const QVariantList args{scratch.propsString(), 0, 0, 0, account, number, u"科目"_s, dc, scale, ytdBegBal, 10.0,
                                 20.0, begBal, detail};
         int answer = 0;
         QTEST(errorNumberOf([&] { answer = call(Data, u"StartTransferBalace"_s, args).toInt(); }), "error");
         QTEST(answer, "answer");
         if (stored.isEmpty()) {
-            QCOMPARE(ledgerOf(db, account), before);
+            QCOMPARE(scratch.rows(LedgerRows, {account}), before);
             return;
         }
         // Year and period 0 are the inventory's current ones; the earlier balance is replaced.
-        QSqlQuery row = SqlRun::exec(db, u"SELECT FBeginBalance, FYtdDebit, FYtdCredit, FEndBalance, FDetailID FROM t_Balance "
-                                         "WHERE FYear=? AND FPeriod=? AND FAccountID=? AND FCurrencyID=1"_s,
-                                     {currentYear(db), Period, account});
-        QVERIFY(row.next());
-        QCOMPARE(rowText(row), stored);
-        QVERIFY(!row.next());
+        QCOMPARE(scratch.rows(u"SELECT FBeginBalance, FYtdDebit, FYtdCredit, FEndBalance, FDetailID FROM t_Balance "
+                              "WHERE FYear=? AND FPeriod=? AND FAccountID=? AND FCurrencyID=1"_s,
+                              {currentYear(db), Period, account}),
+                 QStringList{stored});
     }
 
     void auxiliaryPropertiesAreCounted()
