@@ -21,6 +21,16 @@ ControlFrame::ControlFrame(QWidget *control, const QString &title, QWidget *pare
 void ControlFrame::closeEvent(QCloseEvent *event)
 {
     if (m_control && !m_notified) {
+        try {
+            // A Cancel to the control's question about unsaved work keeps the frame open.
+            if (Dispatch::hasMember(m_control, QStringLiteral("confirmClose"))
+                && !Dispatch::call(m_control, QStringLiteral("confirmClose")).toBool()) {
+                event->ignore();
+                return;
+            }
+        } catch (const LumoError &) {
+            // A control that cannot answer closes as before.
+        }
         m_notified = true;
         try {
             Dispatch::call(m_control, QStringLiteral("NotifyMessage"), {QStringLiteral("QueryUnload"), QVariantList()});

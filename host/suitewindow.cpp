@@ -12,6 +12,7 @@
 #include "frame/automation/lumoerror.h"
 
 #include <QAction>
+#include <QCloseEvent>
 #include <QIcon>
 #include <QLabel>
 #include <QMdiArea>
@@ -59,6 +60,16 @@ SuiteWindow::~SuiteWindow()
     // Frames still open are hidden while the main window's layout is already gone; they must not
     // redraw the menus then.
     disconnect(m_mdi, nullptr, this, nullptr);
+}
+
+void SuiteWindow::closeEvent(QCloseEvent *event)
+{
+    m_mdi->closeAllSubWindows();
+    if (!m_mdi->subWindowList().isEmpty()) {
+        event->ignore();
+        return;
+    }
+    QMainWindow::closeEvent(event);
 }
 
 void SuiteWindow::buildSuiteMenu()

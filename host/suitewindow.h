@@ -4,6 +4,7 @@
 #include <QPointer>
 
 class ControlFrame;
+class QCloseEvent;
 class QMdiArea;
 class QMdiSubWindow;
 class QToolBar;
@@ -26,6 +27,10 @@ public:
     // Triggers the toolbar button or control menu entry drawn for `key`, as a click does; false
     // when the active control has no such visible, enabled command.
     bool pressHostKey(const QString &key);
+
+protected:
+    // Closing the suite (or 退出) closes every frame first; a frame kept open keeps the suite open.
+    void closeEvent(QCloseEvent *event) override;
 
 private:
     void buildSuiteMenu();

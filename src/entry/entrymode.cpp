@@ -352,6 +352,22 @@ bool EntryMode::confirmLeave()
     return true;
 }
 
+bool EntryMode::confirmClose()
+{
+    if (!m_ctl.barList()->isEnabled(EntryKeys::Save))
+        return true;
+    switch (askYesNoCancel(Msg::AskSave)) {
+    case Prompter::Answer::Yes:
+        return SaveData();
+    case Prompter::Answer::No:
+        m_saver->changes().clear();
+        setSaveEnabled(false);
+        return true;
+    default:
+        return false;
+    }
+}
+
 int EntryMode::AddNewRow()
 {
     const WarehouseEntry *place = m_ctl.isEntryMode() && m_ctl.currentNode() > 0 ? &m_stocks.at(m_ctl.currentNode()) : nullptr;

@@ -45,6 +45,9 @@ public:
     void PageCommand(const QString &key);
     bool SaveData();
     bool confirmLeave();
+    // Before the frame closes: Yes saves (a failed save keeps it open), No drops the changes,
+    // Cancel keeps the frame and the changes.
+    bool confirmClose();
     int AddNewRow();
     bool DeleteCurrentRow();
     std::unique_ptr<frmBatchManager> batchDialogFor(int row);

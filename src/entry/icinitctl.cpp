@@ -308,6 +308,11 @@ bool ICInitCtl::showTotals()
     return m_entry->showTotals();
 }
 
+bool ICInitCtl::confirmClose()
+{
+    return m_entry->confirmClose();
+}
+
 void ICInitCtl::beforeUnload()
 {
     confirmLeave();

@@ -74,6 +74,7 @@ public:
     // Asks "数据已经改变，是否需要保存？" when there are unsaved changes and saves on Yes; false
     // when the save the user asked for did not succeed, so the caller stays where it is.
     bool confirmLeave();
+    bool confirmClose() override;
     // Appends a new row and puts the cursor on its code cell.
     Q_INVOKABLE int AddNewRow();
     // Deletes the item row under the cursor (not an unfolded one).

@@ -35,6 +35,12 @@ bool askYesNo(const QString &question)
            == Prompter::Answer::Yes;
 }
 
+Prompter::Answer askYesNoCancel(const QString &question)
+{
+    return Prompter::current().ask({ResString(Msg::Caption), ResString(question), Prompter::Buttons::YesNoCancel,
+                                    Prompter::Icon::Question});
+}
+
 void tellUser(const QString &message)
 {
     Prompter::current().ask({ResString(Msg::Caption), ResString(message), Prompter::Buttons::Ok,

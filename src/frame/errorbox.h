@@ -19,5 +19,7 @@ LUMOICINITIAL_EXPORT void reportProcedureError(const QString &procedure, const L
 
 // A question with Yes and No and the question icon; true only for Yes.
 LUMOICINITIAL_EXPORT bool askYesNo(const QString &question);
+// The same with Cancel, for questions a Cancel must be able to stop (Escape answers Cancel).
+LUMOICINITIAL_EXPORT Prompter::Answer askYesNoCancel(const QString &question);
 // An information box with OK.
 LUMOICINITIAL_EXPORT void tellUser(const QString &message);

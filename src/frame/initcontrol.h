@@ -53,6 +53,9 @@ public:
 
     // "QueryUnload" (exactly so) saves the view settings; every other text is ignored.
     Q_INVOKABLE void NotifyMessage(const QString &strMsg, const QVariantList &Params);
+    // Asked by the host before it closes the control's frame: false keeps the frame open (the
+    // user cancelled the question about unsaved work).
+    Q_INVOKABLE virtual bool confirmClose() { return true; }
     // Hands the menu and toolbar description to the host window again, if there is one.
     Q_INVOKABLE void RefreshToolbar();
 

@@ -63,5 +63,10 @@ host.screenshot("screenshots/edit-3-reloaded.png");
 
 expectNoMessages("reloading");
 print("edit saved and read back: total opening amount " + grid.TextMatrix(totals, Col.BegBal));
-check(host.closeControl(control), "frame closes");
+// Closing with an edit pending asks; Cancel keeps the frame and the edit, No drops it.
+type(grid, changed, Col.BegQty, "421");
+host.answer("Cancel");
+check(!host.closeControl(control) && grid.TextMatrix(changed, Col.BegQty) == "421.00", "Cancel keeps the edit");
+host.answer("No");
+check(host.closeControl(control), "No closes the frame");
 host.exit(0);
