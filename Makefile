@@ -19,15 +19,19 @@ configure: $(BUILD)/build.ninja
 build: deps configure
 	cmake --build $(BUILD) -j$(JOBS)
 
-# With a display the suite opens on the demo account set for a person; without one the demo
-# script drives it on the offscreen platform, on a fresh demo account set out/demo.db (the script
-# saves edits), and writes screenshots under out/.
-run: build
+# Builds only what it runs: the suite, its libraries and the account-set tool. With a display the
+# suite opens on the demo account set for a person; without one the demo script drives it on the
+# offscreen platform, on a fresh demo account set out/demo.db (the script saves edits), with its
+# settings under out/ (a user's saved view settings cannot change what it drives), and writes
+# screenshots under out/.
+run: deps configure
+	cmake --build $(BUILD) -j$(JOBS) --target lumo-suite lumo-acct
 	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then \
 	  $(BIN)/lumo-suite --demo; \
 	else \
-	  mkdir -p out && rm -f out/demo.db && \
-	  $(BIN)/lumo-suite --demo --account-set out/demo.db --script demo/demo.js && echo "screenshots in out/"; \
+	  mkdir -p out && rm -rf out/demo.db out/config && \
+	  XDG_CONFIG_HOME=$(CURDIR)/out/config $(BIN)/lumo-suite --demo --account-set out/demo.db --script demo/demo.js \
+	    && echo "screenshots in out/"; \
 	fi
 
 test: build

@@ -23,13 +23,15 @@ void fail(const QString &message)
     std::fprintf(stderr, "lumo-suite: %s\n", message.toUtf8().constData());
 }
 
-// A script run without a display uses the offscreen platform.
+// A script run, or a look at the help, without a display uses the offscreen platform.
 void chooseHeadlessPlatform(int argc, char **argv)
 {
-    bool script = false;
-    for (int i = 1; i < argc; ++i)
-        script = script || qstrcmp(argv[i], "--script") == 0;
-    if (script && qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+    bool headless = false;
+    for (int i = 1; i < argc; ++i) {
+        for (const char *option : {"--script", "--help", "-h", "--help-all", "-?"})
+            headless = headless || qstrcmp(argv[i], option) == 0;
+    }
+    if (headless && qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
         && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }

@@ -18,6 +18,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QUrl>
 #include <QJSEngine>
 #include <QPixmap>
 #include <QTextStream>
@@ -338,8 +339,17 @@ int runScript(const QString &file, SuiteWindow &suite)
     if (host.exitRequested())
         return host.exitCode();
     if (result.isError()) {
-        std::fprintf(stderr, "%s:%d: %s\n", qPrintable(file), result.property(QStringLiteral("lineNumber")).toInt(),
-                     qPrintable(result.toString()));
+        // The error is often raised inside a helper (suite.js): the line named is the script's own
+        // frame on the stack, and the whole stack follows.
+        const QString stack = result.property(QStringLiteral("stack")).toString();
+        int line = result.property(QStringLiteral("lineNumber")).toInt();
+        const QString ownFrame = QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath()).toString() + QLatin1Char(':');
+        for (const QString &frame : stack.split(QLatin1Char('\n'))) {
+            const qsizetype at = frame.indexOf(ownFrame);
+            if (at >= 0)
+                line = frame.mid(at + ownFrame.size()).toInt();
+        }
+        std::fprintf(stderr, "%s:%d: %s\n%s\n", qPrintable(file), line, qPrintable(result.toString()), qPrintable(stack));
         return 1;
     }
     return 0;
