@@ -18,7 +18,9 @@
 #include "frame/logincontext.h"
 #include "frame/messages.h"
 #include "frame/settingsstore.h"
+#include "frame/statuspanels.h"
 #include "frame/sysparams.h"
+#include "frame/waitcursor.h"
 
 #include "frame/clients/initialdataclient.h"
 
@@ -37,6 +39,8 @@
 namespace {
 
 const QString NewRowExpanded = QStringLiteral("该物料已展开，不能删除！");
+// The status bar panel that tells what the last save wrote (the first holds the busy text).
+constexpr int SavedPanel = 2;
 
 } // namespace
 
@@ -134,6 +138,7 @@ void EntryMode::openDefaultStock()
 
 void EntryMode::loadRows(int pageIndex)
 {
+    const WaitCursor wait;
     // Rows are kept only at a warehouse without stock places or at a stock place.
     if (!m_ctl.isEntryMode() || m_ctl.currentNode() == 0 || m_stocks.at(m_ctl.currentNode()).isStockMgr != 0) {
         m_sheet->clear();
@@ -322,6 +327,7 @@ std::unique_ptr<frmBatchManager> EntryMode::batchDialogFor(int row)
 
 bool EntryMode::SaveData()
 {
+    const WaitCursor wait;
     m_ctl.setStatusText(Msg::Saving);
     bool saved = false;
     try {
@@ -331,6 +337,10 @@ bool EntryMode::SaveData()
             SpreadConsole::moveToCell(*m_grid, outcome.refusedRow, outcome.refusedCol);
         } else {
             saved = true;
+            if (!outcome.sentNothing)
+                m_ctl.statusPanels()->setPanelText(
+                    SavedPanel, ResString(Msg::SavedRows.arg(outcome.written))
+                                    + (outcome.deleted > 0 ? ResString(Msg::DeletedRows.arg(outcome.deleted)) : QString()));
             setSaveEnabled(false);
             m_ctl.setMBlsIsNewData(false);
             m_ctl.RefreshToolbar();

@@ -86,6 +86,9 @@ EntrySaver::Outcome EntrySaver::save()
     }
     const QString script = SaveScript::build(m_changes.changedRows(), m_changes.deletedRows(), m_sheet.place(),
                                              SysParams::toInt(SysParam::CurrentPeriod));
+    Outcome done;
+    done.written = int(m_changes.changedRows().size());
+    done.deleted = int(m_changes.deletedRows().size());
     m_changes.clear();
     InitialDataClient(ProgId::MICInitialData).UpdateINIData(script);
     markSaved();
@@ -96,7 +99,6 @@ EntrySaver::Outcome EntrySaver::save()
         InitialDataClient(ProgId::MICInitialData).UpdateINIData(SaveScript::systemProfileUpdate(held));
         SysParams::current()->setItem(SysParam::INIBillInterID, held);
     }
-    Outcome done;
     done.saved = true;
     return done;
 }

@@ -20,6 +20,8 @@ public:
         int refusedRow = 0;
         int refusedCol = 0;
         QString message;
+        int written = 0; // rows inserted or updated
+        int deleted = 0;
     };
 
     explicit EntrySaver(EntrySheet &sheet);

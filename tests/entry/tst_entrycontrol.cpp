@@ -418,6 +418,7 @@ private slots:
         const QVariant numbered = scalar(recordNumber);
         QVERIFY(numbered.toInt() > 0);
         QVERIFY(m_control->barList()->Click(EntryKeys::Save));
+        QCOMPARE(m_control->statusPanels()->panelText(2), QStringLiteral("已保存1行"));
         QVERIFY(m_prompter.messages().isEmpty());
         // No batch line was numbered: the running number stays where the account set had it.
         QCOMPARE(scalar(recordNumber), numbered);
