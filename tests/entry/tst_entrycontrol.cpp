@@ -553,9 +553,9 @@ private slots:
         // What the grid should hold after the save: the same cells without the row's flag.
         QList<QStringList> saved = gridTexts();
         QCOMPARE(std::exchange(saved[steel][EntryCol::Flag - 1], QString()), QStringLiteral("1"));
-        // The save adds the totals up again: one less than the loaded total.
+        // The total has followed the edit already; the save leaves it so.
         const int totals = grid().rows() - 1;
-        const double total = grid().number(totals, EntryCol::BegQty) - 1;
+        const double total = grid().number(totals, EntryCol::BegQty);
 
         const int glue = rowOf(QStringLiteral("1.03.002"));
         // Unfolding saves the pending edit first, without asking.
@@ -640,10 +640,11 @@ private slots:
         QCOMPARE(m_control->pageLabel(), QStringLiteral("1/1"));
         const int screw = EntryDb::itemRow(*m_control, EntryDb::Screw);
         QCOMPARE(grid().number(screw, EntryCol::BegDiff), 150.0);
-        // The user empties the screws' opening difference; Sum adds up the grid again.
+        // The user empties the screws' opening difference: the total follows at once, and Sum goes to it.
         QVERIFY(grid().editCell(screw, EntryCol::BegDiff, QString()));
-        QVERIFY(m_control->showTotals());
         const int row = grid().rows() - 1;
+        QCOMPARE(grid().number(row, EntryCol::BegDiff), EntryDb::sumsOfPlace(*m_set, 2).at(11) - 150);
+        QVERIFY(m_control->showTotals());
         QCOMPARE(totalsRows(grid()), QList<int>{row});
         QVector<double> expected = EntryDb::sumsOfPlace(*m_set, 2);
         const QList<int> columns = EntryDb::figureColumns();
