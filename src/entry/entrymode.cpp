@@ -125,7 +125,11 @@ void EntryMode::fillStockList()
             text += ResString(Msg::StockPlaceSuffix);
         m_stockBox->addItem(text, i);
     }
-    m_stockBox->setCurrentIndex(qBound(-1, SettingsStore::intValue(Setting::StockListIndex), m_stockBox->count() - 1));
+    // The box names a warehouse only once one is shown, or when the default one is about to open.
+    const int saved = SettingsStore::intValue(Setting::StockListIndex);
+    m_stockBox->setCurrentIndex(SettingsStore::boolValue(Setting::ShowDefaultStock)
+                                    ? qBound(-1, saved, m_stockBox->count() - 1)
+                                    : -1);
 }
 
 void EntryMode::openDefaultStock()

@@ -235,7 +235,8 @@ void ICInitCtl::applyDefaultStockSetting()
 
 int ICInitCtl::stockListIndex() const
 {
-    return m_stockBox->currentIndex();
+    // With nothing chosen the saved position of the default warehouse stays as it was.
+    return m_stockBox->currentIndex() >= 0 ? m_stockBox->currentIndex() : InitControl::stockListIndex();
 }
 
 void ICInitCtl::tvICInit_NodeClick(const QString &key)

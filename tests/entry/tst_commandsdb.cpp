@@ -19,6 +19,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QTest>
 #include <QToolBar>
 
@@ -316,6 +317,9 @@ private slots:
         ICInitCtl control;
         QVERIFY(show(control, scratch, &host));
         QCOMPARE(control.barList()->isChecked(key), stored);
+        // The warehouse box names a warehouse only when the default one opens.
+        QCOMPARE(control.findChild<QComboBox *>(QStringLiteral("cbStock"))->currentIndex() >= 0,
+                 SettingsStore::boolValue(Setting::ShowDefaultStock));
         control.tree()->clickNode(ShelfB); // the default-stock toggle is offered at places with rows
         const int redraws = host.menuBarsReceived();
         QVERIFY(control.barList()->Click(key));
