@@ -39,7 +39,8 @@
 namespace {
 
 const QString NewRowExpanded = QStringLiteral("该物料已展开，不能删除！");
-// The status bar panel that tells what the last save wrote (the first holds the busy text).
+// The status bar panel that tells what the last save wrote, or where rows are entered (the first
+// holds the busy text).
 constexpr int SavedPanel = 2;
 
 } // namespace
@@ -85,6 +86,9 @@ void EntryMode::nodeShown(int index)
 {
     m_stockBox->setCurrentIndex(m_stockBox->findData(index));
     setNodeCommandsVisible(m_stocks.at(index).isStockMgr == 0);
+    // A warehouse with stock places shows no rows of its own; the user is told where they are.
+    const bool hasPlaces = index > 0 && m_stocks.at(index).isStockMgr != 0;
+    m_ctl.statusPanels()->setPanelText(SavedPanel, hasPlaces ? ResString(Msg::EnterAtStockPlaces) : QString());
 }
 
 void EntryMode::LoadingStocks()

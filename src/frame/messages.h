@@ -17,6 +17,8 @@ inline const QString TaskConflictSource = QStringLiteral("MNetControl.ExecFunc")
 inline const QString Ready = QStringLiteral("就绪");
 inline const QString Saving = QStringLiteral("请稍候，系统正在保存数据.......");
 inline const QString AskSave = QStringLiteral("数据已经改变，是否需要保存？");
+// At a warehouse with stock places, in the status bar's second panel.
+inline const QString EnterAtStockPlaces = QStringLiteral("该仓库设有仓位，请在其仓位下录入初始数据");
 // What a save wrote, in the status bar's second panel.
 inline const QString SavedRows = QStringLiteral("已保存%1行");
 inline const QString DeletedRows = QStringLiteral("，删除%1行");

@@ -398,6 +398,7 @@ private slots:
         // The root and a warehouse with stock places take no rows, whatever the accounting.
         for (const char *node : {"K0", "K1"}) {
             control.tree()->clickNode(QLatin1String(node));
+            QCOMPARE(control.statusPanels()->panelText(2).isEmpty(), QByteArray(node) == "K0");
             for (const char *key : {"mcVBalance", "Balance", "AddNew", "mcFSave", "SP2"})
                 QVERIFY2(!bars.isVisible(QLatin1String(key)), key);
         }
