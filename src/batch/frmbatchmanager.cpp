@@ -64,6 +64,8 @@ frmBatchManager::frmBatchManager(QWidget *parent)
     m_progress->setFixedHeight(ProgressHeight);
     m_progress->setRange(0, 1);
     m_progress->setValue(0);
+    // Shown only while lines are being read or written.
+    m_progress->hide();
 
     buildToolBar();
 
@@ -173,6 +175,7 @@ void frmBatchManager::showProgress(int value, int maximum)
 {
     m_progress->setRange(0, std::max(maximum, 1));
     m_progress->setValue(value);
+    m_progress->setVisible(value > 0 && value < maximum);
 }
 
 QObject *frmBatchManager::BMItemKey() const

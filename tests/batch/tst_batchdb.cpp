@@ -19,6 +19,7 @@
 #include <QApplication>
 #include <QDate>
 #include <QSqlQuery>
+#include <QProgressBar>
 #include <QTabBar>
 #include <QTest>
 
@@ -196,6 +197,8 @@ private slots:
         }
         QCOMPARE(m_dialog->findChild<QTabBar *>(QStringLiteral("sstBatMan"))->tabText(0), shown.caption);
         QCOMPARE(m_dialog->button(QStringLiteral("ShareBal"))->isEnabled(), shown.apportioning);
+        // Nothing is in progress once the lines are in: no empty progress strip.
+        QVERIFY(m_dialog->findChild<QProgressBar *>(QStringLiteral("pbBatMan"))->isHidden());
         // The demo lines came in on the period's first day; the totals row has the sum colour.
         QCOMPARE(grid->value(1, StockIn).toString(), demoDay(4, 1));
         QCOMPARE(grid->TextMatrix(3, BatchNo), QStringLiteral("合计"));
