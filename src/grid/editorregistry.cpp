@@ -1,7 +1,9 @@
 #include "grid/editorregistry.h"
 
+#include "grid/gridtypes.h"
+
 #include <QComboBox>
-#include <QDateEdit>
+#include <QDate>
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
 
@@ -36,21 +38,23 @@ CellEditorFactory numberFactory()
     return factory;
 }
 
+// A date is typed as text ("2026-03-01", "2026/3/1", "20260301") and read by the cell's own
+// parser: a sectioned date editor put the typed year into the day.
 CellEditorFactory dateFactory()
 {
-    return {
-        [](QWidget *parent, const CellStyle &) {
-            auto *editor = new QDateEdit(parent);
-            editor->setDisplayFormat(QString::fromLatin1(Grid::DateFormat));
-            editor->setCalendarPopup(true);
-            return editor;
-        },
-        [](QWidget *editor, const QVariant &editValue) {
-            const QDate date = editValue.toDate();
-            static_cast<QDateEdit *>(editor)->setDate(date.isValid() ? date : QDate::currentDate());
-        },
-        [](const QWidget *editor) { return QVariant(static_cast<const QDateEdit *>(editor)->date()); },
+    CellEditorFactory factory = lineEditFactory();
+    factory.create = [plain = factory.create](QWidget *parent, const CellStyle &style) {
+        auto *editor = static_cast<QLineEdit *>(plain(parent, style));
+        static const QRegularExpression dateCharacters(QStringLiteral("[0-9/-]*"));
+        editor->setValidator(new QRegularExpressionValidator(dateCharacters, editor));
+        return editor;
     };
+    factory.setValue = [](QWidget *editor, const QVariant &editValue) {
+        const QDate date = editValue.toDate();
+        static_cast<QLineEdit *>(editor)->setText(date.isValid() ? date.toString(QString::fromLatin1(Grid::DateFormat))
+                                                                 : editValue.toString());
+    };
+    return factory;
 }
 
 CellEditorFactory listFactory()

@@ -22,8 +22,9 @@ struct CellEditorFactory
 };
 
 // Editor factories keyed by cell type. The standard registry edits text with a line edit,
-// numbers with a right-aligned line edit that takes only number characters, dates with a date
-// edit showing "yyyy-MM-dd" and lists with a drop-down list; button cells have no editor.
+// numbers with a right-aligned line edit that takes only number characters, dates with a line
+// edit showing "yyyy-MM-dd" that takes the forms people type and lists with a drop-down list;
+// button cells have no editor.
 class EditorRegistry
 {
 public:
