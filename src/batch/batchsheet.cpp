@@ -157,8 +157,11 @@ int BatchSheet::appendLine(const QDate &stockIn, std::optional<qint32> kfPeriod,
     m_cells.insertRowsAt(row);
     setLineQuantityDecimals(row, m_item.qtyDecimal);
     m_cells.setValue(row, BatCol::StockInDate, stockIn);
-    if (kfPeriod)
+    // A shelf-life line is taken as produced on its stock-in day, the latest day a save accepts.
+    if (kfPeriod) {
+        m_cells.setValue(row, BatCol::KFDate, stockIn);
         m_cells.setNumber(row, BatCol::KFPeriod, *kfPeriod);
+    }
     m_cells.setNumber(row, BatCol::BillInterID, billInterId);
     markChanged(row);
     return row;

@@ -449,13 +449,14 @@ private slots:
             QVERIFY(m_dialog->pressButton(QStringLiteral("AddNew")));
             const int line = grid->row();
             QCOMPARE((std::pair{line, grid->col()}), (std::pair{3, int(BatchNo)}));
-            const QString shelfLife = itemId == EpoxyGlue ? QStringLiteral("180") : QString();
-            QCOMPARE((QStringList{grid->value(line, StockIn).toString(), grid->TextMatrix(line, KFPeriod),
-                                  grid->TextMatrix(line, Flag)}),
-                     (QStringList{demoDay(4, 1), shelfLife, QStringLiteral("1")}));
+            // A shelf-life item's line is produced on its stock-in day unless the user says otherwise,
+            // so that it can be saved as it comes.
+            const bool shelfLife = itemId == EpoxyGlue;
+            QCOMPARE((QStringList{grid->value(line, StockIn).toString(), grid->value(line, KFDate).toString(),
+                                  grid->TextMatrix(line, KFPeriod), grid->TextMatrix(line, Flag)}),
+                     (QStringList{demoDay(4, 1), shelfLife ? demoDay(4, 1) : QString(),
+                                  shelfLife ? QStringLiteral("180") : QString(), QStringLiteral("1")}));
             QVERIFY(grid->editCell(line, BatchNo, QStringLiteral("N1")));
-            if (itemId == EpoxyGlue)
-                QVERIFY(grid->editCell(line, KFDate, demoDay(3, 1)));
             // The amount is still to come: no warning of a zero amount in the middle of the pair.
             QVERIFY(grid->editCell(line, BegQty, 1));
             QVERIFY(m_prompter.messages().isEmpty());
