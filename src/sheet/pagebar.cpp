@@ -41,6 +41,7 @@ PageBar::PageBar(QWidget *parent)
         if (m_pageBox->hasFocus())
             emit pageCommand(SearchPage);
     });
+    setPages(0, 0);
 }
 
 void PageBar::setPages(int pageIndex, int totalPages)
@@ -52,6 +53,9 @@ void PageBar::setPages(int pageIndex, int totalPages)
         findChild<QToolButton *>(key)->setEnabled(pageIndex > 1);
     for (const QString &key : {NextPage, LastPage})
         findChild<QToolButton *>(key)->setEnabled(pageIndex < totalPages);
+    // Without pages there is nowhere to go.
+    m_pageBox->setEnabled(totalPages > 0);
+    findChild<QToolButton *>(SearchPage)->setEnabled(totalPages > 0);
 }
 
 int PageBar::typedPage() const

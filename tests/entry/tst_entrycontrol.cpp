@@ -267,6 +267,8 @@ private slots:
         QCOMPARE(page(), QStringList({"1/1", "2.01.001", "2.01.002"}));
         clickNode(7);
         QCOMPARE(page(), QStringList{"0/0"});
+        // Without pages there is nowhere to go: the page box and its button are off.
+        QVERIFY(!m_control->findChild<QWidget *>(QStringLiteral("txtPage"))->isEnabled());
         QVERIFY(m_prompter.messages().isEmpty());
     }
 
