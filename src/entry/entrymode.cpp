@@ -108,6 +108,8 @@ void EntryMode::LoadingStocks()
                             WarehouseTree::SelectedImage);
         m_tree->ensureRootVisible();
         m_tree->expandToDepth(0);
+        // No place is shown yet: the commands that need one wait for the node click.
+        setNodeCommandsVisible(false);
         fillStockList();
         m_ctl.setStatusText(QStringLiteral("%1%2ms  %3%4ms  %5%6ms")
                           .arg(ResString(Msg::FetchTime)).arg(fetched)

@@ -136,6 +136,7 @@ private slots:
         QVERIFY(control.Show(&m_host, false));
         QCOMPARE(m_host.received, QList<QObject *>{control.barList()});
         QCOMPARE(FakeWorld::instance().committed, QList<int>{7});
+        QVERIFY(!control.barList()->isVisible(QStringLiteral("AddNew"))); // no place shown yet
         QCOMPARE((QStringList{control.findChild<QLabel *>(QStringLiteral("lblTitle"))->text(),
                               control.findChild<QLabel *>(QStringLiteral("lblStock"))->text(), control.statusPanels()->panelText(1)}),
                  (QStringList{QStringLiteral("存货初始数据录入"), QStringLiteral("仓    库:"), QStringLiteral("就绪")}));
