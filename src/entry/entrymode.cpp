@@ -207,9 +207,8 @@ void EntryMode::setSaveEnabled(bool enabled)
 void EntryMode::markRowChanged(int row)
 {
     m_grid->cells()->setText(row, EntryCol::Flag, QStringLiteral("1"));
-    // A place of one page sums its grand total from the grid, so it follows every edit.
-    if (m_sheet->totalPages() <= 1)
-        m_sheet->refreshTotals();
+    // The grand total follows every edit where it is summed from the grid (a place of one page).
+    m_sheet->refreshTotals();
     m_saver->changes().setDirty(true);
     m_ctl.setMBlsIsNewData(true);
     if (!m_ctl.barList()->isEnabled(EntryKeys::Save)) {
