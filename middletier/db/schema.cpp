@@ -263,6 +263,8 @@ QList<TableDecl> declareTables()
                   .unique(QStringLiteral("Number"), {QStringLiteral("FNumber")})
                   .index(QStringLiteral("ShortNumber"), {QStringLiteral("FShortNumber")})
                   .index(QStringLiteral("Acct"), {QStringLiteral("FAcctID")})
+                  // The grand total's precision walks the items from the finest down.
+                  .index(QStringLiteral("QtyDecimal"), {QStringLiteral("FQtyDecimal")}, 4)
                   .references(QStringLiteral("FUnitGroupID"), QStringLiteral("t_UnitGroup"),
                               QStringLiteral("FUnitGroupID"))
                   .references(QStringLiteral("FUnitID"), QStringLiteral("t_MeasureUnit"),

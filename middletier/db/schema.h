@@ -57,7 +57,7 @@ public:
     // Version 2: auxiliary properties, inventory balances after start-up, balance-adjustment
     // bills, report formats, filter field lists, the composed-key index.
     // Version 3: the place totals kept by triggers, and the item-row index behind them.
-    static constexpr int CurrentVersion = 3;
+    static constexpr int CurrentVersion = 4;
     static inline const QString VersionTable = QStringLiteral("t_SchemaVersion");
 
     static const QList<TableDecl> &tables();

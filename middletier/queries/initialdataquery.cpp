@@ -28,7 +28,7 @@ Dictionary *fetch(const QSqlDatabase &db, const Request &request)
             for (qsizetype f = 0; f < sums.size(); ++f)
                 sums[f] = PlaceTotals::rounded(query.value(int(f) + 1).toDouble());
         }
-        const script::BoundSql precision = sql->precision();
+        const script::BoundSql precision = sql->precision(recordCount);
         QSqlQuery decimals = SqlRun::exec(db, precision.sql, precision.values);
         if (decimals.next())
             qtyDecimal = decimals.value(0);

@@ -130,10 +130,18 @@ script::BoundSql InitialDataSql::totals() const
     return sql;
 }
 
-script::BoundSql InitialDataSql::precision() const
+script::BoundSql InitialDataSql::precision(qint64 placeRows) const
 {
-    return {QStringLiteral("SELECT max(i.FQtyDecimal) FROM t_ICItem i WHERE i.FItemID IN "
-                           "(SELECT v.FItemID FROM ICInvInitial v WHERE %1)")
+    // A small place is read whole; in a large one the items are walked from the finest precision
+    // down until one is found there, which reads the whole place only when it holds few items.
+    constexpr qint64 SmallPlace = 20000;
+    if (placeRows <= SmallPlace)
+        return {QStringLiteral("SELECT max(i.FQtyDecimal) FROM t_ICItem i WHERE i.FItemID IN "
+                               "(SELECT v.FItemID FROM ICInvInitial v WHERE %1)")
+                    .arg(PlaceCondition),
+                placeValues()};
+    return {QStringLiteral("SELECT i.FQtyDecimal FROM t_ICItem i WHERE EXISTS (SELECT 1 FROM ICInvInitial v WHERE %1 "
+                           "AND v.FItemID=i.FItemID) ORDER BY i.FQtyDecimal DESC LIMIT 1")
                 .arg(PlaceCondition),
             placeValues()};
 }

@@ -43,8 +43,9 @@ public:
     // One row: the number of item rows, then the twelve sums (ItemRowFields::figureFields()).
     script::BoundSql totals() const;
     // One value: the highest quantity precision of the items the place holds (null for none), so
-    // that the totals row hides none of the digits its rows show.
-    script::BoundSql precision() const;
+    // that the totals row hides none of the digits its rows show. `placeRows` (the item rows the
+    // place holds) chooses the cheaper way.
+    script::BoundSql precision(qint64 placeRows) const;
 
 private:
     InitialDataSql(const PlacePeriod &place, const DialogFilter::Applied &applied, bool groupsFirst,
