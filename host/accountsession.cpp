@@ -7,8 +7,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
-#include <QProcess>
 #include <QStandardPaths>
 
 namespace {
@@ -37,23 +35,6 @@ QString demoAccountSetPath()
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
     QDir().mkpath(folder);
     return QDir(folder).filePath(QStringLiteral("demo-account-set.db"));
-}
-
-bool ensureDemoAccountSet(const QString &path, QString *error)
-{
-    if (QFileInfo::exists(path))
-        return true;
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QProcess tool;
-    tool.setProcessChannelMode(QProcess::MergedChannels);
-    tool.start(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("lumo-acct")),
-               {QStringLiteral("demo"), path});
-    if (!tool.waitForFinished(10 * 60 * 1000) || tool.exitStatus() != QProcess::NormalExit || tool.exitCode() != 0) {
-        *error = QStringLiteral("演示账套创建失败：%1").arg(QString::fromUtf8(tool.readAll()).trimmed());
-        QFile::remove(path);
-        return false;
-    }
-    return true;
 }
 
 bool logIn(const QString &accountSet, const QString &userName, AccountSession *session, QString *error)

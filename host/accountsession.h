@@ -17,9 +17,6 @@ namespace AccountSetup {
 
 // The demo account set of this user, made by lumo-acct on first use.
 QString demoAccountSetPath();
-// Creates and fills the demo account set when the file is missing; false with a message when
-// lumo-acct fails.
-bool ensureDemoAccountSet(const QString &path, QString *error);
 // Checks the user against the account set's users; the session with the user's number.
 bool logIn(const QString &accountSet, const QString &userName, AccountSession *session, QString *error);
 // Puts the property string into the shared-property service for this process.

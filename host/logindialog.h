@@ -4,10 +4,12 @@
 
 #include <QDialog>
 
+class QComboBox;
 class QLabel;
 class QLineEdit;
 
-// Log-in to an account set: the account set (a file or a PostgreSQL URI) and the user.
+// Log-in to an account set: the account set (a file or a PostgreSQL URI) and the user, chosen
+// from the users the account set names. A new, empty account set can be made from here.
 class LoginDialog : public QDialog
 {
     Q_OBJECT
@@ -21,8 +23,14 @@ protected:
     void accept() override;
 
 private:
+    // Reads the users of the account set named in the box into the user list.
+    void listUsers();
+    void createAccountSet();
+
     QLineEdit *m_accountSet;
-    QLineEdit *m_user;
+    QComboBox *m_user;
+    QLabel *m_users;
     QLabel *m_error;
+    QString m_listed;
     AccountSession m_session;
 };

@@ -1,4 +1,5 @@
 #include "accountsession.h"
+#include "accttool.h"
 #include "frame/automation/progids.h"
 #include "logindialog.h"
 #include "scripthost.h"
@@ -68,7 +69,7 @@ int main(int argc, char **argv)
     if (parser.isSet(demo)) {
         path = path.isEmpty() ? AccountSetup::demoAccountSetPath() : path;
         QString error;
-        if (!AccountSetup::ensureDemoAccountSet(path, &error)) {
+        if (!AcctTool::ensureDemo(path, &error)) {
             fail(error);
             return 2;
         }
@@ -92,7 +93,7 @@ int main(int argc, char **argv)
     }
     AccountSetup::publish(session);
 
-    SuiteWindow suite(session.accountSet, session.userName);
+    SuiteWindow suite(session);
     if (parser.isSet(script)) {
         suite.show();
         return runScript(parser.value(script), suite);

@@ -2,6 +2,7 @@
 #include "frame/automation/progids.h"
 
 #include "controlframe.h"
+#include "logindialog.h"
 #include "hostwindow.h"
 
 #include "frame/barlist.h"
@@ -36,10 +37,12 @@ const SuiteControl suiteControls[] = {
 
 } // namespace
 
-SuiteWindow::SuiteWindow(const QString &accountSet, const QString &userName, QWidget *parent)
+SuiteWindow::SuiteWindow(const AccountSession &session, QWidget *parent)
     : QMainWindow(parent)
     , m_mdi(new QMdiArea(this))
     , m_controlToolBar(addToolBar(QStringLiteral("控件工具栏")))
+    , m_accountSet(new QLabel(this))
+    , m_user(new QLabel(this))
 {
     setWindowTitle(QStringLiteral("澄枫供应链管理 - 存货核算"));
     m_mdi->setViewMode(QMdiArea::SubWindowView);
@@ -49,8 +52,9 @@ SuiteWindow::SuiteWindow(const QString &accountSet, const QString &userName, QWi
     m_controlToolBar->setIconSize(QSize(20, 20));
     m_controlToolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     buildSuiteMenu();
-    statusBar()->addPermanentWidget(new QLabel(QStringLiteral("账套：%1").arg(accountSet)));
-    statusBar()->addPermanentWidget(new QLabel(QStringLiteral("用户：%1").arg(userName)));
+    statusBar()->addPermanentWidget(m_accountSet);
+    statusBar()->addPermanentWidget(m_user);
+    showSession(session);
     connect(m_mdi, &QMdiArea::subWindowActivated, this, [this] { redrawControlBars(); });
     resize(1280, 800);
 }
@@ -74,13 +78,35 @@ void SuiteWindow::closeEvent(QCloseEvent *event)
 
 void SuiteWindow::buildSuiteMenu()
 {
-    QMenu *system = menuBar()->addMenu(QStringLiteral("系统(&S)"));
+    m_systemMenu = menuBar()->addMenu(QStringLiteral("系统(&S)"));
     for (const SuiteControl &control : suiteControls) {
         const QString progId = control.progId;
-        system->addAction(QString::fromUtf8(control.caption), this, [this, progId] { openControl(progId); });
+        m_systemMenu->addAction(QString::fromUtf8(control.caption), this, [this, progId] { openControl(progId); });
     }
-    system->addSeparator();
-    system->addAction(QStringLiteral("退出(&X)"), QKeySequence::Quit, this, &QWidget::close);
+    m_systemMenu->addSeparator();
+    m_systemMenu->addAction(QStringLiteral("切换账套(&A)..."), this, &SuiteWindow::switchAccountSet)
+        ->setObjectName(QStringLiteral("switchAccountSet"));
+    m_systemMenu->addAction(QStringLiteral("退出(&X)"), QKeySequence::Quit, this, &QWidget::close);
+}
+
+void SuiteWindow::showSession(const AccountSession &session)
+{
+    m_accountSet->setText(QStringLiteral("账套：%1").arg(session.accountSet));
+    m_user->setText(QStringLiteral("用户：%1").arg(session.userName));
+    m_session = session;
+}
+
+void SuiteWindow::switchAccountSet()
+{
+    m_mdi->closeAllSubWindows();
+    if (!m_mdi->subWindowList().isEmpty())
+        return;
+    LoginDialog login(m_session.accountSet, m_session.userName, this);
+    if (login.exec() != QDialog::Accepted)
+        return;
+    const AccountSession session = login.session();
+    AccountSetup::publish(session);
+    showSession(session);
 }
 
 QWidget *SuiteWindow::openControl(const QString &progId)
@@ -136,6 +162,7 @@ ControlFrame *SuiteWindow::frameOf(const QWidget *control) const
 bool SuiteWindow::pressHostKey(const QString &key)
 {
     QList<QAction *> drawn = m_controlToolBar->isVisible() ? m_controlToolBar->actions() : QList<QAction *>();
+    drawn += m_systemMenu->actions();
     for (const QAction *menu : std::as_const(m_controlMenus))
         drawn += menu->menu()->actions();
     for (QAction *action : std::as_const(drawn)) {

@@ -25,6 +25,7 @@ constexpr int StatementRefused = Base + 31;
 constexpr int NotLoggedIn = Base + 40;
 constexpr int UnknownCurrency = Base + 50;
 constexpr int DemoNotEmpty = Base + 90;
+constexpr int BadAdministrator = Base + 91;
 
 inline const QString NoAcctDbText = QStringLiteral("登录信息中没有账套数据库(AcctDB)，请重新登录！");
 inline const QString AcctDbNotFoundText = QStringLiteral("账套数据库不存在：%1");
@@ -40,5 +41,6 @@ inline const QString StatementRefusedText = QStringLiteral("不允许执行的�
 inline const QString NotLoggedInText = QStringLiteral("当前进程没有登录信息(PropsString)，请先登录账套！");
 inline const QString UnknownCurrencyText = QStringLiteral("币别不存在：%1");
 inline const QString DemoNotEmptyText = QStringLiteral("账套中已经有仓库数据，演示数据只能写入新账套：%1");
+inline const QString BadAdministratorText = QStringLiteral("管理员的用户名不能为空，也不能含有控制字符。");
 
 } // namespace MtError

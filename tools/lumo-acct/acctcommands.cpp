@@ -9,6 +9,9 @@
 #include "mterrors.h"
 
 #include <QElapsedTimer>
+#include <QSqlQuery>
+
+#include <algorithm>
 #include <QFileInfo>
 
 namespace {
@@ -34,10 +37,16 @@ bool exists(const QString &acctDb)
 
 namespace AcctCommands {
 
-void create(const QString &acctDb, QTextStream &out)
+void create(const QString &acctDb, const QString &administrator, QTextStream &out)
 {
+    const QString name = administrator.trimmed();
+    if (name.isEmpty() || std::any_of(name.cbegin(), name.cend(), [](QChar c) { return c.category() == QChar::Other_Control; }))
+        throw LumoError(MtError::BadAdministrator, MtError::BadAdministratorText, QStringLiteral("lumo-acct"));
     const AccountSet set = AccountSet::create(acctDb);
-    out << "账套已创建：" << set.location().displayName() << "（版本 " << Schema::CurrentVersion << "）\n";
+    // A fresh account set has one user, its administrator.
+    SqlRun::exec(set.database(), QStringLiteral("UPDATE t_User SET FName=? WHERE FIsAdmin=1"), {name});
+    out << "账套已创建：" << set.location().displayName() << "（版本 " << Schema::CurrentVersion << "），管理员：" << name
+        << "\n";
 }
 
 void migrate(const QString &acctDb, QTextStream &out)
@@ -80,6 +89,15 @@ void inspect(const QString &acctDb, QTextStream &out)
             SqlRun::scalar(set.database(), QStringLiteral("SELECT count(*) FROM %1").arg(table.name)).toLongLong();
         out << qSetFieldWidth(TableNameWidth) << Qt::left << table.name << qSetFieldWidth(0) << rows << "\n";
     }
+}
+
+void users(const QString &acctDb, QTextStream &out)
+{
+    const AccountSet set = AccountSet::open(acctDb);
+    QSqlQuery names =
+        SqlRun::exec(set.database(), QStringLiteral("SELECT FName FROM t_User WHERE FForbidden=0 ORDER BY FUserID"), {});
+    while (names.next())
+        out << names.value(0).toString() << "\n";
 }
 
 } // namespace AcctCommands
