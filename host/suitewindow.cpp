@@ -201,7 +201,7 @@ void SuiteWindow::redrawControlBars()
     for (const QString &menuName : bars->menus()) {
         auto *menu = new QMenu(menuName, this);
         for (const BarList::Item &item : bars->items()) {
-            if (item.kind != BarList::ItemKind::MenuItem || item.menu != menuName || !item.visible)
+            if (item.kind != BarList::ItemKind::MenuItem || item.menu != menuName || !item.visible || !item.drawn)
                 continue;
             QAction *action = menu->addAction(item.caption);
             action->setObjectName(item.key);

@@ -50,17 +50,17 @@ const QVector<EntryCommandSpec> &entryCommandTable()
         {C::Sum, {ESum}, Sum, "汇总", EditMenu, "", false, "x-office-spreadsheet", Built | Entry | Node},
         {C::DefaultStock, {DefaultStock}, {}, toggleCaption(ViewToggleKey::DefaultStock), EditMenu, "", true, "", Built | Node},
         {C::Find, {EFind}, Find, "查找", EditMenu, "Ctrl+F", false, "edit-find", Entry | Rows},
-        {C::Filter, {EFilter}, Filter, "过滤", EditMenu, "", false, "view-filter", 0},
+        {C::Filter, {EFilter}, Filter, "过滤", EditMenu, "", false, "format-justify-fill", 0},
         {C::Sort, {ESort}, Sort, "排序", EditMenu, "", false, "view-sort-ascending", 0},
         {C::Calculator, {ECal}, {}, "计算器", EditMenu, "", false, "accessories-calculator", Node},
-        {C::Check, {VCheck}, Check, "对账", ViewMenu, "", false, "view-list-details", Reconcile},
-        {C::Balance, {VBalance}, Balance, "试算平衡", ViewMenu, "", false, "view-statistics", Reconcile | Node},
+        {C::Check, {VCheck}, Check, "对账", ViewMenu, "", false, "tools-check-spelling", Reconcile},
+        {C::Balance, {VBalance}, Balance, "试算平衡", ViewMenu, "", false, "emblem-default", Reconcile | Node},
         {C::Transfer, {}, Transfer, "传递", ViewMenu, "", false, "go-next", Reconcile},
-        {C::Color, {VColor}, Color, "颜色设置", ViewMenu, "", false, "preferences-desktop-color", 0},
+        {C::Color, {VColor}, Color, "颜色设置", ViewMenu, "", false, "preferences-desktop-theme", 0},
         {C::Search, {VSearch, VLookUp}, Search, "物料录入", ViewMenu, "F7", false, "system-search", Node},
         {C::Refresh, {VRefresh}, Refresh, "刷新", ViewMenu, "F5", false, "view-refresh", Built},
         {C::OrgWidth, {OrgWidth}, {}, "恢复默认列宽", ViewMenu, "", false, "", Built},
-        {C::Tree, {VTree}, TreeView, "仓库树", ViewMenu, "", false, "view-list-tree", Built},
+        {C::Tree, {VTree}, TreeView, "仓库树", ViewMenu, "", false, "system-file-manager", Built},
         {C::AutoRefresh, {AutoRefresh}, {}, toggleCaption(ViewToggleKey::AutoRefresh), ViewMenu, "", true, "", Built},
         {C::ToolBar, {ToolBar}, {}, toggleCaption(ViewToggleKey::ToolBar), FormatMenu, "", true, "", Built},
         {C::ToolBarLabel, {ToolBarLabel}, {}, toggleCaption(ViewToggleKey::ToolBarLabel), FormatMenu, "", true, "", Built},
@@ -91,6 +91,7 @@ void fillEntryBarList(BarList &bars)
             item.menu = ResString(QString::fromUtf8(declared.menu));
             item.shortcut = QKeySequence(QString::fromLatin1(declared.shortcut));
             item.checkable = declared.toggle;
+            item.drawn = menuKey == declared.menuKeys.first();
             bars.addItem(item);
         }
     }

@@ -23,6 +23,7 @@
 #include <QVBoxLayout>
 #include "frame/ctlerrors.h"
 #include "frame/qllogmsg.h"
+#include "frame/settingsstore.h"
 #include "frame/sysparams.h"
 #include "batch/frmbatchmanager.h"
 #include "sheet/entrysaver.h"
@@ -53,6 +54,9 @@ ICInitCtl::ICInitCtl(QWidget *parent)
     } catch (const LumoError &) {
         EntryGridLayout::build(*m_grid, 0);
     }
+    EntryGridLayout::applyWidths(*m_grid, SettingsStore::value(Setting::EntryColWidths).toString());
+    connect(m_grid, &SpreadGrid::colWidthDragged, this,
+            [this] { SettingsStore::setValue(Setting::EntryColWidths, EntryGridLayout::widthsText(*m_grid)); });
     rebuildToolBar();
 }
 
@@ -126,6 +130,7 @@ bool ICInitCtl::Show(QObject *ParentWnd, bool blnIstest)
 void ICInitCtl::prepareShow()
 {
     EntryGridLayout::build(*m_grid, GetIndustryType());
+    EntryGridLayout::applyWidths(*m_grid, SettingsStore::value(Setting::EntryColWidths).toString());
     setMode(m_mode);
 }
 
@@ -364,6 +369,7 @@ void ICInitCtl::runCommand(const QString &key)
         break;
     case EntryCommand::OrgWidth:
         EntryGridLayout::restoreWidths(*m_grid);
+        SettingsStore::setValue(Setting::EntryColWidths, QString());
         break;
     case EntryCommand::AutoRefresh: case EntryCommand::ToolBar: case EntryCommand::ToolBarLabel:
     case EntryCommand::StatusBar: case EntryCommand::DefaultStock:

@@ -33,6 +33,9 @@ public:
         bool enabled = true;
         bool visible = true;
         QString iconName;      // a freedesktop theme icon name for toolbar buttons
+        // False for a second published key of a command: it answers Click, but the command is
+        // drawn once, under its first key.
+        bool drawn = true;
     };
 
     explicit BarList(QObject *parent = nullptr);

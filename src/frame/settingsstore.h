@@ -24,6 +24,8 @@ inline const SettingSpec ShowStateBar{"bShowStateBar", true};
 inline const SettingSpec ShowDefaultStock{"bShowDefaultStock", false};
 inline const SettingSpec ShowRefresh{"bShowRefresh", false};
 inline const SettingSpec StockListIndex{"nStockListIndex", 0};
+// The entry grid's column widths as the user dragged them; empty for the defaults.
+inline const SettingSpec EntryColWidths{"EntryColWidths", QString()};
 
 // Row colours as RGB numbers (red + green * 256 + blue * 65536).
 inline const SettingSpec LockColor{"LockColor", 248 + 237 * 256 + 254 * 65536};

@@ -28,3 +28,31 @@ QSize GridHeader::sectionSizeFromContents(int logicalIndex) const
     size.setHeight(std::max(size.height(), size.height() - fontMetrics().height() + wrapped.height()));
     return size;
 }
+
+template<typename Handler>
+void GridHeader::byMouse(Handler &&handler)
+{
+    m_byMouse = true;
+    handler();
+    m_byMouse = false;
+}
+
+void GridHeader::mousePressEvent(QMouseEvent *event)
+{
+    byMouse([&] { QHeaderView::mousePressEvent(event); });
+}
+
+void GridHeader::mouseMoveEvent(QMouseEvent *event)
+{
+    byMouse([&] { QHeaderView::mouseMoveEvent(event); });
+}
+
+void GridHeader::mouseReleaseEvent(QMouseEvent *event)
+{
+    byMouse([&] { QHeaderView::mouseReleaseEvent(event); });
+}
+
+void GridHeader::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    byMouse([&] { QHeaderView::mouseDoubleClickEvent(event); });
+}

@@ -95,10 +95,14 @@ void SpreadGrid::connectModel()
     });
     // A width dragged by the user is kept like one set by program. Hiding and showing a column
     // resize its section too; those are no new widths.
-    connect(m_view->horizontalHeader(), &QHeaderView::sectionResized, this, [this](int section, int, int size) {
+    auto *colHeader = static_cast<GridHeader *>(m_view->horizontalHeader());
+    connect(colHeader, &QHeaderView::sectionResized, this, [this, colHeader](int section, int, int size) {
         const int col = section + Grid::FirstDataCol;
-        if (!m_cells->colHidden(col) && size != colWidth(col))
+        if (!m_cells->colHidden(col) && size != colWidth(col)) {
             m_cells->setColWidth(col, size);
+            if (colHeader->resizingByMouse())
+                emit colWidthDragged(col, size);
+        }
     });
 }
 

@@ -112,6 +112,8 @@ signals:
     void cellClicked(int row, int col);
     void keyDown(int key, Qt::KeyboardModifiers modifiers);
     void currentCellChanged(int row, int col);
+    // The user dragged a column's edge to a new width.
+    void colWidthDragged(int col, int width);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

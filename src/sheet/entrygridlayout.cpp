@@ -7,6 +7,7 @@
 #include "grid/spreadgrid.h"
 
 #include <QColor>
+#include <QStringList>
 
 namespace {
 
@@ -28,6 +29,9 @@ const int hiddenWhenBuilt[] = {EntryCol::ItemID, EntryCol::SecUnit, EntryCol::Yt
 const QColor HeaderShade(174, 198, 230);
 const QColor GridLines(162, 162, 162);
 const QColor Selection(10, 36, 106);
+
+// A wider column is a slip of the mouse or a broken settings file, not a choice.
+constexpr int MaxRememberedWidth = 2000;
 
 int defaultWidth(int col)
 {
@@ -110,6 +114,31 @@ void restoreWidths(SpreadGrid &grid)
 {
     for (int col = 1; col < EntryCol::Count; ++col)
         grid.cells()->setColWidth(col, defaultWidth(col));
+}
+
+QString widthsText(const SpreadGrid &grid)
+{
+    QStringList widths;
+    for (int col = 1; col < EntryCol::Count; ++col)
+        widths << QString::number(grid.cells()->colWidth(col));
+    return widths.join(QLatin1Char(','));
+}
+
+void applyWidths(SpreadGrid &grid, const QString &text)
+{
+    const QStringList parts = text.split(QLatin1Char(','));
+    if (parts.size() != EntryCol::Count - 1)
+        return;
+    QList<int> widths;
+    for (const QString &part : parts) {
+        bool ok = false;
+        const int width = part.toInt(&ok);
+        if (!ok || width < 0 || width > MaxRememberedWidth)
+            return;
+        widths << width;
+    }
+    for (int col = 1; col < EntryCol::Count; ++col)
+        grid.cells()->setColWidth(col, widths.at(col - 1));
 }
 
 } // namespace EntryGridLayout

@@ -63,5 +63,10 @@ LUMOICINITIAL_EXPORT void setItemHeaders(SpreadGrid &grid, bool itemRows);
 LUMOICINITIAL_EXPORT void showAmounts(SpreadGrid &grid, bool keepsAmounts);
 // Puts every column back to its default width.
 LUMOICINITIAL_EXPORT void restoreWidths(SpreadGrid &grid);
+// The widths of columns 1 to the last as "w1,w2,...", as the user left them, to be remembered.
+LUMOICINITIAL_EXPORT QString widthsText(const SpreadGrid &grid);
+// Sets the widths remembered by widthsText; a text that does not fit the columns (another
+// version's layout, a hand-edited file) changes nothing.
+LUMOICINITIAL_EXPORT void applyWidths(SpreadGrid &grid, const QString &text);
 
 } // namespace EntryGridLayout

@@ -15,6 +15,7 @@
 #include "frame/settingsstore.h"
 #include "frame/statuspanels.h"
 
+#include "grid/gridheader.h"
 #include "grid/spreadgrid.h"
 
 #include <QAction>
@@ -179,6 +180,14 @@ private slots:
             QVERIFY2(control.barList()->item(QLatin1String(key)), key);
             QCOMPARE(control.barList()->item(QLatin1String(key))->menu, QString::fromUtf8(menu));
         }
+        // A command with two published keys is drawn once.
+        QSet<QString> drawn;
+        for (const BarList::Item &item : control.barList()->items()) {
+            if (item.kind != BarList::ItemKind::MenuItem || !item.drawn)
+                continue;
+            QVERIFY2(!drawn.contains(item.menu + item.caption), qPrintable(item.caption));
+            drawn.insert(item.menu + item.caption);
+        }
     }
 
     void everyKeyReachesItsProcedure_data()
@@ -233,9 +242,24 @@ private slots:
         case Effect::Reloads:
             SqlRun::exec(scratch.db(), QStringLiteral("UPDATE ICInvInitial SET FBegDiff=99 WHERE FItemID=?"), {Screw});
             break;
-        case Effect::RestoresWidths:
-            grid.setColWidth(EntryCol::Name, defaultWidth + 77);
+        case Effect::RestoresWidths: {
+            // Dragged by the header's edge, as a person does; the next control opened remembers it.
+            GridHeader *columns = nullptr;
+            for (QHeaderView *header : grid.findChildren<QHeaderView *>())
+                columns = columns ? columns : dynamic_cast<GridHeader *>(header);
+            QVERIFY(columns);
+            const int section = EntryCol::Name - Grid::FirstDataCol;
+            const QPoint edge(columns->sectionViewportPosition(section) + columns->sectionSize(section) - 1,
+                              columns->height() / 2);
+            const QPoint dropped = edge + QPoint(77, 0);
+            QTest::mousePress(columns->viewport(), Qt::LeftButton, {}, edge);
+            QMouseEvent drag(QEvent::MouseMove, dropped, columns->viewport()->mapToGlobal(dropped), Qt::NoButton,
+                             Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(columns->viewport(), &drag);
+            QTest::mouseRelease(columns->viewport(), Qt::LeftButton, {}, dropped);
+            QCOMPARE(showAtShelfB(scratch)->findChild<ICInitCtl *>()->grid()->colWidth(EntryCol::Name), defaultWidth + 77);
             break;
+        }
         default:
             break;
         }
@@ -270,6 +294,7 @@ private slots:
             break;
         case Effect::RestoresWidths:
             QCOMPARE(grid.colWidth(EntryCol::Name), defaultWidth);
+            QCOMPARE(showAtShelfB(scratch)->findChild<ICInitCtl *>()->grid()->colWidth(EntryCol::Name), defaultWidth);
             break;
         case Effect::TogglesTree:
             QCOMPARE(control->tree()->isVisibleTo(control), !before.treeShown);
