@@ -59,6 +59,8 @@ public:
     bool hasChanges() const;
     bool saved() const { return m_saved; }
     void setSaved(bool saved) { m_saved = saved; }
+    // Why the line the balance test marked does not balance; empty for a line without a mark.
+    QString balanceNote(int row) const { return m_sheet.balanceNote(row); }
 
     // The toolbar's commands.
     int addLine();

@@ -263,6 +263,25 @@ void BatchSheet::markUnbalanced(int row, const QList<FigureKind> &kinds)
     }
 }
 
+QString BatchSheet::balanceNote(int row) const
+{
+    if (!isLine(row))
+        return {};
+    QStringList kinds;
+    for (FigureKind kind : {FigureKind::Quantity, FigureKind::SecQuantity, FigureKind::Amount, FigureKind::Difference}) {
+        const std::array<int, 4> c = LineBalance::columns(kind);
+        if (m_cells.cellStyle(row, c[YearOpeningGroup]).backColor() != UnbalancedColor)
+            continue;
+        const auto shown = [&](int group) {
+            const QString text = m_cells.text(row, c[group]);
+            return text.isEmpty() ? QStringLiteral("0") : text;
+        };
+        kinds << BatchMsg::KindUnbalanced.arg(BatchMsg::KindNames.at(int(kind)), shown(YearOpeningGroup),
+                                              shown(PeriodOpeningGroup), shown(SentGroup), shown(ReceivedGroup));
+    }
+    return kinds.isEmpty() ? QString() : BatchMsg::LineUnbalanced.arg(row).arg(kinds.join(QStringLiteral("；")));
+}
+
 void BatchSheet::openInputLine()
 {
     if (m_inputOpen)

@@ -68,6 +68,9 @@ public:
     void refreshTotals();
     // Paints the columns of the unbalanced kinds of the line and clears marks of the others.
     void markUnbalanced(int row, const QList<FigureKind> &kinds);
+    // In words, why the marked line does not balance, with its figures as shown; empty when the
+    // line carries no mark.
+    QString balanceNote(int row) const;
 
     void openInputLine();
     void closeInputLine();

@@ -16,6 +16,13 @@ inline const QString ModeQty = QStringLiteral("数量");
 inline const QString ModeAmount = QStringLiteral("数量/金额");
 
 inline const QString TotalsLabel = QStringLiteral("合计");
+
+// The words of a line-balance mark: which line, and per unbalanced kind the four figures that
+// must agree. Kind names in the order of FigureKind.
+inline const QString LineUnbalanced = QStringLiteral("第%1行不平衡：%2");
+inline const QString KindUnbalanced = QStringLiteral("%1 年初 %2 ≠ 期初 %3 + 本年发出 %4 − 本年收入 %5");
+inline const QStringList KindNames{QStringLiteral("数量"), QStringLiteral("辅助数量"), QStringLiteral("金额"),
+                                   QStringLiteral("差异")};
 inline const QString ApportionLabel = QStringLiteral("分摊总额");
 
 // Batch number typed into a line.

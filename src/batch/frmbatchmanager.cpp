@@ -52,6 +52,13 @@ frmBatchManager::frmBatchManager(QWidget *parent)
     bold.setBold(true);
     m_itemLabel->setFont(bold);
 
+    // What the balance test found on the current line, in words beside its coloured cells.
+    m_balanceNote = new QLabel(this);
+    m_balanceNote->setObjectName(QStringLiteral("lblBalance"));
+    m_balanceNote->setStyleSheet(QStringLiteral("color: #a00000"));
+    m_balanceNote->hide();
+    connect(m_grid, &SpreadGrid::currentCellChanged, this, [this](int row) { showBalanceNote(row); });
+
     m_tabs = new QTabBar(this);
     m_tabs->setObjectName(QStringLiteral("sstBatMan"));
     m_tabs->addTab(QString());
@@ -76,6 +83,7 @@ frmBatchManager::frmBatchManager(QWidget *parent)
     layout->addWidget(m_itemLabel);
     layout->addWidget(m_tabs);
     layout->addWidget(m_grid, 1);
+    layout->addWidget(m_balanceNote);
     layout->addWidget(m_progress);
     resize(DialogWidth, DialogHeight);
 
@@ -152,6 +160,8 @@ void frmBatchManager::runButton(const QString &key)
         m_session->save();
     else if (key == BatchKey::Exit)
         closeAfterPrompt();
+    // A test, a save or a deleted line may have marked or unmarked the line the cursor is on.
+    showBalanceNote(m_grid->row());
 }
 
 void frmBatchManager::reject()
@@ -169,6 +179,13 @@ void frmBatchManager::focusCell(int row, int col)
 {
     m_grid->select(row, col);
     m_grid->setFocus();
+}
+
+void frmBatchManager::showBalanceNote(int row)
+{
+    const QString note = m_session->balanceNote(row);
+    m_balanceNote->setText(note);
+    m_balanceNote->setVisible(!note.isEmpty());
 }
 
 void frmBatchManager::showProgress(int value, int maximum)

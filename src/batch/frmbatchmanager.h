@@ -99,12 +99,14 @@ private:
     void closeAfterPrompt();
     void focusCell(int row, int col);
     void showProgress(int value, int maximum);
+    void showBalanceNote(int row);
 
     SpreadGrid *m_grid = nullptr;
     BatchSession *m_session = nullptr;
     QToolBar *m_toolBar = nullptr;
     QTabBar *m_tabs = nullptr;
     QLabel *m_itemLabel = nullptr;
+    QLabel *m_balanceNote = nullptr;
     QProgressBar *m_progress = nullptr;
     QHash<QString, QAction *> m_buttons;
 };

@@ -21,6 +21,7 @@
 #include <QSqlQuery>
 #include <QProgressBar>
 #include <QTabBar>
+#include <QLabel>
 #include <QTest>
 
 namespace {
@@ -373,12 +374,16 @@ private slots:
             QCOMPARE(grid->cellBackColor(2, col), plain);
         }
         QCOMPARE(grid->row(), 1);
+        auto *note = m_dialog->findChild<QLabel *>(QStringLiteral("lblBalance"));
+        QVERIFY(note && !note->isHidden());
+        QVERIFY2(note->text().startsWith(QStringLiteral("第1行不平衡：数量 年初 -3")), qPrintable(note->text()));
 
-        // Sending -1 makes it add up; the marks go.
+        // Sending -1 makes it add up; the marks and their words go.
         QVERIFY(grid->editCell(1, SendQty, -1));
         QVERIFY(m_dialog->pressButton(QStringLiteral("Balance")));
         for (int col : {YtdQty, RecvQty, SendQty, BegQty})
             QCOMPARE(grid->cellBackColor(1, col), plain);
+        QVERIFY(note->isHidden());
         // The test itself writes nothing.
         QCOMPARE(storedLines(2, ComponentKit), before);
     }
