@@ -122,6 +122,7 @@ void EntrySheet::loadPage(int pageIndex, int pageSize)
     ItemRows::fillItemRows(cells(), *rows, m_useShortNumber, qtyDecimal(), m_colors, m_infos);
     m_kinds = QVector<RowKind>(cells().rows(), RowKind::Item);
     m_kinds[0] = RowKind::Header;
+    m_keptPageFigures = pageFigures();
     refreshTotals();
 }
 
@@ -255,6 +256,8 @@ void EntrySheet::refetchTotals()
     // Several pages are summed by the service; after a save its sums are fetched again.
     if (m_totalPages > 1 && m_pageIndex == m_totalPages)
         fetchPage(m_pageIndex);
+    // Saved: the kept totals now hold what the grid shows.
+    m_keptPageFigures = pageFigures();
     refreshTotals();
 }
 
@@ -267,6 +270,7 @@ bool EntrySheet::refreshItemRow(int row)
     if (expanded)
         toggleBatchLines(row);
     const std::unique_ptr<Recordset> rows = fetchPage(m_pageIndex);
+    const Figures before = rowFigures(row);
     bool found = false;
     for (int record = 0; record < rows->RecordCount() && !found; ++record) {
         if (rows->value(record, QStringLiteral("FFieldCompose")).toString() != key)
@@ -277,8 +281,35 @@ bool EntrySheet::refreshItemRow(int row)
     }
     if (found && expanded)
         toggleBatchLines(row);
+    // The dialog saved this row's lines: the kept totals hold its new figures.
+    const Figures after = rowFigures(row);
+    for (size_t col = 0; col < after.size(); ++col)
+        m_keptPageFigures[col] += after[col] - before[col];
     refreshTotals();
     return found;
+}
+
+EntrySheet::Figures EntrySheet::rowFigures(int row) const
+{
+    Figures figures{};
+    for (const auto &g : ItemRows::groups()) {
+        for (int col : {g.quantity, g.amount, g.difference})
+            figures[col] = cells().number(row, col);
+    }
+    return figures;
+}
+
+EntrySheet::Figures EntrySheet::pageFigures() const
+{
+    Figures sums{};
+    for (int row = 1; row < m_kinds.size(); ++row) {
+        if (m_kinds.at(row) != RowKind::Item && m_kinds.at(row) != RowKind::NewItem)
+            continue;
+        const Figures figures = rowFigures(row);
+        for (size_t col = 0; col < sums.size(); ++col)
+            sums[col] += figures[col];
+    }
+    return sums;
 }
 
 void EntrySheet::refreshTotals()
@@ -286,29 +317,20 @@ void EntrySheet::refreshTotals()
     removeTotalsRow();
     if (m_totalPages != 0 && m_pageIndex != m_totalPages)
         return;
-    double sums[EntryCol::Count] = {};
     const auto &groups = ItemRows::groups();
     // The service gives the precision with the sums: the records' own, not the account set's.
     const bool hasTotals = m_totals && m_totals->RecordCount() > 0;
     const QVariant totalsDecimals = hasTotals ? m_totals->value(0, QStringLiteral("FQtyDecimal")) : QVariant();
-    if (m_totalPages <= 1) {
-        for (int row = 1; row < m_kinds.size(); ++row) {
-            if (m_kinds.at(row) != RowKind::Item && m_kinds.at(row) != RowKind::NewItem)
-                continue;
-            for (const auto &g : groups) {
-                for (int col : {g.quantity, g.amount, g.difference})
-                    sums[col] += cells().number(row, col);
-            }
-        }
-    } else if (hasTotals) {
+    Figures sums = pageFigures();
+    if (m_totalPages > 1 && hasTotals) {
         static const char *const fields[4][3] = {{"FInitYtdBegQty", "FInitYtdBegBal", "FInitYtdBegDiff"},
                                                  {"FInitYtdReceive", "FInitYtdDebit", "FInitYtdReceiveDiff"},
                                                  {"FInitYtdSend", "FInitYtdCredit", "FInitYtdSendDiff"},
                                                  {"FInitBegQty", "FInitBegBal", "FInitBegDiff"}};
         for (int i = 0; i < 4; ++i) {
-            sums[groups[i].quantity] = m_totals->value(0, QLatin1String(fields[i][0])).toDouble();
-            sums[groups[i].amount] = m_totals->value(0, QLatin1String(fields[i][1])).toDouble();
-            sums[groups[i].difference] = m_totals->value(0, QLatin1String(fields[i][2])).toDouble();
+            const int cols[3] = {groups[i].quantity, groups[i].amount, groups[i].difference};
+            for (int f = 0; f < 3; ++f)
+                sums[cols[f]] += m_totals->value(0, QLatin1String(fields[i][f])).toDouble() - m_keptPageFigures[cols[f]];
         }
     }
     const int row = cells().addRow();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sheet/entrygridlayout.h"
 #include "sheet/iteminfo.h"
 #include "sheet/itemrows.h"
 #include "frame/lumoicinitial_global.h"
@@ -9,6 +10,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include <array>
 #include <memory>
 
 class CellModel;
@@ -99,6 +101,10 @@ private:
     // Fetches page `pageIndex` of the place: answers its rows, keeps its totals and page counts.
     std::unique_ptr<Recordset> fetchPage(int pageIndex);
     void removeTotalsRow();
+    using Figures = std::array<double, EntryCol::Count>;
+    // The summed figures of the grid's item rows, or of one row.
+    Figures pageFigures() const;
+    Figures rowFigures(int row) const;
 
     SpreadGrid &m_grid;
     QPointer<CellModel> m_model; // the grid may go first when the control closes
@@ -112,6 +118,9 @@ private:
     RowColors m_colors;
     QHash<int, ItemInfo> m_infos;
     std::unique_ptr<Recordset> m_totals;   // over the whole place and filter
+    // What the kept totals hold of the rows in the grid: the page as loaded or last saved. The
+    // "总计" row of a place of several pages is the kept totals with the page's edits since.
+    Figures m_keptPageFigures{};
     QHash<QString, int> m_expanded;        // item row key -> batch lines inserted under it
     // The kind of every grid row, kept in step with every insert and removal the sheet makes.
     enum class RowKind : quint8 { Header, Item, NewItem, BatchLine, Totals };

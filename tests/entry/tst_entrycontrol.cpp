@@ -623,6 +623,10 @@ private slots:
         }
         // The secondary quantities are not summed.
         QCOMPARE(grid().TextMatrix(row, EntryCol::BegAuxQty), QString());
+        // A figure typed on the last page moves the place's total before any save.
+        const int begBal = columns.indexOf(EntryCol::BegBal);
+        QVERIFY(grid().editCell(1, EntryCol::BegBal, grid().number(1, EntryCol::BegBal) + 100));
+        QCOMPARE(grid().number(grid().rows() - 1, EntryCol::BegBal), sums.at(begBal) + 100);
 
         // A row deleted and saved on the last page leaves the place's sums at once.
         QVERIFY(grid().select(1, EntryCol::Number));
