@@ -1,0 +1,139 @@
+#include "grid/edithistory.h"
+
+#include <algorithm>
+
+void EditHistory::beginStep()
+{
+    ++m_depth;
+}
+
+void EditHistory::endStep()
+{
+    if (m_depth == 0 || --m_depth > 0)
+        return;
+    Step step;
+    for (const Change &change : std::as_const(m_open)) {
+        if (!change.before.sameContent(change.after))
+            step.append(change);
+    }
+    m_open.clear();
+    m_openIndex.clear();
+    m_newRows.clear();
+    if (step.isEmpty())
+        return;
+    m_undo.append(step);
+    m_redo.clear();
+}
+
+void EditHistory::record(int row, int col, const Cell &before, const Cell &after)
+{
+    if (m_depth == 0 || isNewRow(row))
+        return;
+    const auto found = m_openIndex.constFind(key(row, col));
+    if (found != m_openIndex.cend()) {
+        m_open[*found].after = after;
+        return;
+    }
+    m_openIndex.insert(key(row, col), m_open.size());
+    m_open.append({row, col, before, after});
+}
+
+EditHistory::Step EditHistory::takeSince(qsizetype mark)
+{
+    Step taken = m_open.mid(mark);
+    m_open.resize(std::min(mark, m_open.size()));
+    for (const Change &change : std::as_const(taken))
+        m_openIndex.remove(key(change.row, change.col));
+    return taken;
+}
+
+bool EditHistory::isNewRow(int row) const
+{
+    return std::any_of(m_newRows.cbegin(), m_newRows.cend(),
+                       [row](const auto &range) { return row >= range.first && row < range.first + range.second; });
+}
+
+namespace {
+
+// Moves the kept rows at or after `first` by `delta`; with a negative delta the rows removed,
+// first to first - delta - 1, lose their changes.
+void shiftRows(EditHistory::Step &step, int first, int delta)
+{
+    step.removeIf([&](const EditHistory::Change &c) { return delta < 0 && c.row >= first && c.row < first - delta; });
+    for (EditHistory::Change &change : step) {
+        if (change.row >= first)
+            change.row += delta;
+    }
+}
+
+} // namespace
+
+void EditHistory::rowsInserted(int first, int count)
+{
+    for (QList<Step> *side : {&m_undo, &m_redo}) {
+        for (Step &step : *side)
+            shiftRows(step, first, count);
+    }
+    shiftRows(m_open, first, count);
+    for (auto &range : m_newRows) {
+        if (range.first >= first)
+            range.first += count;
+        else if (first < range.first + range.second)
+            range.second += count;
+    }
+    if (m_depth > 0)
+        m_newRows.append({first, count});
+    reindex();
+}
+
+void EditHistory::rowsRemoved(int first, int count)
+{
+    for (QList<Step> *side : {&m_undo, &m_redo}) {
+        for (Step &step : *side)
+            shiftRows(step, first, -count);
+        side->removeIf([](const Step &step) { return step.isEmpty(); });
+    }
+    shiftRows(m_open, first, -count);
+    const int end = first + count;
+    for (auto &range : m_newRows) {
+        const int rangeEnd = range.first + range.second;
+        const int kept = std::max(0, std::min(rangeEnd, first) - range.first) + std::max(0, rangeEnd - std::max(range.first, end));
+        range.first = range.first < first ? range.first : std::max(first, range.first - count);
+        range.second = kept;
+    }
+    reindex();
+}
+
+void EditHistory::reindex()
+{
+    m_openIndex.clear();
+    for (qsizetype i = 0; i < m_open.size(); ++i)
+        m_openIndex.insert(key(m_open.at(i).row, m_open.at(i).col), i);
+}
+
+EditHistory::Step EditHistory::takeUndo()
+{
+    if (m_undo.isEmpty())
+        return {};
+    Step step = m_undo.takeLast();
+    m_redo.append(step);
+    return step;
+}
+
+EditHistory::Step EditHistory::takeRedo()
+{
+    if (m_redo.isEmpty())
+        return {};
+    Step step = m_redo.takeLast();
+    m_undo.append(step);
+    return step;
+}
+
+void EditHistory::clear()
+{
+    m_undo.clear();
+    m_redo.clear();
+    m_open.clear();
+    m_openIndex.clear();
+    m_newRows.clear();
+}
