@@ -68,7 +68,7 @@ Stroke stroke(const QString &spec)
         else if (modifier == QLatin1String("alt"))
             modifiers |= Qt::AltModifier;
         else
-            throw std::invalid_argument(QStringLiteral("not a modifier: %1 in {%2}").arg(parts.at(i), spec).toStdString());
+            throw std::invalid_argument(QStringLiteral("不是修饰键：%1（在{%2}中）").arg(parts.at(i), spec).toStdString());
     }
     const auto named = namedKeys().constFind(name.toLower());
     Stroke out;
@@ -77,7 +77,7 @@ Stroke stroke(const QString &spec)
     else if (name.size() == 1)
         out = character(name.at(0));
     else
-        throw std::invalid_argument(QStringLiteral("not a key: {%1}").arg(spec).toStdString());
+        throw std::invalid_argument(QStringLiteral("不是按键：{%1}").arg(spec).toStdString());
     out.modifiers = modifiers;
     // A key held with Ctrl or Alt types nothing.
     if (modifiers & (Qt::ControlModifier | Qt::AltModifier))
@@ -98,7 +98,7 @@ QList<Stroke> parse(const QString &keys)
         // "{{}" and "{}}" name the braces themselves.
         const qsizetype end = keys.indexOf(QLatin1Char('}'), i + 2);
         if (end < 0)
-            throw std::invalid_argument(QStringLiteral("no closing brace after: %1").arg(keys.mid(i)).toStdString());
+            throw std::invalid_argument(QStringLiteral("缺少右括号：%1").arg(keys.mid(i)).toStdString());
         out.append(stroke(keys.mid(i + 1, end - i - 1)));
         i = end;
     }

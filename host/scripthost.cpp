@@ -302,14 +302,14 @@ void ScriptHost::keys(const QJSValue &target, const QString &keys)
     try {
         strokes = KeyScript::parse(keys);
     } catch (const std::invalid_argument &error) {
-        raise(QStringLiteral("host.keys: %1").arg(QString::fromStdString(error.what())));
+        raise(QStringLiteral("按键写法不对：%1").arg(QString::fromStdString(error.what())));
         return;
     }
     QPointer<QWidget> widget;
     if (!target.isNull() && !target.isUndefined()) {
         widget = qobject_cast<QWidget *>(objectOf(target));
         if (!widget) {
-            raise(QStringLiteral("host.keys: the target is not a widget"));
+            raise(QStringLiteral("按键的对象不是窗口部件：%1").arg(keys));
             return;
         }
         // A widget given the keys takes the focus first, as a person clicks before typing.
@@ -319,7 +319,7 @@ void ScriptHost::keys(const QJSValue &target, const QString &keys)
     for (const KeyScript::Stroke &stroke : std::as_const(strokes)) {
         QWidget *receiver = keyReceiver(widget);
         if (!receiver) {
-            raise(QStringLiteral("host.keys: no widget has the focus"));
+            raise(QStringLiteral("没有窗口部件有焦点，按键无处可去：%1").arg(keys));
             return;
         }
         QTest::sendKeyEvent(QTest::Press, receiver, stroke.key, stroke.text, stroke.modifiers);

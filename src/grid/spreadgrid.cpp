@@ -523,8 +523,10 @@ void SpreadGrid::copy()
     const QItemSelection selection = m_view->selectionModel()->selection();
     if (selection.isEmpty())
         return;
-    QItemSelectionRange box = selection.first();
-    int top = box.top(), left = box.left(), bottom = box.bottom(), right = box.right();
+    int top = selection.first().top();
+    int left = selection.first().left();
+    int bottom = selection.first().bottom();
+    int right = selection.first().right();
     for (const QItemSelectionRange &range : selection) {
         top = std::min(top, range.top());
         left = std::min(left, range.left());

@@ -90,5 +90,17 @@ check(grid.TextMatrix(2, Col.YtdBegQty) === "12.00" && grid.TextMatrix(2, Col.Yt
 const said = host.messages().map(m => m.text).join(" / ");
 check(said.indexOf("abc") >= 0 && said.indexOf("第2行") >= 0 && said.indexOf("年初金额") >= 0, "the message names the cell: " + said);
 host.clearMessages();
+
+// The mark column unfolds and folds by the keyboard; the page keys page as the page bar does.
 host.answer("No");
+tree.clickNode(nodeByText(tree, "A区货架"));
+grid.select(1, 1);
+host.keys(grid, "+");
+expectEqual(grid.TextMatrix(1, 1), "-", "+ unfolds the batch lines");
+host.keys(grid, "{Space}");
+expectEqual(grid.TextMatrix(1, 1), "+", "Space folds them again");
+control.mlngPerPageSize = 3;
+tree.clickNode(nodeByText(tree, "B区货架"));
+host.keys(grid, "{Ctrl+PgDn}{PgUp}");
+expectEqual(control.mlngPageIndex + "/" + control.mTotalPages, "2/3", "Ctrl+PgDn goes to the last page, PgUp back one");
 host.exit(0);
