@@ -154,8 +154,8 @@ void frmBatchManager::runButton(const QString &key)
         m_session->balanceTest();
     else if (key == BatchKey::Delete)
         m_session->deleteLine(m_grid->row());
-    else if (key == BatchKey::Save)
-        m_session->save();
+    else if (key == BatchKey::Save && m_session->save())
+        m_grid->clearHistory();
     else if (key == BatchKey::Exit)
         closeAfterPrompt();
 }

@@ -478,7 +478,7 @@ bool SpreadGrid::handleKey(const QKeyEvent *event)
     } else if (event->matches(QKeySequence::Redo) || (event->key() == Qt::Key_Y && modifiers == Qt::ControlModifier)) {
         redo();
     } else if (plain(Qt::Key_Delete)) {
-        clearSelection();
+        deleteSelection();
     } else if (plain(Qt::Key_Return) || plain(Qt::Key_Enter)) {
         moveOn(m_enterMovesRight ? GridMoves::Direction::Right : GridMoves::Direction::Down);
     } else if (plain(Qt::Key_Tab)) {
@@ -581,7 +581,7 @@ void SpreadGrid::pasteText(const QString &text)
                                      QItemSelectionModel::ClearAndSelect);
 }
 
-void SpreadGrid::clearSelection()
+void SpreadGrid::deleteSelection()
 {
     if (isEditing())
         return;
@@ -639,7 +639,7 @@ void SpreadGrid::showContextMenu(const QPoint &pos)
     menu.addAction(GridText::Copy, QKeySequence::Copy, this, &SpreadGrid::copy)->setEnabled(anySelected);
     menu.addAction(GridText::Paste, QKeySequence::Paste, this, &SpreadGrid::paste)
         ->setEnabled(row() >= Grid::FirstDataRow && !QApplication::clipboard()->text().isEmpty());
-    menu.addAction(GridText::Delete, QKeySequence::Delete, this, &SpreadGrid::clearSelection)->setEnabled(anySelected);
+    menu.addAction(GridText::Delete, QKeySequence::Delete, this, &SpreadGrid::deleteSelection)->setEnabled(anySelected);
     menu.addSeparator();
     menu.addAction(GridText::Undo, QKeySequence::Undo, this, &SpreadGrid::undo)->setEnabled(canUndo());
     menu.addAction(GridText::Redo, QKeySequence(Qt::CTRL | Qt::Key_Y), this, &SpreadGrid::redo)->setEnabled(canRedo());

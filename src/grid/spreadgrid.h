@@ -97,7 +97,7 @@ public:
     Q_INVOKABLE void paste();
     Q_INVOKABLE void pasteText(const QString &text);
     // Empties the editable cells of the selection; each one as if a person emptied it.
-    Q_INVOKABLE void clearSelection();
+    Q_INVOKABLE void deleteSelection();
     Q_INVOKABLE bool canUndo() const;
     Q_INVOKABLE bool canRedo() const;
     Q_INVOKABLE bool undo();
