@@ -1,6 +1,7 @@
 #include "grid/edithistory.h"
 
 #include <algorithm>
+#include <utility>
 
 void EditHistory::beginStep()
 {
@@ -11,39 +12,25 @@ void EditHistory::endStep()
 {
     if (m_depth == 0 || --m_depth > 0)
         return;
-    Step step;
-    for (const Change &change : std::as_const(m_open)) {
-        if (!change.before.sameContent(change.after))
-            step.append(change);
-    }
-    m_open.clear();
-    m_openIndex.clear();
     m_newRows.clear();
-    if (step.isEmpty())
+    if (m_open.isEmpty())
         return;
-    m_undo.append(step);
+    m_undo.append(std::exchange(m_open, {}));
     m_redo.clear();
 }
 
 void EditHistory::record(int row, int col, const Cell &before, const Cell &after)
 {
-    if (m_depth == 0 || isNewRow(row))
-        return;
-    const auto found = m_openIndex.constFind(key(row, col));
-    if (found != m_openIndex.cend()) {
-        m_open[*found].after = after;
-        return;
-    }
-    m_openIndex.insert(key(row, col), m_open.size());
-    m_open.append({row, col, before, after});
+    // A cell changed twice keeps both changes: put back in reverse order they end where they
+    // began, and a part taken back (a refused pasted row) leaves the earlier change whole.
+    if (m_depth > 0 && !isNewRow(row) && !before.sameContent(after))
+        m_open.append({row, col, before, after});
 }
 
 EditHistory::Step EditHistory::takeSince(qsizetype mark)
 {
     Step taken = m_open.mid(mark);
     m_open.resize(std::min(mark, m_open.size()));
-    for (const Change &change : std::as_const(taken))
-        m_openIndex.remove(key(change.row, change.col));
     return taken;
 }
 
@@ -83,7 +70,6 @@ void EditHistory::rowsInserted(int first, int count)
     }
     if (m_depth > 0)
         m_newRows.append({first, count});
-    reindex();
 }
 
 void EditHistory::rowsRemoved(int first, int count)
@@ -101,14 +87,6 @@ void EditHistory::rowsRemoved(int first, int count)
         range.first = range.first < first ? range.first : std::max(first, range.first - count);
         range.second = kept;
     }
-    reindex();
-}
-
-void EditHistory::reindex()
-{
-    m_openIndex.clear();
-    for (qsizetype i = 0; i < m_open.size(); ++i)
-        m_openIndex.insert(key(m_open.at(i).row, m_open.at(i).col), i);
 }
 
 EditHistory::Step EditHistory::takeUndo()
@@ -134,6 +112,5 @@ void EditHistory::clear()
     m_undo.clear();
     m_redo.clear();
     m_open.clear();
-    m_openIndex.clear();
     m_newRows.clear();
 }

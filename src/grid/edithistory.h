@@ -2,7 +2,6 @@
 
 #include "grid/cell.h"
 
-#include <QHash>
 #include <QList>
 
 // The edits not yet saved, for undo and redo. One step is everything one edit changed: the cell
@@ -45,14 +44,11 @@ public:
     void clear();
 
 private:
-    static quint64 key(int row, int col) { return (quint64(quint32(row)) << 32) | quint32(col); }
     bool isNewRow(int row) const;
-    void reindex();
 
     QList<Step> m_undo;
     QList<Step> m_redo;
     Step m_open;
-    QHash<quint64, qsizetype> m_openIndex; // cell -> its change in m_open
     QList<std::pair<int, int>> m_newRows;  // first and count of the rows made during the open step
     int m_depth = 0;
 };
