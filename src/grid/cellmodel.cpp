@@ -540,24 +540,23 @@ void CellModel::setEditRule(const EditRule *rule)
 
 // ---- undo and redo -----------------------------------------------------------------------
 
-QList<int> CellModel::undo()
+void CellModel::undo()
 {
-    return putBack(m_history.takeUndo(), true);
+    putBack(m_history.takeUndo(), true);
 }
 
-QList<int> CellModel::redo()
+void CellModel::redo()
 {
-    return putBack(m_history.takeRedo(), false);
+    putBack(m_history.takeRedo(), false);
 }
 
-QList<int> CellModel::takeBackSince(qsizetype mark)
+void CellModel::takeBackSince(qsizetype mark)
 {
-    return putBack(m_history.takeSince(mark), true);
+    putBack(m_history.takeSince(mark), true);
 }
 
-QList<int> CellModel::putBack(const EditHistory::Step &step, bool before)
+void CellModel::putBack(const EditHistory::Step &step, bool before)
 {
-    QList<int> rows;
     beginBulkUpdate();
     for (qsizetype i = 0; i < step.size(); ++i) {
         const EditHistory::Change &change = step.at(before ? step.size() - 1 - i : i);
@@ -568,11 +567,8 @@ QList<int> CellModel::putBack(const EditHistory::Step &step, bool before)
         cell = before ? change.before : change.after;
         cell.style = style;
         cellsChanged({change.row, change.col, change.row, change.col});
-        if (!rows.contains(change.row))
-            rows.append(change.row);
     }
     endBulkUpdate();
-    return rows;
 }
 
 // ---- change notification -----------------------------------------------------------------

@@ -118,12 +118,12 @@ public:
     // several edits into one (a paste) brackets them with history().beginStep() and endStep().
     // Changes made by program outside a step are not kept; a reset empties the history.
     EditHistory &history() { return m_history; }
-    // Puts back the cells of the last step as they were before it (redo: after it); the rows
-    // touched, so that the caller brings up to date what it sums from them.
-    QList<int> undo();
-    QList<int> redo();
+    // Puts back the cells of the last step as they were before it (redo: after it). No edit
+    // event is raised: the caller brings up to date what it sums from the cells.
+    void undo();
+    void redo();
     // Takes back what the open step changed since history().mark() answered `mark`.
-    QList<int> takeBackSince(qsizetype mark);
+    void takeBackSince(qsizetype mark);
 
 signals:
     void beforeEdit(int row, int col);
@@ -161,7 +161,7 @@ private:
     // Stores new content into a cell, keeping its style, and notes it in the open step.
     void store(int row, int col, Cell next);
     // Writes each change's content before (or after) it, the last change first when before.
-    QList<int> putBack(const EditHistory::Step &step, bool before);
+    void putBack(const EditHistory::Step &step, bool before);
 
     CellStore m_store;
     EditHistory m_history;
