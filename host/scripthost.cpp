@@ -2,6 +2,7 @@
 #include "frame/automation/progids.h"
 
 #include "controlframe.h"
+#include "keyscript.h"
 #include "suitewindow.h"
 
 #include "frame/barlist.h"
@@ -10,7 +11,9 @@
 #include "frame/automation/dispatch.h"
 #include "frame/automation/lumoerror.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QPointer>
@@ -21,6 +24,8 @@
 #include <QUrl>
 #include <QJSEngine>
 #include <QPixmap>
+#include <QRegularExpression>
+#include <QTest>
 #include <QTextStream>
 
 #include <cstdio>
@@ -92,6 +97,22 @@ QVariant fromScript(const QJSValue &value)
 QObject *objectOf(const QJSValue &value)
 {
     return fromScript(value).value<QObject *>();
+}
+
+// "是(&Y)" reads 是, "&Yes" reads Yes.
+QString withoutMnemonic(QString text)
+{
+    static const QRegularExpression bracketed(QStringLiteral("\\(&[^)]\\)"));
+    return text.remove(bracketed).remove(QLatin1Char('&'));
+}
+
+// Where the next key goes: the focused widget inside `target`, else `target`.
+QWidget *keyReceiver(QWidget *target)
+{
+    QWidget *focused = target ? target->window()->focusWidget() : QApplication::focusWidget();
+    if (!target)
+        return focused;
+    return focused && (focused == target || target->isAncestorOf(focused)) ? focused : target;
 }
 
 } // namespace
@@ -273,6 +294,82 @@ void ScriptHost::processEvents()
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();
+}
+
+void ScriptHost::keys(const QJSValue &target, const QString &keys)
+{
+    QList<KeyScript::Stroke> strokes;
+    try {
+        strokes = KeyScript::parse(keys);
+    } catch (const std::invalid_argument &error) {
+        raise(QStringLiteral("按键写法不对：%1").arg(QString::fromStdString(error.what())));
+        return;
+    }
+    QPointer<QWidget> widget;
+    if (!target.isNull() && !target.isUndefined()) {
+        widget = qobject_cast<QWidget *>(objectOf(target));
+        if (!widget) {
+            raise(QStringLiteral("按键的对象不是窗口部件：%1").arg(keys));
+            return;
+        }
+        // A widget given the keys takes the focus first, as a person clicks before typing.
+        if (!widget->hasFocus() && !widget->isAncestorOf(widget->window()->focusWidget()))
+            widget->setFocus(Qt::OtherFocusReason);
+    }
+    for (const KeyScript::Stroke &stroke : std::as_const(strokes)) {
+        QWidget *receiver = keyReceiver(widget);
+        if (!receiver) {
+            raise(QStringLiteral("没有窗口部件有焦点，按键无处可去：%1").arg(keys));
+            return;
+        }
+        QTest::sendKeyEvent(QTest::Press, receiver, stroke.key, stroke.text, stroke.modifiers);
+        processEvents();
+        // The press may have closed the receiver (Esc in an editor).
+        if (QWidget *after = keyReceiver(widget))
+            QTest::sendKeyEvent(QTest::Release, after, stroke.key, stroke.text, stroke.modifiers);
+        processEvents();
+    }
+}
+
+QString ScriptHost::clipboard() const
+{
+    return QApplication::clipboard()->text();
+}
+
+void ScriptHost::setClipboard(const QString &text)
+{
+    QApplication::clipboard()->setText(text);
+}
+
+void ScriptHost::showMessageBoxes(bool on)
+{
+    Prompter::install(on ? nullptr : &m_prompter);
+}
+
+QStringList ScriptHost::buttons(const QJSValue &dialog) const
+{
+    QStringList texts;
+    if (QObject *object = objectOf(dialog)) {
+        for (const QAbstractButton *button : object->findChildren<QAbstractButton *>()) {
+            if (button->isVisible())
+                texts.append(withoutMnemonic(button->text()));
+        }
+    }
+    return texts;
+}
+
+bool ScriptHost::clickButton(const QJSValue &dialog, const QString &text)
+{
+    QObject *object = objectOf(dialog);
+    if (!object)
+        return false;
+    for (QAbstractButton *button : object->findChildren<QAbstractButton *>()) {
+        if (button->isVisible() && withoutMnemonic(button->text()) == text) {
+            button->click();
+            return true;
+        }
+    }
+    return false;
 }
 
 void ScriptHost::exit(int code)

@@ -36,6 +36,21 @@ public:
     // The suite's main window, or `target` (a control, a dialog, a child widget) when given.
     Q_INVOKABLE bool screenshot(const QString &path, const QJSValue &target = QJSValue());
     Q_INVOKABLE void processEvents();
+    // Types `keys` (the grammar is in keyscript.h) into `target`, a widget, or into the widget
+    // that has the focus when `target` is null: each key is a real key event delivered through
+    // the application, so that shortcuts, editors and the focus see it as they see a person's;
+    // events are processed after every key. Each key goes to the widget inside `target` that
+    // has the focus (an editor the keys opened), else to `target` itself.
+    Q_INVOKABLE void keys(const QJSValue &target, const QString &keys);
+    Q_INVOKABLE QString clipboard() const;
+    Q_INVOKABLE void setClipboard(const QString &text);
+    // With `on`, message boxes are shown as a person sees them (a dialog handler answers them)
+    // instead of being answered from host.answer().
+    Q_INVOKABLE void showMessageBoxes(bool on);
+    // The texts of a dialog's buttons as they read (without the "&" of their shortcut keys), and
+    // a click on the one that reads `text`; false when there is none.
+    Q_INVOKABLE QStringList buttons(const QJSValue &dialog) const;
+    Q_INVOKABLE bool clickButton(const QJSValue &dialog, const QString &text);
     Q_INVOKABLE void exit(int code);
     Q_INVOKABLE QString propsString() const;
     // The next modal dialog that opens is handed to `handler` once its event loop runs; a dialog

@@ -120,6 +120,12 @@ void BatchSession::setApportioned(bool on)
     emit apportionedChanged(on);
 }
 
+void BatchSession::cellsRestored()
+{
+    apportion();
+    m_sheet.refreshTotals();
+}
+
 bool BatchSession::hasChanges() const
 {
     if (m_changed)

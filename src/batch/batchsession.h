@@ -55,6 +55,10 @@ public:
     bool apportionOffered() const;
     void setApportioned(bool on);
 
+    // After cells were put back without the edit path (undo, redo, a pasted line taken back):
+    // the apportioned amounts and the totals follow the lines as they are now.
+    void cellsRestored();
+
     // Any line added, edited or deleted since the opening or the last save.
     bool hasChanges() const;
     bool saved() const { return m_saved; }

@@ -3,12 +3,14 @@
 #include "batch/batchsession.h"
 #include "batch/batchtexts.h"
 
+#include "frame/errorbox.h"
 #include "frame/logincontext.h"
 #include "frame/settingsstore.h"
 #include "frame/sysparams.h"
 
 #include "frame/automation/dictionary.h"
 
+#include "grid/gridtexts.h"
 #include "grid/spreadgrid.h"
 
 #include <QAction>
@@ -88,6 +90,10 @@ frmBatchManager::frmBatchManager(QWidget *parent)
     resize(DialogWidth, DialogHeight);
 
     connect(m_session, &BatchSession::focusRequested, this, &frmBatchManager::focusCell);
+    connect(m_grid, &SpreadGrid::cellsRestored, m_session, &BatchSession::cellsRestored);
+    connect(m_grid, &SpreadGrid::pasteRefused, this, [this](int row, int col, const QString &value) {
+        tellUser(ResString(GridText::pasteRefused(m_grid->TextMatrix(Grid::HeaderRow, col), row, value)));
+    });
     connect(m_session, &BatchSession::progressChanged, this, &frmBatchManager::showProgress);
     connect(m_session, &BatchSession::apportionedChanged, this, [this](bool on) {
         const QSignalBlocker blocker(m_buttons.value(BatchKey::ShareBal));
@@ -156,8 +162,8 @@ void frmBatchManager::runButton(const QString &key)
         m_session->balanceTest();
     else if (key == BatchKey::Delete)
         m_session->deleteLine(m_grid->row());
-    else if (key == BatchKey::Save)
-        m_session->save();
+    else if (key == BatchKey::Save && m_session->save())
+        m_grid->clearHistory();
     else if (key == BatchKey::Exit)
         closeAfterPrompt();
     // A test, a save or a deleted line may have marked or unmarked the line the cursor is on.

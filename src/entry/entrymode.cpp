@@ -30,6 +30,7 @@
 #include "frame/automation/progids.h"
 
 #include "grid/cellmodel.h"
+#include "grid/gridtexts.h"
 #include "grid/spreadconsole.h"
 #include "grid/spreadgrid.h"
 
@@ -60,6 +61,12 @@ EntryMode::EntryMode(ICInitCtl &ctl)
             m_grid->cancelEdit();
     });
     QObject::connect(m_grid, &SpreadGrid::cellClicked, &ctl, [this](int row, int col) { onCellClicked(row, col); });
+    QObject::connect(m_grid, &SpreadGrid::keyDown, &ctl,
+                     [this](int key, Qt::KeyboardModifiers modifiers) { onKeyDown(key, modifiers); });
+    QObject::connect(m_grid, &SpreadGrid::cellsRestored, &ctl, [this] { onCellsRestored(); });
+    QObject::connect(m_grid, &SpreadGrid::pasteRefused, &ctl, [this](int row, int col, const QString &value) {
+        tellUser(ResString(GridText::pasteRefused(m_grid->TextMatrix(Grid::HeaderRow, col), row, value)));
+    });
     QObject::connect(m_grid, &SpreadGrid::cellButtonClick, &ctl,
                      [this](int row, int col) { onCellButtonClick(row, col); });
     QObject::connect(m_pageBar, &PageBar::pageCommand, &ctl, [this](const QString &key) { PageCommand(key); });
@@ -159,6 +166,7 @@ void EntryMode::loadRows(int pageIndex)
     }
     showPages();
     m_saver->changes().clear();
+    m_grid->clearHistory();
     m_ctl.setMBlsIsNewData(false);
     m_ctl.setFindEnabled();
 }
@@ -280,6 +288,34 @@ void EntryMode::onCellClicked(int row, int col)
     }
 }
 
+void EntryMode::onKeyDown(int key, Qt::KeyboardModifiers modifiers)
+{
+    if (m_grid->isEditing())
+        return;
+    const bool ctrl = modifiers.testFlag(Qt::ControlModifier);
+    if (key == Qt::Key_PageUp || key == Qt::Key_PageDown) {
+        if (key == Qt::Key_PageUp)
+            PageCommand(ctrl ? PageBar::FirstPage : PageBar::PreviousPage);
+        else
+            PageCommand(ctrl ? PageBar::LastPage : PageBar::NextPage);
+        m_grid->consumeKey();
+        return;
+    }
+    const int row = m_grid->row();
+    if (m_grid->col() != EntryCol::Mark || ctrl || modifiers.testFlag(Qt::AltModifier))
+        return;
+    const bool expanded = m_sheet->isExpanded(row);
+    if (key == Qt::Key_Space || (key == Qt::Key_Plus && !expanded) || (key == Qt::Key_Minus && expanded)) {
+        onCellClicked(row, EntryCol::Mark);
+        m_grid->consumeKey();
+    }
+}
+
+void EntryMode::onCellsRestored()
+{
+    m_sheet->refreshTotals();
+}
+
 void EntryMode::onCellButtonClick(int row, int col)
 {
     if (col != EntryCol::Batch || !m_sheet->isItemRow(row))
@@ -354,6 +390,7 @@ bool EntryMode::SaveData()
                     SavedPanel, ResString(Msg::SavedRows.arg(outcome.written))
                                     + (outcome.deleted > 0 ? ResString(Msg::DeletedRows.arg(outcome.deleted)) : QString()));
             setSaveEnabled(false);
+            m_grid->clearHistory();
             m_ctl.setMBlsIsNewData(false);
             m_ctl.RefreshToolbar();
             m_sheet->refetchTotals();

@@ -5,6 +5,7 @@
 #include "sheet/warehousetable.h"
 
 #include <QVector>
+#include <Qt>
 
 #include <memory>
 
@@ -62,6 +63,11 @@ private:
     bool checkEditedGroup(int row, int col, const QVariant &value);
     void onAfterEdit(int row, int col);
     void onCellClicked(int row, int col);
+    // The page keys go through the page bar's commands; Space, "+" and "-" on the mark column
+    // unfold and fold as a click does.
+    void onKeyDown(int key, Qt::KeyboardModifiers modifiers);
+    // Cells put back by undo, redo or a pasted row taken back: the grand total follows them.
+    void onCellsRestored();
     // The batch cell of a batch- or shelf-life-managed item opens the batch dialog.
     void onCellButtonClick(int row, int col);
     void setNodeCommandsVisible(bool visible);

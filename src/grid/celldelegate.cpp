@@ -35,6 +35,7 @@ QWidget *CellDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
     const int col = CellModel::gridCol(index);
     if (m_model->beginEdit(row, col) != Grid::EditResult::Accepted)
         return nullptr;
+    m_lastCommit = Grid::EditResult::Unchanged;
     m_openEditor = factory->create(parent, m_model->cellStyle(row, col));
     return m_openEditor;
 }
@@ -55,7 +56,7 @@ void CellDelegate::setEditorData(QWidget *editor, const QModelIndex &index) cons
 void CellDelegate::setModelData(QWidget *editor, QAbstractItemModel *, const QModelIndex &index) const
 {
     if (const CellEditorFactory *factory = factoryFor(index))
-        m_model->commitEdit(CellModel::gridRow(index), CellModel::gridCol(index), factory->value(editor));
+        m_lastCommit = m_model->commitEdit(CellModel::gridRow(index), CellModel::gridCol(index), factory->value(editor));
 }
 
 QRect CellDelegate::buttonRect(const QRect &cellRect)

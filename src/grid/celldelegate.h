@@ -19,6 +19,8 @@ public:
 
     EditorRegistry &editors() { return m_editors; }
     bool isEditorOpen() const { return !m_openEditor.isNull(); }
+    // How the last editor's commit came out; the cursor moves on after an accepted one only.
+    Grid::EditResult lastCommit() const { return m_lastCommit; }
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
@@ -43,4 +45,5 @@ private:
     EditorRegistry m_editors = EditorRegistry::standard();
     // The view asks for editors through const members; which one is open is bookkeeping.
     mutable QPointer<QWidget> m_openEditor;
+    mutable Grid::EditResult m_lastCommit = Grid::EditResult::Accepted;
 };

@@ -97,9 +97,7 @@ Qt::ItemFlags CellModel::flags(const QModelIndex &index) const
     if (!isOwnIndex(index))
         return Qt::NoItemFlags;
     Qt::ItemFlags out = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    const int row = gridRow(index);
-    const int col = gridCol(index);
-    if (m_store.style(row, col).type() != Grid::CellType::Button && !cellLocked(row, col))
+    if (isEditable(gridRow(index), gridCol(index)))
         out |= Qt::ItemIsEditable;
     return out;
 }
@@ -127,6 +125,11 @@ bool CellModel::isDataCell(int row, int col) const
     return row >= Grid::FirstDataRow && col >= Grid::FirstDataCol && contains(row, col);
 }
 
+bool CellModel::isEditable(int row, int col) const
+{
+    return isDataCell(row, col) && m_store.style(row, col).type() != Grid::CellType::Button && !cellLocked(row, col);
+}
+
 // ---- shape -------------------------------------------------------------------------------
 
 void CellModel::setRows(int rows)
@@ -136,10 +139,12 @@ void CellModel::setRows(int rows)
     if (rows > old) {
         beginInsertRows({}, old - Grid::FirstDataRow, rows - 1 - Grid::FirstDataRow);
         m_store.resize(rows, cols());
+        m_history.rowsInserted(old, rows - old);
         endInsertRows();
     } else if (rows < old) {
         beginRemoveRows({}, rows - Grid::FirstDataRow, old - 1 - Grid::FirstDataRow);
         m_store.resize(rows, cols());
+        m_history.rowsRemoved(rows, old - rows);
         endRemoveRows();
     }
     structureChanged();
@@ -165,6 +170,7 @@ void CellModel::reset(int rows, int cols)
 {
     beginResetModel();
     m_store.reset(std::max(rows, Grid::FirstDataRow), std::max(cols, Grid::FirstDataCol));
+    m_history.clear();
     endResetModel();
     structureChanged();
 }
@@ -182,6 +188,7 @@ void CellModel::insertRowsAt(int row, int count)
     const int first = row - Grid::FirstDataRow;
     beginInsertRows({}, first, first + count - 1);
     m_store.insertRows(row, count);
+    m_history.rowsInserted(row, count);
     endInsertRows();
     structureChanged();
 }
@@ -196,6 +203,7 @@ void CellModel::removeRowsAt(int row, int count)
     const int first = row - Grid::FirstDataRow;
     beginRemoveRows({}, first, first + count - 1);
     m_store.removeRows(row, count);
+    m_history.rowsRemoved(row, count);
     endRemoveRows();
     structureChanged();
 }
@@ -235,34 +243,29 @@ double CellModel::number(int row, int col) const
 
 void CellModel::setText(int row, int col, const QString &text)
 {
-    if (!contains(row, col))
-        return;
-    Cell &cell = m_store.cell(row, col);
-    const quint32 style = cell.style;
-    cell = CellText::fromProgram(text, m_store.style(row, col));
-    cell.style = style;
-    cellsChanged({row, col, row, col});
+    if (contains(row, col))
+        store(row, col, CellText::fromProgram(text, m_store.style(row, col)));
 }
 
 void CellModel::setValue(int row, int col, const QVariant &value)
 {
-    if (!contains(row, col))
-        return;
-    Cell &cell = m_store.cell(row, col);
-    const quint32 style = cell.style;
-    cell = CellText::fromVariant(value, m_store.style(row, col));
-    cell.style = style;
-    cellsChanged({row, col, row, col});
+    if (contains(row, col))
+        store(row, col, CellText::fromVariant(value, m_store.style(row, col)));
 }
 
 void CellModel::setNumber(int row, int col, double value)
 {
-    if (!contains(row, col))
-        return;
+    if (contains(row, col))
+        store(row, col, Cell::fromNumber(value));
+}
+
+void CellModel::store(int row, int col, Cell next)
+{
     Cell &cell = m_store.cell(row, col);
-    cell.kind = Cell::Kind::Number;
-    cell.number = value;
-    cell.text.clear();
+    next.style = cell.style;
+    if (m_history.isRecording())
+        m_history.record(row, col, cell, next);
+    cell = std::move(next);
     cellsChanged({row, col, row, col});
 }
 
@@ -279,9 +282,11 @@ void CellModel::fillBlock(int row1, int col1, int row2, int col2, const QVariant
     for (int r = block.row1; r <= block.row2; ++r) {
         for (int c = block.col1; c <= block.col2; ++c) {
             Cell &cell = m_store.cell(r, c);
-            const quint32 style = cell.style;
-            cell = CellText::fromVariant(value, m_store.style(r, c));
-            cell.style = style;
+            Cell next = CellText::fromVariant(value, m_store.style(r, c));
+            next.style = cell.style;
+            if (m_history.isRecording())
+                m_history.record(r, c, cell, next);
+            cell = std::move(next);
         }
     }
     cellsChanged(block);
@@ -499,11 +504,11 @@ EditResult CellModel::commitEdit(int row, int col, const QVariant &input)
     // A validate-edit handler may have restyled or moved things; store into the cell as it is now.
     if (!isDataCell(row, col))
         return refuse(row, col, EditResult::NotEditable);
-    Cell &cell = m_store.cell(row, col);
-    next.style = cell.style;
-    cell = std::move(next);
-    cellsChanged({row, col, row, col});
+    // What the after-edit handlers write in consequence is undone with the edit.
+    m_history.beginStep();
+    store(row, col, std::move(next));
     emit afterEdit(row, col);
+    m_history.endStep();
     return EditResult::Accepted;
 }
 
@@ -531,6 +536,39 @@ void CellModel::setEditRule(const EditRule *rule)
     m_editRule = rule;
     if (rows() > 0 && cols() > 0)
         emitChanged(wholeGrid());
+}
+
+// ---- undo and redo -----------------------------------------------------------------------
+
+void CellModel::undo()
+{
+    putBack(m_history.takeUndo(), true);
+}
+
+void CellModel::redo()
+{
+    putBack(m_history.takeRedo(), false);
+}
+
+void CellModel::takeBackSince(qsizetype mark)
+{
+    putBack(m_history.takeSince(mark), true);
+}
+
+void CellModel::putBack(const EditHistory::Step &step, bool before)
+{
+    beginBulkUpdate();
+    for (qsizetype i = 0; i < step.size(); ++i) {
+        const EditHistory::Change &change = step.at(before ? step.size() - 1 - i : i);
+        if (!contains(change.row, change.col))
+            continue;
+        Cell &cell = m_store.cell(change.row, change.col);
+        const quint32 style = cell.style;
+        cell = before ? change.before : change.after;
+        cell.style = style;
+        cellsChanged({change.row, change.col, change.row, change.col});
+    }
+    endBulkUpdate();
 }
 
 // ---- change notification -----------------------------------------------------------------

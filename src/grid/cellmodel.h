@@ -2,6 +2,7 @@
 
 #include "grid/cellstore.h"
 #include "grid/cellstyle.h"
+#include "grid/edithistory.h"
 #include "grid/gridtypes.h"
 
 #include <QAbstractTableModel>
@@ -56,6 +57,8 @@ public:
     void removeRowsAt(int row, int count = 1);
     bool contains(int row, int col) const { return m_store.contains(row, col); }
     bool isDataCell(int row, int col) const;
+    // A data cell that is neither a button nor locked: a person may type into it.
+    bool isEditable(int row, int col) const;
 
     // Content. text() is what the grid shows ("1,234.50"), editText() the bare value ("1234.5"),
     // value() the value itself: invalid when empty, else a double, a QDate or a QString.
@@ -111,6 +114,17 @@ public:
     void beginBulkUpdate();
     void endBulkUpdate();
 
+    // Undo and redo of the edits. Every edit is one step of the history; a caller that makes
+    // several edits into one (a paste) brackets them with history().beginStep() and endStep().
+    // Changes made by program outside a step are not kept; a reset empties the history.
+    EditHistory &history() { return m_history; }
+    // Puts back the cells of the last step as they were before it (redo: after it). No edit
+    // event is raised: the caller brings up to date what it sums from the cells.
+    void undo();
+    void redo();
+    // Takes back what the open step changed since history().mark() answered `mark`.
+    void takeBackSince(qsizetype mark);
+
 signals:
     void beforeEdit(int row, int col);
     void validateEdit(int row, int col, const QVariant &newValue);
@@ -144,8 +158,13 @@ private:
     void restyleBlock(const Block &block, const CellStyle &patch, CellStyle::Fields removed);
     Block clampedBlock(int row1, int col1, int row2, int col2) const;
     Block wholeGrid() const { return {0, 0, rows() - 1, cols() - 1}; }
+    // Stores new content into a cell, keeping its style, and notes it in the open step.
+    void store(int row, int col, Cell next);
+    // Writes each change's content before (or after) it, the last change first when before.
+    void putBack(const EditHistory::Step &step, bool before);
 
     CellStore m_store;
+    EditHistory m_history;
     const EditRule *m_editRule = nullptr;
     bool m_cancelRequested = false;
     int m_bulkDepth = 0;

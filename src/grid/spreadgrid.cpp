@@ -2,14 +2,20 @@
 
 #include "grid/celldelegate.h"
 #include "grid/cellmodel.h"
+#include "grid/gridclipboard.h"
 #include "grid/gridheader.h"
+#include "grid/gridtexts.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QTableView>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -20,11 +26,31 @@ QString rgb(const QColor &color)
 
 // A figure typed on a cell that cannot be edited goes nowhere: the view's type-ahead search
 // would move the cursor to a row whose text starts with the first key and type the rest there.
+// Where the cursor goes after Enter or Tab in an editor is the grid's business, not the view's
+// (the view would stop on locked cells).
 class GridView : public QTableView
 {
 public:
-    using QTableView::QTableView;
+    GridView(std::function<void(QAbstractItemDelegate::EndEditHint)> editorLeft, QWidget *parent)
+        : QTableView(parent)
+        , m_editorLeft(std::move(editorLeft))
+    {
+    }
     void keyboardSearch(const QString &) override {}
+
+protected:
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override
+    {
+        const bool movesOn = hint == QAbstractItemDelegate::EditNextItem
+                             || hint == QAbstractItemDelegate::EditPreviousItem
+                             || hint == QAbstractItemDelegate::SubmitModelCache;
+        QTableView::closeEditor(editor, movesOn ? QAbstractItemDelegate::NoHint : hint);
+        if (movesOn)
+            m_editorLeft(hint);
+    }
+
+private:
+    std::function<void(QAbstractItemDelegate::EndEditHint)> m_editorLeft;
 };
 
 } // namespace
@@ -32,7 +58,7 @@ public:
 SpreadGrid::SpreadGrid(QWidget *parent)
     : QWidget(parent)
     , m_cells(new CellModel(this))
-    , m_view(new GridView(this))
+    , m_view(new GridView([this](QAbstractItemDelegate::EndEditHint hint) { editorLeft(hint); }, this))
     , m_delegate(new CellDelegate(m_cells, this))
 {
     auto *layout = new QVBoxLayout(this);
@@ -42,7 +68,8 @@ SpreadGrid::SpreadGrid(QWidget *parent)
 
     m_view->setModel(m_cells);
     m_view->setItemDelegate(m_delegate);
-    m_view->setSelectionMode(QAbstractItemView::SingleSelection);
+    // One rectangle at a time: what is copied is a block, as a spreadsheet program copies it.
+    m_view->setSelectionMode(QAbstractItemView::ContiguousSelection);
     m_view->setSelectionBehavior(QAbstractItemView::SelectItems);
     m_view->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
                             | QAbstractItemView::AnyKeyPressed);
@@ -61,6 +88,8 @@ SpreadGrid::SpreadGrid(QWidget *parent)
     colHeader->setDefaultSectionSize(Grid::DefaultColWidth);
     colHeader->setHighlightSections(false);
 
+    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_view, &QWidget::customContextMenuRequested, this, &SpreadGrid::showContextMenu);
     m_view->installEventFilter(this);
     connectModel();
     applyLook();
@@ -438,8 +467,185 @@ bool SpreadGrid::handleKey(const QKeyEvent *event)
     emit keyDown(event->key(), event->modifiers());
     if (m_keyConsumed)
         return true;
-    // Space presses a button cell's button, as it presses a push button.
-    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier)
+    // A key the open editor left alone (Enter, before its commit) arrives here too; the editor's
+    // closing moves the cursor.
+    if (isEditing())
+        return false;
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    const auto plain = [&](int key) { return event->key() == key && modifiers == Qt::NoModifier; };
+    if (event->matches(QKeySequence::Copy)) {
+        copy();
+    } else if (event->matches(QKeySequence::Paste)) {
+        paste();
+    } else if (event->matches(QKeySequence::Undo)) {
+        undo();
+    } else if (event->matches(QKeySequence::Redo) || (event->key() == Qt::Key_Y && modifiers == Qt::ControlModifier)) {
+        redo();
+    } else if (plain(Qt::Key_Delete)) {
+        deleteSelection();
+    } else if (plain(Qt::Key_Return) || plain(Qt::Key_Enter)) {
+        moveOn(m_enterMovesRight ? GridMoves::Direction::Right : GridMoves::Direction::Down);
+    } else if (plain(Qt::Key_Tab)) {
+        moveOn(GridMoves::Direction::Right);
+    } else if (event->key() == Qt::Key_Backtab || (event->key() == Qt::Key_Tab && modifiers == Qt::ShiftModifier)) {
+        moveOn(GridMoves::Direction::Left);
+    } else if (plain(Qt::Key_Space)) {
+        // Space presses a button cell's button, as it presses a push button.
         return clickCellButton(row(), col());
-    return false;
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void SpreadGrid::editorLeft(QAbstractItemDelegate::EndEditHint hint)
+{
+    // A refused value keeps the cursor on its cell, and a handler that opened another editor
+    // (back on a code that was not found) has put the cursor where it wants it.
+    const Grid::EditResult commit = m_delegate->lastCommit();
+    if ((commit != Grid::EditResult::Accepted && commit != Grid::EditResult::Unchanged) || isEditing())
+        return;
+    if (hint == QAbstractItemDelegate::EditNextItem)
+        moveOn(GridMoves::Direction::Right);
+    else if (hint == QAbstractItemDelegate::EditPreviousItem)
+        moveOn(GridMoves::Direction::Left);
+    else
+        moveOn(m_enterMovesRight ? GridMoves::Direction::Right : GridMoves::Direction::Down);
+}
+
+void SpreadGrid::moveOn(GridMoves::Direction direction)
+{
+    const GridMoves::Position next = GridMoves::nextEditable(*m_cells, row(), col(), direction);
+    if (next.isValid())
+        select(next.row, next.col);
+}
+
+// ---- clipboard and history -----------------------------------------------------------------
+
+void SpreadGrid::copy()
+{
+    const QItemSelection selection = m_view->selectionModel()->selection();
+    if (selection.isEmpty())
+        return;
+    int top = selection.first().top();
+    int left = selection.first().left();
+    int bottom = selection.first().bottom();
+    int right = selection.first().right();
+    for (const QItemSelectionRange &range : selection) {
+        top = std::min(top, range.top());
+        left = std::min(left, range.left());
+        bottom = std::max(bottom, range.bottom());
+        right = std::max(right, range.right());
+    }
+    QApplication::clipboard()->setText(GridClipboard::copyText(*m_cells, top + Grid::FirstDataRow, left + Grid::FirstDataCol,
+                                                               bottom + Grid::FirstDataRow, right + Grid::FirstDataCol));
+}
+
+void SpreadGrid::paste()
+{
+    pasteText(QApplication::clipboard()->text());
+}
+
+void SpreadGrid::pasteText(const QString &text)
+{
+    if (row() < Grid::FirstDataRow || isEditing())
+        return;
+    const int top = row();
+    const int left = col();
+    const QList<QStringList> block = GridClipboard::parse(text);
+    const QList<QList<GridClipboard::Target>> rows = GridClipboard::pasteTargets(*m_cells, top, left, block);
+    bool takenBack = false;
+    m_cells->history().beginStep();
+    for (const QList<GridClipboard::Target> &targets : rows) {
+        const qsizetype mark = m_cells->history().mark();
+        for (const GridClipboard::Target &target : targets) {
+            if (editCell(target.row, target.col, target.text))
+                continue;
+            m_cells->takeBackSince(mark);
+            takenBack = true;
+            emit pasteRefused(target.row, target.col, target.text);
+            break;
+        }
+    }
+    m_cells->history().endStep();
+    if (takenBack)
+        emit cellsRestored();
+    // The block pasted stays selected, as a spreadsheet program shows it.
+    int bottom = top;
+    int right = left;
+    for (const QList<GridClipboard::Target> &targets : rows) {
+        for (const GridClipboard::Target &target : targets) {
+            bottom = std::max(bottom, target.row);
+            right = std::max(right, target.col);
+        }
+    }
+    const QModelIndex current = m_cells->cellIndex(top, left);
+    m_view->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    m_view->selectionModel()->select(QItemSelection(current, m_cells->cellIndex(bottom, right)),
+                                     QItemSelectionModel::ClearAndSelect);
+}
+
+void SpreadGrid::deleteSelection()
+{
+    if (isEditing())
+        return;
+    QModelIndexList indexes = m_view->selectionModel()->selectedIndexes();
+    if (indexes.isEmpty() && m_view->currentIndex().isValid())
+        indexes.append(m_view->currentIndex());
+    std::sort(indexes.begin(), indexes.end());
+    m_cells->history().beginStep();
+    for (const QModelIndex &index : std::as_const(indexes)) {
+        const int r = CellModel::gridRow(index);
+        const int c = CellModel::gridCol(index);
+        if (!m_cells->rowHidden(r) && !m_cells->colHidden(c) && m_cells->isEditable(r, c))
+            editCell(r, c, QVariant());
+    }
+    m_cells->history().endStep();
+}
+
+bool SpreadGrid::canUndo() const
+{
+    return m_cells->history().canUndo();
+}
+
+bool SpreadGrid::canRedo() const
+{
+    return m_cells->history().canRedo();
+}
+
+bool SpreadGrid::undo()
+{
+    if (isEditing() || !canUndo())
+        return false;
+    m_cells->undo();
+    emit cellsRestored();
+    return true;
+}
+
+bool SpreadGrid::redo()
+{
+    if (isEditing() || !canRedo())
+        return false;
+    m_cells->redo();
+    emit cellsRestored();
+    return true;
+}
+
+void SpreadGrid::clearHistory()
+{
+    m_cells->history().clear();
+}
+
+void SpreadGrid::showContextMenu(const QPoint &pos)
+{
+    QMenu menu(this);
+    const bool anySelected = m_view->selectionModel()->hasSelection();
+    menu.addAction(GridText::Copy, QKeySequence::Copy, this, &SpreadGrid::copy)->setEnabled(anySelected);
+    menu.addAction(GridText::Paste, QKeySequence::Paste, this, &SpreadGrid::paste)
+        ->setEnabled(row() >= Grid::FirstDataRow && !QApplication::clipboard()->text().isEmpty());
+    menu.addAction(GridText::Delete, QKeySequence::Delete, this, &SpreadGrid::deleteSelection)->setEnabled(anySelected);
+    menu.addSeparator();
+    menu.addAction(GridText::Undo, QKeySequence::Undo, this, &SpreadGrid::undo)->setEnabled(canUndo());
+    menu.addAction(GridText::Redo, QKeySequence(Qt::CTRL | Qt::Key_Y), this, &SpreadGrid::redo)->setEnabled(canRedo());
+    menu.exec(m_view->viewport()->mapToGlobal(pos));
 }

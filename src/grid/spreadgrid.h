@@ -1,8 +1,10 @@
 #pragma once
 
 #include "grid/cellstyle.h"
+#include "grid/gridmoves.h"
 #include "grid/gridtypes.h"
 
+#include <QAbstractItemDelegate>
 #include <QWidget>
 
 class CellDelegate;
@@ -15,8 +17,15 @@ class QTableView;
 //
 // Events: beforeEdit (a handler may call cancelEdit(); locked cells refuse without asking),
 // validateEdit (likewise, with the parsed new value), afterEdit, editRefused, cellButtonClick,
-// cellClicked, keyDown (a handler may call consumeKey()) and currentCellChanged. editCell() types
-// into a cell through the same path as a person does.
+// cellClicked, keyDown (a handler may call consumeKey()), currentCellChanged, pasteRefused and
+// cellsRestored. editCell() types into a cell through the same path as a person does.
+//
+// The keys are a spreadsheet program's: Enter commits and moves down (or right) to the next cell
+// that may be edited, Tab and Shift+Tab move along over locked cells, Delete clears the selected
+// cells, Shift+arrows and the mouse select a range, Ctrl+C and Ctrl+V copy and paste it as
+// tab-separated text, Ctrl+Z and Ctrl+Y undo and redo; the context menu offers the same. Every
+// paste and delete runs the edit path cell by cell, so each value meets the checks a typed one
+// does.
 class SpreadGrid : public QWidget
 {
     Q_OBJECT
@@ -28,6 +37,7 @@ class SpreadGrid : public QWidget
     Q_PROPERTY(QColor gridLineColor READ gridLineColor WRITE setGridLineColor)
     Q_PROPERTY(QColor selectionColor READ selectionColor WRITE setSelectionColor)
     Q_PROPERTY(QColor selectionTextColor READ selectionTextColor WRITE setSelectionTextColor)
+    Q_PROPERTY(bool enterMovesRight READ enterMovesRight WRITE setEnterMovesRight)
 
 public:
     explicit SpreadGrid(QWidget *parent = nullptr);
@@ -54,6 +64,9 @@ public:
     void setSelectionColor(const QColor &color);
     QColor selectionTextColor() const { return m_selectionTextColor; }
     void setSelectionTextColor(const QColor &color);
+    // Enter moves to the next editable cell along the row instead of down the column.
+    bool enterMovesRight() const { return m_enterMovesRight; }
+    void setEnterMovesRight(bool right) { m_enterMovesRight = right; }
 
     // Content: TextMatrix is the text shown, value the value kept (double, date or text).
     Q_INVOKABLE QString TextMatrix(int row, int col) const;
@@ -76,6 +89,21 @@ public:
     Q_INVOKABLE bool moveTo(int row, int col);
     // Clicks a cell's button as the mouse does; false for a locked or non-button cell.
     Q_INVOKABLE bool clickCellButton(int row, int col);
+
+    // The clipboard and the edit history, as the keys and the context menu reach them. paste()
+    // puts the clipboard's block at the current cell: a row with a refused value is taken back
+    // whole (pasteRefused names the cell), the other rows stay; locked cells take nothing.
+    Q_INVOKABLE void copy();
+    Q_INVOKABLE void paste();
+    Q_INVOKABLE void pasteText(const QString &text);
+    // Empties the editable cells of the selection; each one as if a person emptied it.
+    Q_INVOKABLE void deleteSelection();
+    Q_INVOKABLE bool canUndo() const;
+    Q_INVOKABLE bool canRedo() const;
+    Q_INVOKABLE bool undo();
+    Q_INVOKABLE bool redo();
+    // Forgets the edits kept for undo, as after a save.
+    Q_INVOKABLE void clearHistory();
 
     Q_INVOKABLE int addRow();
     Q_INVOKABLE void insertRows(int row, int count = 1);
@@ -114,6 +142,11 @@ signals:
     void currentCellChanged(int row, int col);
     // The user dragged a column's edge to a new width.
     void colWidthDragged(int col, int width);
+    // A pasted value was refused; the rest of its row was taken back.
+    void pasteRefused(int row, int col, const QString &value);
+    // Cells were put back without the edit path (undo, redo, a pasted row taken back): what is
+    // summed from them needs summing again.
+    void cellsRestored();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -127,6 +160,10 @@ private:
     void applyColHidden(int col, bool hidden);
     void applyColWidth(int col, int width);
     bool handleKey(const QKeyEvent *event);
+    // After an editor closed by Enter or Tab: the cursor moves on unless the edit was refused.
+    void editorLeft(QAbstractItemDelegate::EndEditHint hint);
+    void moveOn(GridMoves::Direction direction);
+    void showContextMenu(const QPoint &pos);
 
     CellModel *m_cells;
     QTableView *m_view;
@@ -136,4 +173,5 @@ private:
     QColor m_selectionColor = Grid::SelectionColor;
     QColor m_selectionTextColor = Grid::SelectionTextColor;
     bool m_keyConsumed = false;
+    bool m_enterMovesRight = false;
 };

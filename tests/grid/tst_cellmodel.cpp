@@ -310,6 +310,27 @@ private slots:
         QCOMPARE(cells->rows(), 2);
     }
 
+    // Undo finds its cells where rows moved them, and puts back what the edit's handlers wrote;
+    // a row made during the edit (a totals row written afresh) is no part of it.
+    void undoFollowsRowsAndHandlers()
+    {
+        cells->setText(4, 1, QStringLiteral("before"));
+        connect(cells.get(), &CellModel::afterEdit, this, [this](int row) {
+            cells->setText(row, 4, QStringLiteral("1"));
+            cells->removeRowsAt(cells->rows() - 1);
+            cells->setText(cells->addRow(), 2, QStringLiteral("sum"));
+        });
+        QCOMPARE(cells->editCell(4, 1, QStringLiteral("after")), EditResult::Accepted);
+        cells->insertRowsAt(2, 2);
+        cells->undo();
+        QCOMPARE((QStringList{cells->text(6, 1), cells->text(6, 4), cells->text(cells->rows() - 1, 2)}),
+                 (QStringList{"before", "", "sum"}));
+        cells->redo();
+        QCOMPARE((QStringList{cells->text(6, 1), cells->text(6, 4)}), (QStringList{"after", "1"}));
+        cells->removeRowsAt(6);
+        QVERIFY(!cells->history().canUndo());
+    }
+
     // Resizing keeps what still fits; a reset empties content, styles and layout; the header row
     // and column cannot be taken away.
     void shapeChanges()

@@ -3,6 +3,7 @@
 #include "grid/spreadconsole.h"
 #include "grid/spreadgrid.h"
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -290,6 +291,93 @@ private slots:
         // A reset starts from a plain layout.
         grid->cells()->reset(4, 4);
         QVERIFY(!view->isColumnHidden(1) && !view->isRowHidden(2));
+    }
+
+    void keysMoveOverLockedCells_data()
+    {
+        QTest::addColumn<QKeyCombination>("key");
+        QTest::addColumn<bool>("editing");
+        QTest::addColumn<bool>("enterMovesRight");
+        QTest::addColumn<QPoint>("from");
+        QTest::addColumn<QPoint>("to");
+        // Locked: (3, 2) and (2, 3); column 1 holds buttons in row 4.
+        QTest::newRow("enter down over a locked cell") << QKeyCombination(Qt::Key_Return) << false << false << QPoint(2, 2) << QPoint(4, 2);
+        QTest::newRow("enter commits and moves down") << QKeyCombination(Qt::Key_Return) << true << false << QPoint(2, 2) << QPoint(4, 2);
+        QTest::newRow("enter right when asked") << QKeyCombination(Qt::Key_Enter) << true << true << QPoint(2, 2) << QPoint(2, 4);
+        QTest::newRow("tab over a locked cell") << QKeyCombination(Qt::Key_Tab) << false << false << QPoint(2, 2) << QPoint(2, 4);
+        QTest::newRow("tab on into the next row") << QKeyCombination(Qt::Key_Tab) << true << false << QPoint(3, 4) << QPoint(4, 2);
+        QTest::newRow("shift tab back over a button") << QKeyCombination(Qt::ShiftModifier, Qt::Key_Tab) << false << false << QPoint(4, 2) << QPoint(3, 4);
+        QTest::newRow("enter on the last row stays") << QKeyCombination(Qt::Key_Return) << false << false << QPoint(5, 3) << QPoint(5, 3);
+    }
+
+    void keysMoveOverLockedCells()
+    {
+        QFETCH(QKeyCombination, key);
+        QFETCH(bool, editing);
+        QFETCH(bool, enterMovesRight);
+        QFETCH(QPoint, from);
+        QFETCH(QPoint, to);
+        grid->setCellLocked(3, 2, true);
+        grid->setCellLocked(2, 3, true);
+        SpreadConsole::setButtonCell(*grid->cells(), 4, 1);
+        grid->setEnterMovesRight(enterMovesRight);
+        grid->select(from.x(), from.y());
+        if (editing)
+            QTest::keyClicks(grid->view(), QStringLiteral("7"));
+        QCOMPARE(grid->isEditing(), editing);
+        QTest::keyClick(editing ? editor() : grid->view(), key.key(), key.keyboardModifiers());
+        QTRY_VERIFY(!grid->isEditing());
+        QCOMPARE((std::pair{grid->row(), grid->col()}), (std::pair{to.x(), to.y()}));
+        if (editing)
+            QCOMPARE(grid->TextMatrix(from.x(), from.y()), from.y() == 2 ? QStringLiteral("7.00") : QStringLiteral("7"));
+    }
+
+    // A pasted block meets the checks of typing row by row: a refused value takes its whole row
+    // back and is named, locked cells take nothing, and the paste is one step of undo.
+    void pasteChecksEveryValueAndUndoes()
+    {
+        grid->setCellLocked(2, 3, true);
+        grid->setTextMatrix(3, 3, QStringLiteral("old"));
+        QSignalSpy refused(grid.get(), &SpreadGrid::pasteRefused);
+        QSignalSpy restored(grid.get(), &SpreadGrid::cellsRestored);
+        grid->select(1, 2);
+        QApplication::clipboard()->setText(QStringLiteral("1\ta\tb\r\n2\tc\td\r\nx\te\tf\r\n"));
+        QTest::keyClick(grid->view(), Qt::Key_V, Qt::ControlModifier);
+        const auto block = [this] {
+            QStringList texts;
+            for (int r = 1; r <= 3; ++r)
+                for (int c = 2; c <= 4; ++c)
+                    texts << grid->TextMatrix(r, c);
+            return texts;
+        };
+        QCOMPARE(block(), (QStringList{"1.00", "a", "b", "2.00", "", "d", "", "old", ""}));
+        QCOMPARE(calls(refused), (Calls{{3, 2, QStringLiteral("x")}}));
+        QCOMPARE(restored.count(), 1);
+
+        QTest::keyClick(grid->view(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(block(), (QStringList{"", "", "", "", "", "", "", "old", ""}));
+        QTest::keyClick(grid->view(), Qt::Key_Y, Qt::ControlModifier);
+        QCOMPARE(block()[5], QStringLiteral("d"));
+        QVERIFY(!grid->canRedo());
+    }
+
+    void deleteClearsAndCopyTakesTheRange()
+    {
+        for (int r = 1; r <= 2; ++r)
+            for (int c = 2; c <= 3; ++c)
+                grid->setTextMatrix(r, c, QString::number(r * 10 + c));
+        grid->setCellLocked(2, 3, true);
+        grid->select(1, 2);
+        QTest::keyClick(grid->view(), Qt::Key_Down, Qt::ShiftModifier);
+        QTest::keyClick(grid->view(), Qt::Key_Right, Qt::ShiftModifier);
+        QTest::keyClick(grid->view(), Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("12.00\t13\n22.00\t23"));
+        QTest::keyClick(grid->view(), Qt::Key_Delete);
+        QCOMPARE((QStringList{grid->TextMatrix(1, 2), grid->TextMatrix(1, 3), grid->TextMatrix(2, 2), grid->TextMatrix(2, 3)}),
+                 (QStringList{"", "", "", "23"}));
+        QVERIFY(grid->undo());
+        QCOMPARE(grid->TextMatrix(1, 3), QStringLiteral("13"));
+        QVERIFY(!grid->canUndo());
     }
 
     void moveToRefusesCellsOutsideTheGrid()

@@ -63,10 +63,18 @@ host.screenshot("screenshots/edit-3-reloaded.png");
 
 expectNoMessages("reloading");
 print("edit saved and read back: total opening amount " + grid.TextMatrix(totals, Col.BegBal));
-// Closing with an edit pending asks; Cancel keeps the frame and the edit, No drops it.
+// Closing with an edit pending asks, in a message box whose buttons read in Chinese; Cancel keeps
+// the frame and the edit, No drops it.
 type(grid, changed, Col.BegQty, "421");
-host.answer("Cancel");
+let closeButtons = [];
+host.showMessageBoxes(true);
+host.onNextDialog(function (box) {
+    closeButtons = host.buttons(box).sort();
+    check(host.clickButton(box, "取消"), "the question has a 取消 button");
+});
 check(!host.closeControl(control) && grid.TextMatrix(changed, Col.BegQty) == "421.00", "Cancel keeps the edit");
+host.showMessageBoxes(false);
+expectEqual(closeButtons.join("/"), ["是", "否", "取消"].sort().join("/"), "the question's buttons");
 host.answer("No");
 check(host.closeControl(control), "No closes the frame");
 host.exit(0);
