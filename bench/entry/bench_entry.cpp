@@ -4,14 +4,17 @@
 //    column formats and the item rows, in one bulk update) with 5,000 and 50,000 rows, beside
 //    copying the same values into a plain vector;
 //  - one figure typed into the control's grid of 50,000 rows until it is validated against its
-//    group and its row flagged, beside writing the cell without the control, as medians.
+//    group and its row flagged, beside writing the cell without the control, as medians;
+//  - Show of the control on an account set of 20,000 warehouses (its tree, the first node's rows),
+//    beside reading the warehouses with one query into a plain tree widget.
 // Each case runs in a child process of its own so that its peak RSS (VmHWM) is its own.
 //
 //   bench_entry [--cache DIR]       all cases, as a table (the account set is kept in DIR)
-//   bench_entry CASE ROWS ACCTDB    one case (raw-fill, grid-fill, edit)
+//   bench_entry CASE ROWS ACCTDB    one case (raw-fill, grid-fill, edit, show)
 
 #include "benchaccountsets.h"
 
+#include "db/accountset.h"
 #include "db/sqlrun.h"
 #include "services/sharedpropertystore.h"
 
@@ -40,6 +43,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QSqlQuery>
+#include <QTreeWidget>
 
 #include <algorithm>
 #include <chrono>
@@ -52,6 +57,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr int BigItems = 50000;
+constexpr int TreeWarehouses = 20000;
 constexpr int VolumeStock = 2; // the semi-finished goods warehouse holds the generated items
 constexpr int EditSamples = 1001;
 const QString CacheOption = QStringLiteral("--cache");
@@ -177,8 +183,46 @@ int edit(const QString &acctDb, int rows)
     return 0;
 }
 
+int show(const QString &acctDb, int warehouses)
+{
+    ScriptedPrompter prompter;
+    ScopedPrompter scoped(&prompter);
+    publishLogin(propsString(acctDb));
+    double rawMs = 0;
+    {
+        QTreeWidget plain;
+        plain.show();
+        const auto start = Clock::now();
+        QSqlQuery stocks =
+            SqlRun::exec(AccountSet::open(acctDb).database(), QStringLiteral("SELECT FItemID, FNumber, FName FROM t_Stock"));
+        QList<QTreeWidgetItem *> items;
+        while (stocks.next()) {
+            auto *item = new QTreeWidgetItem({stocks.value(1).toString() + QLatin1Char('|') + stocks.value(2).toString()});
+            item->setData(0, Qt::UserRole, stocks.value(0));
+            items.append(item);
+        }
+        plain.addTopLevelItems(items);
+        QApplication::processEvents();
+        rawMs = msSince(start);
+    }
+    ICInitCtl control;
+    control.resize(1400, 900);
+    control.show();
+    const auto start = Clock::now();
+    if (!control.Show(nullptr, true))
+        return 1;
+    QApplication::processEvents();
+    const double ms = msSince(start);
+    if (control.tree()->nodeKeys().size() < warehouses || !prompter.messages().isEmpty())
+        return 1;
+    std::printf("%f %f %f\n", ms, Measure::peakRssMb(), rawMs);
+    return 0;
+}
+
 int runCase(const char *name, int rows, const QString &acctDb)
 {
+    if (qstrcmp(name, "show") == 0)
+        return show(acctDb, rows);
     if (qstrcmp(name, "raw-fill") == 0)
         return rawFill(acctDb, rows);
     if (qstrcmp(name, "grid-fill") == 0)
@@ -237,6 +281,7 @@ int main(int argc, char **argv)
     }
 
     QString acctDb;
+    QString treeDb;
     {
         QCoreApplication app(argc, argv);
         DemoCompany::Options options;
@@ -250,6 +295,15 @@ int main(int argc, char **argv)
             std::printf("made the account set in %.1f s (%s)\n", set->madeInSeconds(), qPrintable(acctDb));
         else
             std::printf("account set made by an earlier run (%s)\n", qPrintable(acctDb));
+        DemoCompany::Options many;
+        many.warehouses = TreeWarehouses;
+        const auto tree = BenchAccountSet::kept(BenchAccountSet::Sqlite, cacheDir, QStringLiteral("tree_20k"), many,
+                                                [](const QSqlDatabase &db) {
+                                                    return SqlRun::scalar(db, QStringLiteral("SELECT count(*) FROM t_Stock"))
+                                                               .toInt()
+                                                           >= TreeWarehouses;
+                                                });
+        treeDb = tree->acctDb();
     }
 
     const QString self = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
@@ -264,5 +318,8 @@ int main(int argc, char **argv)
     const Figures typed = runChild(self, "edit", BigItems, acctDb);
     std::printf("%-40s %6d %9.2f us %9.3f us %7.1f %7.1f MB\n", "one figure typed, median of 1001", BigItems,
                 typed.value, typed.baseline, typed.value / typed.baseline, typed.rssMb);
+    const Figures shown = runChild(self, "show", TreeWarehouses, treeDb);
+    std::printf("%-40s %6d %9.1f ms %9.1f ms %7.2f %7.1f MB\n", "Show, tree of warehouses", TreeWarehouses,
+                shown.value, shown.baseline, shown.value / shown.baseline, shown.rssMb);
     return 0;
 }

@@ -475,6 +475,7 @@ bool EntryMode::showTotals()
 void EntryMode::setNodeCommandsVisible(bool visible)
 {
     const QVector<QString> reconciliation = commandKeys(CommandFlag::Reconciliation);
+    const BarList::Batch oneRedraw(*m_ctl.barList());
     for (const QString &key : commandKeys(CommandFlag::NodeDependent) + QVector<QString>{EntryKeys::Separator2, EntryKeys::Separator3})
         m_ctl.barList()->setVisible(key, visible && (m_ctl.reconciliationExists() || !reconciliation.contains(key)));
 }

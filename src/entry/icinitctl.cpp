@@ -192,6 +192,7 @@ void ICInitCtl::setMode(ControlMode *mode)
 void ICInitCtl::enableCommands()
 {
     BarList &bars = *barList();
+    const BarList::Batch oneRedraw(bars);
     const bool initialisationOpen = LibraryState::instance().periodOpen;
     const bool rowsLoaded = m_sheet->lastDataRow() > 0;
     for (const EntryCommandSpec &declared : entryCommandTable()) {

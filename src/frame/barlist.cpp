@@ -1,5 +1,7 @@
 #include "barlist.h"
 
+#include <utility>
+
 BarList::BarList(QObject *parent)
     : QObject(parent)
 {
@@ -54,11 +56,31 @@ bool BarList::isEnabled(const QString &key) const
     return i && i->enabled;
 }
 
+BarList::Batch::Batch(BarList &bars)
+    : m_bars(bars)
+{
+    ++m_bars.m_batchDepth;
+}
+
+BarList::Batch::~Batch()
+{
+    if (--m_bars.m_batchDepth == 0 && std::exchange(m_bars.m_changedInBatch, false))
+        emit m_bars.changed();
+}
+
+void BarList::notifyChanged()
+{
+    if (m_batchDepth > 0)
+        m_changedInBatch = true;
+    else
+        emit changed();
+}
+
 void BarList::setEnabled(const QString &key, bool enabled)
 {
     if (Item *i = find(key); i && i->enabled != enabled) {
         i->enabled = enabled;
-        emit changed();
+        notifyChanged();
     }
 }
 
@@ -72,7 +94,7 @@ void BarList::setVisible(const QString &key, bool visible)
 {
     if (Item *i = find(key); i && i->visible != visible) {
         i->visible = visible;
-        emit changed();
+        notifyChanged();
     }
 }
 
@@ -86,7 +108,7 @@ void BarList::setChecked(const QString &key, bool checked)
 {
     if (Item *i = find(key); i && i->checked != checked) {
         i->checked = checked;
-        emit changed();
+        notifyChanged();
     }
 }
 
@@ -113,7 +135,7 @@ void BarList::setToolbarVisible(bool visible)
 {
     if (m_toolbarVisible != visible) {
         m_toolbarVisible = visible;
-        emit changed();
+        notifyChanged();
     }
 }
 
@@ -121,6 +143,6 @@ void BarList::setToolbarLabels(bool labels)
 {
     if (m_toolbarLabels != labels) {
         m_toolbarLabels = labels;
-        emit changed();
+        notifyChanged();
     }
 }

@@ -40,6 +40,20 @@ public:
 
     explicit BarList(QObject *parent = nullptr);
 
+    // While one lives, the changes made are told to the hosts once, when the outermost ends: a
+    // command table switched in one go redraws the toolbar once, not once per key.
+    class Batch
+    {
+    public:
+        explicit Batch(BarList &bars);
+        ~Batch();
+        Batch(const Batch &) = delete;
+        Batch &operator=(const Batch &) = delete;
+
+    private:
+        BarList &m_bars;
+    };
+
     void addItem(const Item &item);
     const QVector<Item> &items() const { return m_items; }
     const Item *item(const QString &key) const;
@@ -72,8 +86,11 @@ signals:
 
 private:
     Item *find(const QString &key);
+    void notifyChanged();
 
     QVector<Item> m_items;
     bool m_toolbarVisible = true;
     bool m_toolbarLabels = true;
+    int m_batchDepth = 0;
+    bool m_changedInBatch = false;
 };

@@ -176,6 +176,7 @@ void InitControl::addViewToggles()
 
 void InitControl::loadViewSettings()
 {
+    const BarList::Batch oneRedraw(*m_barList);
     for (const ViewToggle &toggle : viewToggles())
         m_barList->setChecked(QString::fromLatin1(toggle.menuKey), SettingsStore::boolValue(*toggle.setting));
     m_loadedStockListIndex = SettingsStore::intValue(Setting::StockListIndex);

@@ -275,8 +275,7 @@ bool EntrySheet::refreshItemRow(int row)
     for (int record = 0; record < rows->RecordCount() && !found; ++record) {
         if (rows->value(record, QStringLiteral("FFieldCompose")).toString() != key)
             continue;
-        ItemRows::writeItemRow(cells(), row, *rows, record, m_useShortNumber, qtyDecimal(), m_colors);
-        setItemInfo(ItemInfo::fromRecord(*rows, record));
+        setItemInfo(ItemRows::writeItemRow(cells(), row, *rows, record, m_useShortNumber, qtyDecimal(), m_colors));
         found = true;
     }
     if (found && expanded)

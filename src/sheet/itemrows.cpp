@@ -131,7 +131,7 @@ void writeItem(CellModel &cells, int row, const ItemInfo &info, const ItemTexts 
     }
 }
 
-void writeItemRow(CellModel &cells, int row, const Recordset &items, int record, bool useShortNumber,
+ItemInfo writeItemRow(CellModel &cells, int row, const Recordset &items, int record, bool useShortNumber,
                   int defaultQtyDecimal, const RowColors &colors)
 {
     const ItemInfo info = ItemInfo::fromRecord(items, record);
@@ -144,6 +144,7 @@ void writeItemRow(CellModel &cells, int row, const Recordset &items, int record,
     cells.setValue(row, KFPeriod, info.shelfLifeManaged ? QVariant(info.kfPeriod) : QVariant());
     cells.setText(row, FieldCompose, v("FFieldCompose").toString());
     cells.setText(row, Flag, QString());
+    return info;
 }
 
 void setQuantityDecimals(CellModel &cells, int row, int qtyDecimal, int defaultQtyDecimal)
@@ -167,8 +168,7 @@ void fillItemRows(CellModel &cells, const Recordset &items, bool useShortNumber,
     cells.setRows(1);
     cells.setRows(1 + items.RecordCount());
     for (int record = 0; record < items.RecordCount(); ++record) {
-        writeItemRow(cells, record + 1, items, record, useShortNumber, defaultQtyDecimal, colors);
-        const ItemInfo info = ItemInfo::fromRecord(items, record);
+        const ItemInfo info = writeItemRow(cells, record + 1, items, record, useShortNumber, defaultQtyDecimal, colors);
         infos.insert(info.id, info);
     }
 }

@@ -59,8 +59,9 @@ LUMOICINITIAL_EXPORT void setQuantityDecimals(CellModel &cells, int row, int qty
 // Replaces the data rows with one item row per record and rebuilds the per-item information.
 LUMOICINITIAL_EXPORT void fillItemRows(CellModel &cells, const Recordset &items, bool useShortNumber,
                                        int defaultQtyDecimal, const RowColors &colors, QHash<int, ItemInfo> &infos);
-// Writes one record into a row (also used to refresh a row after its batch lines were saved).
-LUMOICINITIAL_EXPORT void writeItemRow(CellModel &cells, int row, const Recordset &items, int record,
+// Writes one record into a row (also used to refresh a row after its batch lines were saved);
+// the item the record names.
+LUMOICINITIAL_EXPORT ItemInfo writeItemRow(CellModel &cells, int row, const Recordset &items, int record,
                                        bool useShortNumber, int defaultQtyDecimal, const RowColors &colors);
 // Inserts the batch lines of the item in `itemRow` directly under it; the number inserted.
 LUMOICINITIAL_EXPORT int insertBatchLines(CellModel &cells, int itemRow, const Recordset &lines, int qtyDecimal,

@@ -22,6 +22,8 @@ NavTree::NavTree(QWidget *parent)
     header()->hide();
     setUniformRowHeights(true);
     setExpandsOnDoubleClick(true);
+    m_folder.addPixmap(style()->standardIcon(QStyle::SP_DirClosedIcon).pixmap(16), QIcon::Normal, QIcon::Off);
+    m_folder.addPixmap(style()->standardIcon(QStyle::SP_DirOpenIcon).pixmap(16), QIcon::Selected, QIcon::Off);
     connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem *item) {
         emit NodeClick(item->data(0, KeyRole).toString());
     });
@@ -39,16 +41,18 @@ void NavTree::addNode(const QString &key, const QString &parentKey, const QStrin
             throw LumoError(ElementNotFoundError, QStringLiteral("找不到节点：%1").arg(parentKey),
                             QStringLiteral("tvICInit"));
     }
-    auto *item = parentItem ? new QTreeWidgetItem(parentItem) : new QTreeWidgetItem(this);
+    // Filled before it joins the tree, so that the view hears of it once.
+    auto *item = new QTreeWidgetItem;
     item->setText(0, text);
     item->setData(0, KeyRole, key);
     item->setData(0, TagRole, tag);
     item->setData(0, ImageRole, image);
     item->setData(0, SelectedImageRole, selectedImage);
-    QIcon icon;
-    icon.addPixmap(style()->standardIcon(QStyle::SP_DirClosedIcon).pixmap(16), QIcon::Normal, QIcon::Off);
-    icon.addPixmap(style()->standardIcon(QStyle::SP_DirOpenIcon).pixmap(16), QIcon::Selected, QIcon::Off);
-    item->setIcon(0, icon);
+    item->setIcon(0, m_folder);
+    if (parentItem)
+        parentItem->addChild(item);
+    else
+        addTopLevelItem(item);
     m_items.insert(key, item);
     m_order.append(key);
 }

@@ -3,6 +3,7 @@
 #include "frame/lumoicinitial_global.h"
 
 #include <QHash>
+#include <QIcon>
 #include <QStringList>
 #include <QTreeWidget>
 
@@ -48,4 +49,6 @@ private:
 
     QHash<QString, QTreeWidgetItem *> m_items;
     QStringList m_order;
+    // Every node shows the same folder; made once, since the style looks it up on disk.
+    QIcon m_folder;
 };

@@ -46,8 +46,11 @@ void Recordset::setFields(const QStringList &fields)
 {
     m_fields = fields;
     m_fieldIndex.clear();
-    for (int i = 0; i < fields.size(); ++i)
+    m_declaredIndex.clear();
+    for (int i = 0; i < fields.size(); ++i) {
         m_fieldIndex.insert(fields.at(i).toLower(), i);
+        m_declaredIndex.insert(fields.at(i), i);
+    }
 }
 
 void Recordset::reserve(int rows)
@@ -65,6 +68,9 @@ void Recordset::appendRow(QVector<QVariant> row)
 
 int Recordset::fieldIndex(const QString &name) const
 {
+    const auto declared = m_declaredIndex.constFind(name);
+    if (declared != m_declaredIndex.cend())
+        return *declared;
     return m_fieldIndex.value(name.toLower(), -1);
 }
 

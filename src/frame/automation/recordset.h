@@ -64,6 +64,9 @@ private:
 
     QStringList m_fields;
     QHash<QString, int> m_fieldIndex; // lower-case name -> index
+    // The names as the fields were declared: the usual spelling of a look-up finds its field
+    // without lower-casing the name, which a grid fill would otherwise do a million times.
+    QHash<QString, int> m_declaredIndex;
     QVector<QVector<QVariant>> m_rows;
     QVector<int> m_order;              // row order after sorting
     int m_position = 0;
