@@ -118,8 +118,9 @@ QString formatPattern(double value, const QString &pattern)
 
 double roundHalfAway(double value, int decimals)
 {
+    // format() writes plain digits, so the typed-text checks of parse() are not needed here.
     bool ok = false;
-    const double rounded = parse(format(value, decimals, false), &ok);
+    const double rounded = format(value, decimals, false).toDouble(&ok);
     return ok ? rounded : value;
 }
 
