@@ -50,6 +50,12 @@ QString PostgresDialect::likeOperator(bool negated) const
     return negated ? QStringLiteral("NOT ILIKE") : QStringLiteral("ILIKE");
 }
 
+QString PostgresDialect::withoutIndex(const QString &column) const
+{
+    // Here "+" would turn the column into an expression that no index serves at all.
+    return column;
+}
+
 QString PostgresDialect::asText(const QString &expression) const
 {
     // PostgreSQL has no LIKE on numbers.

@@ -32,6 +32,9 @@ public:
     // The pattern match of the filters; it ignores letter case on both backends, as the suite's
     // own database did.
     virtual QString likeOperator(bool negated) const = 0;
+    // A column the planner must not choose an index for, so that it keeps the index of the
+    // order it walks (SQLite's unary "+"); a backend that needs no such hint gets the column.
+    virtual QString withoutIndex(const QString &column) const = 0;
     // An expression compared as text by LIKE, whatever its column type.
     virtual QString asText(const QString &expression) const = 0;
     // A DateTime column as "yyyy-mm-dd" text.

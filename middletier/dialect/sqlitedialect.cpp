@@ -45,6 +45,11 @@ QString SqliteDialect::likeOperator(bool negated) const
     return negated ? QStringLiteral("NOT LIKE") : QStringLiteral("LIKE");
 }
 
+QString SqliteDialect::withoutIndex(const QString &column) const
+{
+    return QLatin1Char('+') + column;
+}
+
 QString SqliteDialect::asText(const QString &expression) const
 {
     // SQLite compares any value as text.

@@ -13,6 +13,7 @@ public:
     QString identifier(const QString &name) const override;
     QString nullReplacement() const override;
     QString likeOperator(bool negated) const override;
+    QString withoutIndex(const QString &column) const override;
     QString asText(const QString &expression) const override;
     QString dateText(const QString &expression) const override;
     QString columnType(ColumnType type, int size) const override;

@@ -7,10 +7,8 @@
 
 namespace {
 
-// The place condition on rows v; with the columns hidden from the index choice ("+"), SQLite
-// reaches the rows through the item index while it walks the items in number order.
+// The place condition on rows v.
 const QString PlaceCondition = QStringLiteral("v.FStockID=? AND v.FSPID=? AND v.FPeriod=?");
-const QString PlaceConditionByItem = QStringLiteral("+v.FStockID=? AND +v.FSPID=? AND +v.FPeriod=?");
 const QString ItemLevelJoins = QStringLiteral("LEFT JOIN t_AuxItem a ON a.FAuxPropID=v.FAuxPropID "
                                               "LEFT JOIN t_AuxClass c ON c.FItemClassID=i.FAuxClassID");
 
@@ -25,18 +23,23 @@ std::optional<InitialDataSql> InitialDataSql::build(const PlacePeriod &place, co
                                                     bool useShortNumber, const SqlDialect &dialect)
 {
     if (const auto itemLevel = filter.apply(ItemRowFields::filterFields(true), dialect))
-        return InitialDataSql(place, *itemLevel, false, useShortNumber);
+        return InitialDataSql(place, *itemLevel, false, useShortNumber, dialect);
     if (const auto groupLevel = filter.apply(ItemRowFields::filterFields(false), dialect))
-        return InitialDataSql(place, *groupLevel, true, useShortNumber);
+        return InitialDataSql(place, *groupLevel, true, useShortNumber, dialect);
     return std::nullopt;
 }
 
 InitialDataSql::InitialDataSql(const PlacePeriod &place, const DialogFilter::Applied &applied, bool groupsFirst,
-                               bool useShortNumber)
+                               bool useShortNumber, const SqlDialect &dialect)
     : m_place(place)
     , m_applied(applied)
     , m_groupsFirst(groupsFirst)
     , m_keys(applied.sort)
+    // With the place's columns hidden from the index choice, SQLite reaches the rows through the
+    // item index while it walks the items in number order.
+    , m_placeByItem(QStringLiteral("%1=? AND %2=? AND %3=?")
+                        .arg(dialect.withoutIndex(QStringLiteral("v.FStockID")),
+                             dialect.withoutIndex(QStringLiteral("v.FSPID")), dialect.withoutIndex(QStringLiteral("v.FPeriod"))))
 {
     if (useShortNumber)
         m_keys.append({QStringLiteral("i.FShortNumber"), false});
@@ -74,7 +77,7 @@ script::BoundSql InitialDataSql::fastPage(const PageWindow &window) const
                              "WHERE v.FItemID=k.FItemID AND v.FAuxPropID=k.FAuxPropID AND %3 "
                              "GROUP BY k.FItemID, k.FAuxPropID) "
                              "SELECT %7 FROM g %8 ORDER BY %9")
-                  .arg(keyColumns.join(QStringLiteral(", ")), ItemLevelJoins, PlaceConditionByItem,
+                  .arg(keyColumns.join(QStringLiteral(", ")), ItemLevelJoins, m_placeByItem,
                        andCondition(m_applied.where), orderByText(keyOrder), ItemRowFields::groupAggregates(),
                        ItemRowFields::rowSelectList(), ItemRowFields::rowJoins(), orderByText(rowOrder));
     sql.values = placeValues() + m_applied.where.values;

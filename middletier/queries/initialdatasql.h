@@ -49,7 +49,7 @@ public:
 
 private:
     InitialDataSql(const PlacePeriod &place, const DialogFilter::Applied &applied, bool groupsFirst,
-                   bool useShortNumber);
+                   bool useShortNumber, const SqlDialect &dialect);
 
     script::BoundSql fastPage(const PageWindow &window) const;
     script::BoundSql groupedPage(const PageWindow &window) const;
@@ -59,4 +59,5 @@ private:
     DialogFilter::Applied m_applied;
     bool m_groupsFirst;
     QList<SortKey> m_keys; // the caller's sort keys, then the item number
+    QString m_placeByItem; // the place condition for a walk in item order
 };
