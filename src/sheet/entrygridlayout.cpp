@@ -1,6 +1,7 @@
 #include "entrygridlayout.h"
 
 #include "frame/logincontext.h"
+#include "frame/valuationmethods.h"
 
 #include "grid/cellmodel.h"
 #include "grid/spreadconsole.h"
@@ -8,6 +9,8 @@
 
 #include <QColor>
 #include <QStringList>
+
+#include <algorithm>
 
 namespace {
 
@@ -30,6 +33,8 @@ const QColor HeaderShade(174, 198, 230);
 const QColor GridLines(162, 162, 162);
 const QColor Selection(10, 36, 106);
 
+// Room left and right of a cell's text.
+constexpr int CellPadding = 12;
 // A wider column is a slip of the mouse or a broken settings file, not a choice.
 constexpr int MaxRememberedWidth = 2000;
 
@@ -114,6 +119,12 @@ void restoreWidths(SpreadGrid &grid)
 {
     for (int col = 1; col < EntryCol::Count; ++col)
         grid.cells()->setColWidth(col, defaultWidth(col));
+    // The valuation column is as wide as its longest name in the grid's font.
+    int valuation = defaultWidth(EntryCol::Track);
+    for (int code : {Valuation::WeightedAverage, Valuation::MovingAverage, Valuation::Fifo, Valuation::Lifo,
+                     Valuation::BatchMovingAverage, Valuation::PlannedCost, Valuation::BatchFifo})
+        valuation = std::max(valuation, grid.fontMetrics().horizontalAdvance(Valuation::name(code)) + CellPadding);
+    grid.cells()->setColWidth(EntryCol::Track, valuation);
 }
 
 QString widthsText(const SpreadGrid &grid)
