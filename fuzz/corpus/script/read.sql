@@ -1,0 +1,1 @@
+SELECT isnull(FCoefficient,0) FROM t_MeasureUnit WHERE FMeasureUnitID=3

@@ -1,0 +1,2 @@
+INSERT INTO ICInvInitial (FItemID, FBegQty) VALUES (1, 2.5);
+DELETE FROM ICInvInitial WHERE FItemID=1 AND FStockID IN (1,2,3);

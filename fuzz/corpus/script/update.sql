@@ -1,0 +1,1 @@
+UPDATE ICInvInitial SET FBegBal=10 WHERE FItemID=2 AND FBatchNo='B''1';
