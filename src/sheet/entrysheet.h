@@ -95,6 +95,11 @@ public:
     SpreadGrid &grid() const { return m_grid; }
     CellModel &cells() const;
     const RowColors &colors() const { return m_colors; }
+    // Paints every kind of row and cell with `colors` at once, as after the colour dialog's OK.
+    void setColors(const RowColors &colors);
+    // Marks the rows with the "Find" colour; the marks of an earlier find are taken away.
+    void markFound(const QVector<int> &rows);
+    void clearFound();
 
 private:
     int qtyDecimal() const;
