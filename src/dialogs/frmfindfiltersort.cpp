@@ -174,7 +174,8 @@ void frmFindFilterSort::layoutLines()
     cells.setColStyle(OperatorCol, CellStyle().setType(Grid::CellType::List)
                                        .setComboList(sorting ? DialogMsg::Directions : DialogMsg::Operators));
     cells.setColWidth(FieldCol, FieldWidth);
-    cells.setColWidth(OperatorCol, OperatorWidth);
+    // Sorting has no value column: the direction takes its room.
+    cells.setColWidth(OperatorCol, sorting ? OperatorWidth + ValueWidth : OperatorWidth);
     if (!sorting) {
         cells.setText(Grid::HeaderRow, ValueCol, ResString(DialogMsg::ValueHeader));
         cells.setColWidth(ValueCol, ValueWidth);
