@@ -88,9 +88,11 @@ int frmColorManager::ShowDialog()
     return exec();
 }
 
-QObject *frmColorManager::colors() const
+QObject *frmColorManager::colors()
 {
-    return m_session.collection().release();
+    Dictionary *collection = m_session.collection().release();
+    collection->setParent(this);
+    return collection;
 }
 
 void frmColorManager::paintSamples()

@@ -33,9 +33,9 @@ public:
     Q_INVOKABLE void prepare();
     // prepare() and the modal loop; the dialog's result code.
     Q_INVOKABLE int ShowDialog();
-    // The colour collection of the samples ("Lock", "BatMan", "Sum", "Find", "BalAdj"); the
-    // caller owns it.
-    Q_INVOKABLE QObject *colors() const;
+    // The colour collection of the samples ("Lock", "BatMan", "Sum", "Find", "BalAdj"), kept by
+    // the dialog.
+    Q_INVOKABLE QObject *colors();
 
     ColorSession &session() { return m_session; }
 

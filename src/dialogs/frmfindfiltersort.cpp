@@ -27,6 +27,15 @@ constexpr int FieldWidth = 150;
 constexpr int OperatorWidth = 90;
 constexpr int ValueWidth = 200;
 
+// A drop-down list as the user reads it; its position is the code.
+QStringList choiceTexts(const QStringList &texts)
+{
+    QStringList shown;
+    for (const QString &text : texts)
+        shown.append(ResString(text));
+    return shown;
+}
+
 QRadioButton *option(const char *name, const QString &text, QWidget *parent)
 {
     auto *button = new QRadioButton(ResString(text), parent);
@@ -142,16 +151,15 @@ void frmFindFilterSort::tabChosen(int index)
     const QVector<FfsCondition> kept = m_session.lines();
     m_session.action = FfsAction(index);
     layoutLines();
-    // Find and filter share their lines; what was typed on one tab is still there on the other.
-    m_session.lines() = kept;
+    // The lines are kept across tabs: what was chosen on one is still there on coming back.
     const bool sorting = m_session.action == FfsAction::Sort;
     CellModel &cells = *m_grid->cells();
     for (int i = 0; i < kept.size(); ++i) {
         const int row = i + Grid::FirstDataRow;
         if (sorting) {
-            cells.setText(row, OperatorCol, DialogMsg::Directions.value(kept.at(i).direction));
+            cells.setText(row, OperatorCol, choiceTexts(DialogMsg::Directions).value(kept.at(i).direction));
         } else {
-            cells.setText(row, OperatorCol, DialogMsg::Operators.value(kept.at(i).op));
+            cells.setText(row, OperatorCol, choiceTexts(DialogMsg::Operators).value(kept.at(i).op));
             cells.setText(row, ValueCol, kept.at(i).value);
         }
     }
@@ -172,7 +180,7 @@ void frmFindFilterSort::layoutLines()
                   ResString(sorting ? DialogMsg::DirectionHeader : DialogMsg::OperatorHeader));
     cells.setColStyle(FieldCol, CellStyle().setLocked(true).setBackColor(m_lockColor));
     cells.setColStyle(OperatorCol, CellStyle().setType(Grid::CellType::List)
-                                       .setComboList(sorting ? DialogMsg::Directions : DialogMsg::Operators));
+                                       .setComboList(choiceTexts(sorting ? DialogMsg::Directions : DialogMsg::Operators)));
     cells.setColWidth(FieldCol, FieldWidth);
     // Sorting has no value column: the direction takes its room.
     cells.setColWidth(OperatorCol, sorting ? OperatorWidth + ValueWidth : OperatorWidth);
@@ -183,7 +191,7 @@ void frmFindFilterSort::layoutLines()
     for (int i = 0; i < lines.size(); ++i) {
         const int row = i + Grid::FirstDataRow;
         cells.setText(row, FieldCol, lines.at(i).display);
-        cells.setText(row, OperatorCol, DialogMsg::Operators.first());
+        cells.setText(row, OperatorCol, choiceTexts(DialogMsg::Operators).first());
         if (sorting)
             continue;
         if (!lines.at(i).choices.isEmpty())
@@ -202,8 +210,8 @@ void frmFindFilterSort::readLines()
     QVector<FfsCondition> &lines = m_session.lines();
     for (int i = 0; i < lines.size(); ++i) {
         const int row = i + Grid::FirstDataRow;
-        const int chosen = int(qMax(qsizetype(0), (sorting ? DialogMsg::Directions : DialogMsg::Operators)
-                                                       .indexOf(cells.text(row, OperatorCol))));
+        const QStringList choices = choiceTexts(sorting ? DialogMsg::Directions : DialogMsg::Operators);
+        const int chosen = int(qMax(qsizetype(0), choices.indexOf(cells.text(row, OperatorCol))));
         if (sorting) {
             lines[i].direction = chosen;
         } else {

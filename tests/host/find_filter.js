@@ -40,6 +40,7 @@ check(control.Controls.BarList.isEnabled("mcEFind"), "Find is enabled once rows 
 runDialog("mcEFilter", [["物料名称", "包含", "钢"]], "/tmp/c-filter-dialog.png");
 expectEqual(codes(), "1.01.001", "only the steel plate contains 钢 at A区货架");
 expectEqual(panels.panelText(2), "过滤结果：共1行", "the status bar tells the rows selected");
+expectEqual(grid.TextMatrix(2, Col.BegBal), grid.TextMatrix(1, Col.BegBal), "总计 sums only the rows the filter selects");
 host.screenshot("/tmp/c-filtered-grid.png");
 runDialog("mcEFilter", []);
 expectEqual(codes(), "1.01.001 1.02.001 1.03.001", "OK without a line clears the filter");
