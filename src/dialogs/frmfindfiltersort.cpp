@@ -179,8 +179,8 @@ void frmFindFilterSort::layoutLines()
     cells.setText(Grid::HeaderRow, OperatorCol,
                   ResString(sorting ? DialogMsg::DirectionHeader : DialogMsg::OperatorHeader));
     cells.setColStyle(FieldCol, CellStyle().setLocked(true).setBackColor(m_lockColor));
-    cells.setColStyle(OperatorCol, CellStyle().setType(Grid::CellType::List)
-                                       .setComboList(choiceTexts(sorting ? DialogMsg::Directions : DialogMsg::Operators)));
+    const QStringList choices = choiceTexts(sorting ? DialogMsg::Directions : DialogMsg::Operators);
+    cells.setColStyle(OperatorCol, CellStyle().setType(Grid::CellType::List).setComboList(choices));
     cells.setColWidth(FieldCol, FieldWidth);
     // Sorting has no value column: the direction takes its room.
     cells.setColWidth(OperatorCol, sorting ? OperatorWidth + ValueWidth : OperatorWidth);

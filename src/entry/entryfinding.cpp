@@ -119,6 +119,12 @@ void EntryFinding::frmFFS_Sort(const QString &)
 
 void EntryFinding::reloadFiltered(const QString &procedure)
 {
+    // The dialog may have been opened for a find and turned to another tab: pending edits are
+    // still offered for saving before the rows are reloaded.
+    if (!m_mode.confirmLeave()) {
+        restoreFilters();
+        return;
+    }
     try {
         m_mode.loadRows(1);
         tell(ResString(Msg::FilteredRows.arg(m_sheet.recordCount())));
@@ -126,15 +132,19 @@ void EntryFinding::reloadFiltered(const QString &procedure)
     } catch (const LumoError &error) {
         reportProcedureError(procedure, error);
     }
-    if (Dictionary *filters = LibraryState::instance().filters()) {
-        for (int i = 0; i < filterKeys().size() && i < m_keptFilters.size(); ++i)
-            filters->setItem(filterKeys().at(i), m_keptFilters.at(i));
-    }
+    restoreFilters();
     try {
         m_mode.loadRows(1);
     } catch (const LumoError &error) {
         reportProcedureError(procedure, error);
     }
+}
+
+void EntryFinding::restoreFilters()
+{
+    Dictionary *filters = LibraryState::instance().filters();
+    for (int i = 0; filters && i < filterKeys().size() && i < m_keptFilters.size(); ++i)
+        filters->setItem(filterKeys().at(i), m_keptFilters.at(i));
 }
 
 void EntryFinding::pageLoaded()

@@ -42,6 +42,8 @@ private:
     // Reloads page 1 with the filter texts as they are now; on a refusal the texts kept from
     // before the dialog are put back and the rows follow them again.
     void reloadFiltered(const QString &procedure);
+    // The filter and sort texts as they were before the dialog opened.
+    void restoreFilters();
     QVector<int> markPage();
     QVariant fieldValue(int row, const QString &field) const;
     void tell(const QString &text);

@@ -36,6 +36,7 @@
 
 #include <QApplication>
 #include <QPushButton>
+#include <QTabBar>
 #include <QLocale>
 #include <QStandardPaths>
 #include <QTest>
@@ -735,7 +736,9 @@ private slots:
         // Find marks nothing on page 1; F3 goes on to each match across the pages and back.
         runDialog(FfsAction::Find, {{u"物料名称"_s, u"包含"_s, u"螺"_s}});
         QCOMPARE(m_control->statusPanels()->panelText(2), u"搜索结果：本页0行符合条件"_s);
-        const auto cursorAt = [&] { return m_control->pageLabel() + u" "_s + grid().TextMatrix(grid().row(), EntryCol::Number); };
+        const auto cursorAt = [&] {
+            return m_control->pageLabel() + u" "_s + grid().TextMatrix(grid().row(), EntryCol::Number);
+        };
         QVERIFY(m_control->findNext());
         QCOMPARE(cursorAt(), u"2/4 1.04.002"_s);
         QCOMPARE(grid().cellBackColor(grid().row(), EntryCol::BegQty), sheet().colors().find);
@@ -746,6 +749,20 @@ private slots:
         QVERIFY(!m_control->findNext(true));
         QCOMPARE(cursorAt(), u"2/4 1.04.002"_s);
         runDialog(FfsAction::Sort, {});
+    }
+
+    // A find turned into a filter on the dialog's tabs still offers to save the edits first.
+    void filterFromTheFindTabAsksToSave()
+    {
+        clickNode(RawMaterials, 2);
+        QVERIFY(grid().editCell(1, EntryCol::BegQty, 3100.0));
+        const std::unique_ptr<frmFindFilterSort> dialog = m_control->findFilterSortDialog(FfsAction::Find);
+        dialog->prepare();
+        dialog->findChild<QTabBar *>()->setCurrentIndex(int(FfsAction::Filter));
+        m_prompter.queueAnswer(Prompter::Answer::Yes);
+        dialog->findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+        QCOMPARE(onlyMessage(), AskToSave);
+        QCOMPARE(storedQty(grid().TextMatrix(1, EntryCol::FieldCompose)), 3100.0);
     }
 
     // Whatever is typed as a value is compared as data or refused in the dialog: it never changes
