@@ -47,7 +47,7 @@ FfsSession::Outcome FfsSession::accept()
         storeFilter(FilterKey::Sort, outcome.expression);
         break;
     case FfsAction::Find:
-        outcome.expression = FfsConditions::filterExpression(m_lines);
+        // The opener reads the lines and options through matcher().
         break;
     }
     return outcome;

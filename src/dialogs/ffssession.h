@@ -9,7 +9,7 @@
 class LUMOICINITIAL_EXPORT FfsSession
 {
 public:
-    // What OK gave: the expression of the action, or why a line was refused (the line's index
+    // What OK gave: the expression of a filter or sort, or why a line was refused (the line's index
     // and the message; nothing is stored then).
     struct Outcome
     {

@@ -99,10 +99,10 @@ public:
     void setColors(const RowColors &colors);
     // Marks the rows with the "Find" colour; the marks of an earlier find are taken away.
     void markFound(const QVector<int> &rows);
-    void clearFound();
 
 private:
     int qtyDecimal() const;
+    void clearFound();
     // Fetches page `pageIndex` of the place: answers its rows, keeps its totals and page counts.
     std::unique_ptr<Recordset> fetchPage(int pageIndex);
     void removeTotalsRow();

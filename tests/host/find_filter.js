@@ -76,4 +76,3 @@ check(host.command(control, "mcVColor"), "the colour dialog opens");
 expectEqual(String(grid.cellBackColor(found, Col.Name)), "#ffc080", "the found row is repainted at once");
 check(before !== "#ffc080", "it had another colour before");
 expectNoMessages("find, filter, sort and colours");
-runDialog("mcESort", []);
