@@ -54,6 +54,19 @@ std::optional<DialogFilter::Applied> DialogFilter::apply(const script::FilterFie
     return applied;
 }
 
+QString DialogFilter::refusal(const script::FilterFields &fields, const SqlDialect &dialect) const
+{
+    const script::FilterParser parser(fields, dialect);
+    try {
+        for (const QString &filter : m_filters)
+            parser.where(filter);
+        parser.orderBy(m_sort);
+    } catch (const script::FilterError &error) {
+        return error.text();
+    }
+    return {};
+}
+
 QString orderByText(const QList<SortKey> &keys)
 {
     QStringList items;

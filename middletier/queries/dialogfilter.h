@@ -39,6 +39,8 @@ public:
     // Nothing when a text names an undeclared field or is not a filter or sort at all: such a
     // text selects nothing, it never reaches the database.
     std::optional<Applied> apply(const script::FilterFields &fields, const SqlDialect &dialect) const;
+    // Why apply() refuses the texts, in words for the user; empty when it does not.
+    QString refusal(const script::FilterFields &fields, const SqlDialect &dialect) const;
 
 private:
     QStringList m_filters;

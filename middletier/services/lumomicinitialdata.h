@@ -67,7 +67,8 @@ public:
     //   FQtyDecimal (the highest quantity precision of the place's items; the system parameter
     //   QtyDecimal when it holds none).
     // PageIndex counts from 1; a page after the last gives no rows. PageSize or PageIndex below
-    // 1 raises DataError::BadPage.
+    // 1 raises DataError::BadPage; a filter or sort text that names an undeclared field or is no
+    // plain condition raises DataError::BadFilter, saying why.
     Q_INVOKABLE QObject *FetchYtdInitialData(const QString &PropsString, int StockID, int SPID, int Period, int PageSize,
                                              int PageIndex, const QString &Filter, const QString &ActualFilter,
                                              const QString &VirtualFilter, const QString &Sort, bool UseShortNumber);

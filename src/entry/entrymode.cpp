@@ -1,6 +1,7 @@
 #include "entrymode.h"
 
 #include "entry/entrycommands.h"
+#include "entry/entryfinding.h"
 #include "entry/icinitctl.h"
 
 #include "batch/frmbatchmanager.h"
@@ -54,6 +55,7 @@ EntryMode::EntryMode(ICInitCtl &ctl)
     , m_stockBox(ctl.stockBox())
     , m_pageBar(ctl.pageBar())
     , m_saver(std::make_unique<EntrySaver>(*ctl.sheet()))
+    , m_finding(std::make_unique<EntryFinding>(ctl, *this))
 {
     QObject::connect(m_grid, &SpreadGrid::afterEdit, &ctl, [this](int row, int col) { onAfterEdit(row, col); });
     QObject::connect(m_grid, &SpreadGrid::validateEdit, &ctl, [this](int row, int col, const QVariant &value) {
@@ -169,6 +171,7 @@ void EntryMode::loadRows(int pageIndex)
     m_grid->clearHistory();
     m_ctl.setMBlsIsNewData(false);
     m_ctl.setFindEnabled();
+    m_finding->pageLoaded();
 }
 
 void EntryMode::showPages()
@@ -298,6 +301,11 @@ void EntryMode::onKeyDown(int key, Qt::KeyboardModifiers modifiers)
             PageCommand(ctrl ? PageBar::FirstPage : PageBar::PreviousPage);
         else
             PageCommand(ctrl ? PageBar::LastPage : PageBar::NextPage);
+        m_grid->consumeKey();
+        return;
+    }
+    if (key == Qt::Key_F3) {
+        m_finding->findNext(modifiers.testFlag(Qt::ShiftModifier));
         m_grid->consumeKey();
         return;
     }

@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class EntryFinding;
 class EntrySaver;
 class EntrySheet;
 class ICInitCtl;
@@ -36,6 +37,7 @@ public:
     void LoadingStocks();
     const QVector<WarehouseEntry> &stocks() const { return m_stocks; }
     EntrySaver *saver() const { return m_saver.get(); }
+    EntryFinding *finding() const { return m_finding.get(); }
 
     // Opens the warehouse chosen in the selector when the user asked for it at start-up.
     void openDefaultStock();
@@ -80,4 +82,5 @@ private:
     PageBar *m_pageBar;
     QVector<WarehouseEntry> m_stocks;
     std::unique_ptr<EntrySaver> m_saver;
+    std::unique_ptr<EntryFinding> m_finding;
 };

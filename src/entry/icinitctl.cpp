@@ -2,7 +2,11 @@
 
 #include "entry/checkmode.h"
 #include "entry/entrycommands.h"
+#include "entry/entryfinding.h"
 #include "entry/entrymode.h"
+
+#include "dialogs/frmcolormanager.h"
+#include "dialogs/frmfindfiltersort.h"
 
 #include "sheet/entrygridlayout.h"
 #include "sheet/entrysheet.h"
@@ -315,6 +319,24 @@ bool ICInitCtl::showTotals()
     return m_entry->showTotals();
 }
 
+std::unique_ptr<frmFindFilterSort> ICInitCtl::findFilterSortDialog(FfsAction action)
+{
+    return m_entry->finding()->dialogFor(action);
+}
+
+bool ICInitCtl::findNext(bool backwards)
+{
+    return m_entry->finding()->findNext(backwards);
+}
+
+std::unique_ptr<frmColorManager> ICInitCtl::colorDialog()
+{
+    auto dialog = std::make_unique<frmColorManager>(this);
+    dialog->setLVSColor(int(SettingsStore::rgbNumber(m_sheet->colors().lock)));
+    dialog->setGVSColor(int(SettingsStore::rgbNumber(m_sheet->colors().sum)));
+    return dialog;
+}
+
 bool ICInitCtl::confirmClose()
 {
     return m_entry->confirmClose();
@@ -364,6 +386,18 @@ void ICInitCtl::runCommand(const QString &key)
         break;
     case EntryCommand::Sum:
         showTotals();
+        break;
+    case EntryCommand::Find:
+        m_entry->finding()->openDialog(FfsAction::Find);
+        break;
+    case EntryCommand::Filter:
+        m_entry->finding()->openDialog(FfsAction::Filter);
+        break;
+    case EntryCommand::Sort:
+        m_entry->finding()->openDialog(FfsAction::Sort);
+        break;
+    case EntryCommand::Color:
+        colorDialog()->ShowDialog();
         break;
     case EntryCommand::Tree:
         m_treePane->setHidden(!m_treePane->isHidden());

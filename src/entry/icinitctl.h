@@ -5,6 +5,8 @@
 
 #include "entry/accounttable.h"
 
+#include "dialogs/ffsconditions.h"
+
 #include "sheet/warehousetable.h"
 
 #include <QVector>
@@ -17,6 +19,8 @@ class EntryMode;
 class EntrySaver;
 class EntrySheet;
 class frmBatchManager;
+class frmColorManager;
+class frmFindFilterSort;
 class NavTree;
 class PageBar;
 class QComboBox;
@@ -85,6 +89,15 @@ public:
     // The Sum command: goes to the last page, sums again and puts the cursor on the "总计" row;
     // false where no totals row can be shown.
     Q_INVOKABLE bool showTotals();
+
+    // The find, filter or sort dialog over the grid's item rows, its members set and its events
+    // connected to frmFFS_Find, frmFFS_Filter and frmFFS_Sort. The caller shows it.
+    std::unique_ptr<frmFindFilterSort> findFilterSortDialog(FfsAction action);
+    // F3 and Shift+F3: the cursor to the next or previous row the last find matched, on other
+    // pages too; false when there is none.
+    Q_INVOKABLE bool findNext(bool backwards = false);
+    // The colour dialog; its OK repaints the grids at once.
+    std::unique_ptr<frmColorManager> colorDialog();
 
     // Commands follow the mode, whether initialisation is open and whether rows are loaded.
     void enableCommands();

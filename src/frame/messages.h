@@ -23,6 +23,11 @@ inline const QString EnterAtStockPlaces = QStringLiteral("该仓库设有仓位�
 inline const QString SavedRows = QStringLiteral("已保存%1行");
 inline const QString DeletedRows = QStringLiteral("，删除%1行");
 
+// What find, filter and sort left in the grid, in the status bar's second panel.
+inline const QString FilteredRows = QStringLiteral("过滤结果：共%1行");
+inline const QString FoundRows = QStringLiteral("搜索结果：本页%1行符合条件");
+inline const QString NoMoreFound = QStringLiteral("搜索结果：没有更多符合条件的行");
+
 // "系统在调用函数LoadingStocks()时发生错误": the text every procedure's handler shows.
 inline QString procedureFailed(const QString &procedure)
 {

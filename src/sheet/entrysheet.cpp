@@ -18,6 +18,8 @@
 #include "grid/cellmodel.h"
 #include "grid/spreadgrid.h"
 
+#include "sheet/rowcolorboard.h"
+
 namespace {
 
 using namespace EntryCol;
@@ -43,6 +45,7 @@ EntrySheet::EntrySheet(SpreadGrid &grid, QObject *parent)
     m_kinds = {RowKind::Header};
     m_model = grid.cells();
     m_model->setEditRule(this);
+    connect(&RowColorBoard::instance(), &RowColorBoard::changed, this, &EntrySheet::setColors);
 }
 
 EntrySheet::~EntrySheet()
@@ -106,6 +109,43 @@ std::unique_ptr<Recordset> EntrySheet::fetchPage(int pageIndex)
     m_totalPages = page->Item(QStringLiteral("TotalPages")).toInt();
     m_recordCount = page->Item(QStringLiteral("RecordCount")).toInt();
     return rows;
+}
+
+void EntrySheet::setColors(const RowColors &colors)
+{
+    const RowColors before = m_colors;
+    m_colors = colors;
+    if (!m_model)
+        return;
+    BulkUpdate bulk(cells());
+    ItemRows::applyColumnFormats(cells(), qtyDecimal(), m_amountScale, m_colors);
+    for (int row = 1; row < m_kinds.size(); ++row) {
+        const QColor back = cells().rowStyle(row).backColor();
+        if (m_kinds.at(row) == RowKind::Totals)
+            cells().setRowStyle(row, CellStyle().setBackColor(m_colors.sum));
+        else if (back.isValid() && back == before.find)
+            cells().setRowStyle(row, CellStyle().setBackColor(m_colors.find));
+        if (cells().ownStyle(row, Batch).has(CellStyle::ButtonColor))
+            cells().setCellStyle(row, Batch, CellStyle().setButtonColor(m_colors.batMan));
+    }
+}
+
+void EntrySheet::markFound(const QVector<int> &rows)
+{
+    BulkUpdate bulk(cells());
+    clearFound();
+    for (int row : rows) {
+        if (row > 0 && row < m_kinds.size() && m_kinds.at(row) != RowKind::Totals)
+            cells().setRowStyle(row, CellStyle().setBackColor(m_colors.find));
+    }
+}
+
+void EntrySheet::clearFound()
+{
+    for (int row = 1; row < m_kinds.size(); ++row) {
+        if (m_kinds.at(row) != RowKind::Totals && cells().rowStyle(row).has(CellStyle::BackColor))
+            cells().clearRowStyle(row, CellStyle::BackColor);
+    }
 }
 
 void EntrySheet::loadPage(int pageIndex, int pageSize)

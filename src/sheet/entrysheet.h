@@ -95,9 +95,14 @@ public:
     SpreadGrid &grid() const { return m_grid; }
     CellModel &cells() const;
     const RowColors &colors() const { return m_colors; }
+    // Paints every kind of row and cell with `colors` at once, as after the colour dialog's OK.
+    void setColors(const RowColors &colors);
+    // Marks the rows with the "Find" colour; the marks of an earlier find are taken away.
+    void markFound(const QVector<int> &rows);
 
 private:
     int qtyDecimal() const;
+    void clearFound();
     // Fetches page `pageIndex` of the place: answers its rows, keeps its totals and page counts.
     std::unique_ptr<Recordset> fetchPage(int pageIndex);
     void removeTotalsRow();

@@ -20,17 +20,20 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QTimer>
 #include <QComboBox>
 #include <QTest>
 #include <QToolBar>
 
 using namespace EntryDb;
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // What a command visibly does.
 enum class Effect { Saves, AddsRow, DeletesRow, ShowsTotals, Reloads, RestoresWidths, TogglesTree, Toggles,
-                    ClosesFrame, Nothing };
+                    ClosesFrame, OpensFind, OpensFilter, OpensSort, OpensColors, Nothing };
 
 using KeyEffect = std::pair<const char *, Effect>;
 
@@ -42,9 +45,9 @@ const KeyEffect menuKeys[] = {
     {"mcFPrintSetup", E::Nothing},      {"mcFImport", E::Nothing},          {"mcFExport", E::Nothing},
     {"mcFExportByData", E::Nothing},    {"mcFOutAdjBilll", E::Nothing},     {"mcFStartBal", E::Nothing},
     {"mcExit", E::ClosesFrame},         {"mcEAddNew", E::AddsRow},          {"mcEDelete", E::DeletesRow},
-    {"mcESum", E::ShowsTotals},         {"mcEDefault", E::Toggles},         {"mcEFind", E::Nothing},
-    {"mcEFilter", E::Nothing},          {"mcESort", E::Nothing},            {"mcECal", E::Nothing},
-    {"mcVCheck", E::Nothing},           {"mcVBalance", E::Nothing},         {"mcVColor", E::Nothing},
+    {"mcESum", E::ShowsTotals},         {"mcEDefault", E::Toggles},         {"mcEFind", E::OpensFind},
+    {"mcEFilter", E::OpensFilter},          {"mcESort", E::OpensSort},            {"mcECal", E::Nothing},
+    {"mcVCheck", E::Nothing},           {"mcVBalance", E::Nothing},         {"mcVColor", E::OpensColors},
     {"mcVSearch", E::Nothing},          {"mcVLookUp", E::Nothing},          {"mcVRefresh", E::Reloads},
     {"mcVOrgWidth", E::RestoresWidths}, {"mcVTree", E::TogglesTree},        {"mcVSRefresh", E::Toggles},
     {"mcWToolBar", E::Toggles},         {"mcWTBLable", E::Toggles},         {"mcWStatusBar", E::Toggles},
@@ -53,9 +56,9 @@ const KeyEffect toolKeys[] = {
     {"Save", E::Saves},           {"Print", E::Nothing},        {"PrintPreView", E::Nothing},
     {"OutBill", E::Nothing},      {"Start", E::Nothing},        {"Exit", E::ClosesFrame},
     {"AddNew", E::AddsRow},       {"Delete", E::DeletesRow},    {"Sum", E::ShowsTotals},
-    {"Find", E::Nothing},         {"Filter", E::Nothing},       {"Sort", E::Nothing},
+    {"Find", E::OpensFind},         {"Filter", E::OpensFilter},       {"Sort", E::OpensSort},
     {"Check", E::Nothing},        {"Balance", E::Nothing},      {"Transfer", E::Nothing},
-    {"Color", E::Nothing},        {"Search", E::Nothing},       {"Refresh", E::Reloads},
+    {"Color", E::OpensColors},        {"Search", E::Nothing},       {"Refresh", E::Reloads},
     {"TreeView", E::TogglesTree},
 };
 
@@ -147,6 +150,7 @@ private:
     // Shared by the key rows: the account set, and the control for the keys that do nothing.
     std::unique_ptr<ScratchAccountSet> m_keysSet;
     std::unique_ptr<HostFrame> m_idleHost;
+    QString m_opened; // the modal dialog the last command opened
 
 private slots:
     void initTestCase()
@@ -266,6 +270,15 @@ private slots:
         const Snapshot before = Snapshot::of(*control, host, scratch);
         const bool wasChecked = control->barList()->isChecked(key);
 
+        // A dialog is told by its name and, for find/filter/sort, the tab it opened on; then closed.
+        m_opened.clear();
+        QTimer::singleShot(0, this, [this] {
+            if (QWidget *modal = QApplication::activeModalWidget()) {
+                const QVariant action = modal->property("CurrentAction");
+                m_opened = modal->objectName() + (action.isValid() ? u" "_s + action.toString() : QString());
+                modal->close();
+            }
+        });
         const bool ran = run(Route(route), key, *control, host);
         if (Effect(effect) != Effect::Nothing)
             QVERIFY2(ran, "the key has a button on the control's toolbar");
@@ -310,6 +323,14 @@ private slots:
         case Effect::ClosesFrame:
             QVERIFY(host.closedByKey());
             QVERIFY(!host.isVisible());
+            break;
+        case Effect::OpensFind: case Effect::OpensFilter: case Effect::OpensSort: {
+            const int action = effect - int(Effect::OpensFind);
+            QCOMPARE(m_opened, u"frmFindFilterSort %1"_s.arg(action));
+            break;
+        }
+        case Effect::OpensColors:
+            QCOMPARE(m_opened, u"frmColorManager"_s);
             break;
         case Effect::Nothing:
             QVERIFY(!control->barList()->isEnabled(key) || !control->barList()->isVisible(key));

@@ -10,6 +10,8 @@
 
 #include "batch/batchlayout.h"
 #include "batch/frmbatchmanager.h"
+#include "dialogs/frmcolormanager.h"
+#include "dialogs/frmfindfiltersort.h"
 #include "sheet/entrygridlayout.h"
 #include "sheet/entrysheet.h"
 #include "entry/entrycommands.h"
@@ -33,10 +35,14 @@
 #include "grid/spreadgrid.h"
 
 #include <QApplication>
+#include <QPushButton>
+#include <QTabBar>
 #include <QLocale>
 #include <QStandardPaths>
 #include <QTest>
 #include <QTimer>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -59,7 +65,6 @@ class CountingInitialData : public LumoMICInitialData
     Q_OBJECT
 public:
     static inline QStringList scripts;
-
     Q_INVOKABLE void UpdateINIData(const QString &PropsString, const QString &script)
     {
         scripts.append(script);
@@ -103,9 +108,14 @@ QList<int> totalsRows(const SpreadGrid &grid)
 
 using Edits = QList<std::pair<int, double>>;
 
+// Lines of the find/filter/sort dialog as a person fills them: display name, operator or
+// direction, value.
+using DialogLines = QList<QStringList>;
+
 } // namespace
 
 Q_DECLARE_METATYPE(Edits)
+Q_DECLARE_METATYPE(DialogLines)
 
 class TestEntryControl : public QObject
 {
@@ -205,6 +215,25 @@ private:
         QCOMPARE(balances(), before);
         QVERIFY(CountingInitialData::scripts.isEmpty());
     }
+
+    // Opens the dialog of `action`, fills its lines and presses OK, as a person does.
+    void runDialog(FfsAction action, const DialogLines &lines)
+    {
+        const std::unique_ptr<frmFindFilterSort> dialog = m_control->findFilterSortDialog(action);
+        dialog->prepare();
+        SpreadGrid &conditions = *dialog->grid();
+        for (const QStringList &line : lines) {
+            int row = 1;
+            while (row < conditions.rows() && conditions.TextMatrix(row, frmFindFilterSort::FieldCol) != line.at(0))
+                ++row;
+            QVERIFY2(conditions.editCell(row, frmFindFilterSort::OperatorCol, line.at(1)), qPrintable(line.join(' ')));
+            if (line.size() > 2)
+                conditions.editCell(row, frmFindFilterSort::ValueCol, line.at(2));
+        }
+        dialog->findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+    }
+
+    QString filterText(const QString &key) const { return LibraryState::instance().filters()->Item(key).toString(); }
 
 private slots:
     void initTestCase()
@@ -673,6 +702,112 @@ private slots:
         clickNode(RawMaterials, 2);
         clickNode(RawMaterials, EntryDb::ShelfAId);
         QCOMPARE(m_control->pageLabel(), QStringLiteral("1/1"));
+    }
+
+    void findFilterAndSortApplyToThePlace()
+    {
+        // Find needs loaded rows.
+        QVERIFY(!m_control->barList()->isEnabled(EntryKeys::Find));
+        clickNode(RawMaterials, 2);
+        QVERIFY(m_control->barList()->isEnabled(EntryKeys::Find));
+        m_control->setMlngPerPageSize(2);
+        runDialog(FfsAction::Filter, {{u"物料名称"_s, u"包含"_s, u"螺"_s}});
+        QCOMPARE(filterText(FilterKey::ActualFilter), u"FItemName LIKE '%螺%' "_s);
+        QCOMPARE(page(), (QStringList{u"1/1"_s, u"1.04.001"_s, u"1.04.002"_s}));
+        QCOMPARE(m_control->statusPanels()->panelText(2), u"过滤结果：共2行"_s);
+        runDialog(FfsAction::Sort, {{u"物料代码"_s, u"降序"_s}});
+        QCOMPARE(page(), (QStringList{u"1/1"_s, u"1.04.002"_s, u"1.04.001"_s}));
+        // OK without a line clears the filter; the sort stays.
+        runDialog(FfsAction::Filter, {});
+        QCOMPARE(page(), (QStringList{u"1/4"_s, u"3.02.002"_s, u"3.02.002"_s}));
+
+        // Find marks nothing on page 1; F3 goes on to each match across the pages and back.
+        runDialog(FfsAction::Find, {{u"物料名称"_s, u"包含"_s, u"螺"_s}});
+        QCOMPARE(m_control->statusPanels()->panelText(2), u"搜索结果：本页0行符合条件"_s);
+        const auto cursorAt = [&] {
+            return m_control->pageLabel() + u" "_s + grid().TextMatrix(grid().row(), EntryCol::Number);
+        };
+        QVERIFY(m_control->findNext());
+        QCOMPARE(cursorAt(), u"2/4 1.04.002"_s);
+        QCOMPARE(grid().cellBackColor(grid().row(), EntryCol::BegQty), sheet().colors().find);
+        QVERIFY(m_control->findNext());
+        QCOMPARE(cursorAt(), u"3/4 1.04.001"_s);
+        QVERIFY(m_control->findNext(true));
+        QCOMPARE(cursorAt(), u"2/4 1.04.002"_s);
+        QVERIFY(!m_control->findNext(true));
+        QCOMPARE(cursorAt(), u"2/4 1.04.002"_s);
+    }
+
+    // A find turned into a filter on the dialog's tabs still offers to save the edits first.
+    void filterFromTheFindTabAsksToSave()
+    {
+        clickNode(RawMaterials, 2);
+        QVERIFY(grid().editCell(1, EntryCol::BegQty, 3100.0));
+        const std::unique_ptr<frmFindFilterSort> dialog = m_control->findFilterSortDialog(FfsAction::Find);
+        dialog->prepare();
+        dialog->findChild<QTabBar *>()->setCurrentIndex(int(FfsAction::Filter));
+        m_prompter.queueAnswer(Prompter::Answer::Yes);
+        dialog->findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+        QCOMPARE(onlyMessage(), AskToSave);
+        QCOMPARE(storedQty(grid().TextMatrix(1, EntryCol::FieldCompose)), 3100.0);
+    }
+
+    // Whatever is typed as a value is compared as data or refused in the dialog: it never changes
+    // the statement, the rows of another item never show, and nothing is written.
+    void hostileFilterValuesAreDataOrRefused_data()
+    {
+        QTest::addColumn<DialogLines>("lines");
+        QTest::addColumn<bool>("accepted");
+        QTest::newRow("quote and always true") << DialogLines{{u"物料名称"_s, u"等于"_s, u"x' OR '1'='1"_s}} << true;
+        QTest::newRow("second statement")
+            << DialogLines{{u"物料名称"_s, u"包含"_s, u"'; DELETE FROM ICInvInitial; --"_s}} << true;
+        QTest::newRow("comment marks") << DialogLines{{u"规格型号"_s, u"等于"_s, u"/* */ or 1=1"_s}} << true;
+        QTest::newRow("over-long") << DialogLines{{u"物料名称"_s, u"等于"_s, QString(300, u'钢')}} << false;
+        QTest::newRow("statement in a number") << DialogLines{{u"期初数量"_s, u"大于"_s, u"0 or 1=1"_s}} << false;
+    }
+
+    void hostileFilterValuesAreDataOrRefused()
+    {
+        QFETCH(DialogLines, lines);
+        QFETCH(bool, accepted);
+        clickNode(RawMaterials, 2);
+        const QStringList before = balances();
+        const QStringList rowsBefore = page();
+        runDialog(FfsAction::Filter, lines);
+        QCOMPARE(m_prompter.messages().size(), accepted ? 0 : 1);
+        QCOMPARE(page(), accepted ? QStringList{u"0/0"_s} : rowsBefore);
+        QCOMPARE(balances(), before);
+        QVERIFY(CountingInitialData::scripts.isEmpty());
+    }
+
+    // A text the data service cannot parse is refused with its reason; the rows before stay.
+    void undeclaredFieldIsRefusedWithItsName()
+    {
+        clickNode(RawMaterials, 2);
+        const QStringList before = page();
+        const std::unique_ptr<frmFindFilterSort> dialog = m_control->findFilterSortDialog(FfsAction::Filter);
+        LibraryState::instance().filters()->setItem(FilterKey::Filter, u"FPassword = 'x' "_s);
+        emit dialog->Filter(u"FPassword = 'x' "_s);
+        QVERIFY(onlyMessage().contains(u"FPassword"_s));
+        QCOMPARE(filterText(FilterKey::Filter), QString());
+        QCOMPARE(page(), before);
+    }
+
+    // The colour dialog's OK repaints the grid shown at once, without a reload.
+    void colourDialogRepaintsTheGrid()
+    {
+        clickNode(RawMaterials, 2);
+        // A reload would first ask to save this edit.
+        QVERIFY(grid().editCell(1, EntryCol::BegQty, 3100.0));
+        const std::unique_ptr<frmColorManager> dialog = m_control->colorDialog();
+        dialog->prepare();
+        dialog->session().setColor(2, QColor(Qt::red));
+        dialog->findChild<QPushButton *>(QStringLiteral("cmdOK"))->click();
+        QCOMPARE(grid().cellBackColor(totalsRows(grid()).value(0), EntryCol::BegQty), QColor(Qt::red));
+        QVERIFY(m_prompter.messages().isEmpty());
+        QCOMPARE(grid().number(1, EntryCol::BegQty), 3100.0);
+        dialog->session().restoreDefaults();
+        dialog->session().store();
     }
 
     void failedWriteKeepsTheGridAsTyped()

@@ -1,0 +1,7 @@
+#include "rowcolorboard.h"
+
+RowColorBoard &RowColorBoard::instance()
+{
+    static RowColorBoard board;
+    return board;
+}
