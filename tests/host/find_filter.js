@@ -37,21 +37,21 @@ function codes() {
 
 tree.clickNode(nodeByText(tree, "A区货架"));
 check(control.Controls.BarList.isEnabled("mcEFind"), "Find is enabled once rows are loaded");
-runDialog("mcEFilter", [["物料名称", "包含", "钢"]], "/tmp/c-filter-dialog.png");
+runDialog("mcEFilter", [["物料名称", "包含", "钢"]], "screenshots/find-filter-dialog.png");
 expectEqual(codes(), "1.01.001", "only the steel plate contains 钢 at A区货架");
 expectEqual(panels.panelText(2), "过滤结果：共1行", "the status bar tells the rows selected");
 expectEqual(grid.TextMatrix(2, Col.BegBal), grid.TextMatrix(1, Col.BegBal), "总计 sums only the rows the filter selects");
-host.screenshot("/tmp/c-filtered-grid.png");
+host.screenshot("screenshots/find-filtered-grid.png");
 runDialog("mcEFilter", []);
 expectEqual(codes(), "1.01.001 1.02.001 1.03.001", "OK without a line clears the filter");
 
 control.mlngPerPageSize = 2;
 tree.clickNode(nodeByText(tree, "B区货架"));
-runDialog("mcESort", [["物料代码", "降序"]], "/tmp/c-sort-dialog.png");
+runDialog("mcESort", [["物料代码", "降序"]], "screenshots/find-sort-dialog.png");
 expectEqual(codes(), "3.02.002 3.02.002", "sorted by code, highest first");
 expectEqual(control.pageLabel(), "1/4", "the sort orders rows across pages");
 
-runDialog("mcEFind", [["物料名称", "包含", "螺"]], "/tmp/c-find-dialog.png");
+runDialog("mcEFind", [["物料名称", "包含", "螺"]], "screenshots/find-find-dialog.png");
 const at = () => control.pageLabel() + " " + grid.TextMatrix(grid.Row, Col.Number);
 host.keys(grid, "{F3}");
 expectEqual(at(), "2/4 1.04.002", "F3 goes on to the first match on a later page");
@@ -59,7 +59,7 @@ host.keys(grid, "{F3}");
 expectEqual(at(), "3/4 1.04.001", "F3 again to the next");
 host.keys(grid, "{Shift+F3}");
 expectEqual(at(), "2/4 1.04.002", "Shift+F3 back to the previous");
-host.screenshot("/tmp/c-find-grid.png");
+host.screenshot("screenshots/find-find-grid.png");
 const found = grid.Row;
 const before = String(grid.cellBackColor(found, Col.Name));
 
@@ -69,7 +69,7 @@ host.onNextDialog(function (dialog) {
         chooser.accept();
     });
     check(host.clickButton(dialog, "搜索显示的颜色"), "the find colour's chooser opens");
-    host.screenshot("/tmp/c-color-dialog.png", dialog);
+    host.screenshot("screenshots/find-color-dialog.png", dialog);
     check(host.clickButton(dialog, "确定"), "OK is pressed");
 });
 check(host.command(control, "mcVColor"), "the colour dialog opens");
