@@ -30,6 +30,8 @@ inline const QString comparison = QStringLiteral("比较符");
 inline const QString connectives = QStringLiteral("AND或OR");
 inline const QString comma = QStringLiteral("“,”");
 inline const QString quotedPunct = QStringLiteral("“%1”");
+inline const QString nestingTooDeep = QStringLiteral("括号最多嵌套%1层");
+inline const QString listTooLong = QStringLiteral("一个列表或条件最多%1项");
 // Joining column names: within one key, and between the keys a condition may use instead.
 inline const QString listSeparator = QStringLiteral("、");
 inline const QString alternativeSeparator = QStringLiteral("或");
