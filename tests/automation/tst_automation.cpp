@@ -201,6 +201,34 @@ private slots:
         QCOMPARE(parsed, entries);
     }
 
+    // A written value reads back whole, and nothing in it can end the entry early to plant a key.
+    void propertyEntriesRoundTrip_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<bool>("refused");
+
+        for (const char *value : {"plain", "/data/a;b}c.db", "x};AcctDB={/evil", "}}", "{", "a}", "=;", "批号 A"})
+            QTest::newRow(value) << QStringLiteral("UserName") << QString::fromUtf8(value) << false;
+        QTest::newRow("blank at the end") << QStringLiteral("UserName") << QStringLiteral("v ") << true;
+        QTest::newRow("key with =") << QStringLiteral("a=b") << QStringLiteral("v") << true;
+        QTest::newRow("empty key") << QString() << QStringLiteral("v") << true;
+    }
+
+    void propertyEntriesRoundTrip()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, value);
+        QFETCH(bool, refused);
+        if (refused) {
+            QVERIFY_THROWS_EXCEPTION(LumoError, propertyEntry(key, value));
+            return;
+        }
+        const QString text = propertyEntry(key, value) + propertyEntry(QStringLiteral("AcctDB"), QStringLiteral("/real.db"));
+        const QList<QPair<QString, QString>> expected{{key, value}, {QStringLiteral("AcctDB"), QStringLiteral("/real.db")}};
+        QCOMPARE(splitPropertyString(text), expected);
+    }
+
     void takeTokenSplitsOnce()
     {
         QString rest = QStringLiteral("a=b=c");

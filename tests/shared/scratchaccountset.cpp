@@ -7,6 +7,7 @@
 #include "dialect/sqldialect.h"
 
 #include "frame/automation/lumoerror.h"
+#include "frame/automation/propertystring.h"
 
 #include <QAtomicInt>
 #include <QCoreApplication>
@@ -63,7 +64,9 @@ ScratchAccountSet::~ScratchAccountSet()
 
 QString ScratchAccountSet::propsString(int userId, const QString &userName) const
 {
-    return QStringLiteral("UserName=%1;UserID=%2;AcctDB={%3};").arg(userName).arg(userId).arg(m_acctDb);
+    return propertyEntry(QStringLiteral("UserName"), userName)
+           + propertyEntry(QStringLiteral("UserID"), QString::number(userId))
+           + propertyEntry(QStringLiteral("AcctDB"), m_acctDb);
 }
 
 QSqlDatabase ScratchAccountSet::db() const
