@@ -59,6 +59,8 @@ public:
     // Version 3: the place totals kept by triggers, and the item-row index behind them.
     static constexpr int CurrentVersion = 4;
     static inline const QString VersionTable = QStringLiteral("t_SchemaVersion");
+    // Width of t_TaskMutex.FComputerName; the task mutex cuts computer names to it.
+    static constexpr int ComputerNameWidth = 80;
 
     static const QList<TableDecl> &tables();
     // Without regard to case; nullptr when the schema has no such table.
