@@ -114,6 +114,31 @@ private slots:
         QVERIFY(BalanceCheck::check(1, 10, 0, counter, false, 0, rules).valid);
         QCOMPARE(counter, 3);
     }
+
+    // A group is judged as the grid shows it: what shows as 0.00 is zero, what shows as 0.01 is not.
+    void judgedAsShown_data()
+    {
+        QTest::addColumn<double>("quantity");
+        QTest::addColumn<double>("amount");
+        QTest::addColumn<double>("difference");
+        QTest::addColumn<int>("emptyGroups"); // after the check; -1: refused
+        QTest::newRow("amount below its decimals") << 5.0 << 0.000001 << 0.0 << -1;
+        QTest::newRow("amount and difference below their decimals") << 5.0 << 0.004 << 0.004 << -1;
+        QTest::newRow("half of the last decimal shows") << 5.0 << 0.005 << 0.0 << 0;
+        QTest::newRow("quantity and amount below their decimals") << 0.0004 << 0.001 << 0.0 << 1;
+    }
+
+    void judgedAsShown()
+    {
+        QFETCH(double, quantity);
+        QFETCH(double, amount);
+        QFETCH(double, difference);
+        QFETCH(int, emptyGroups);
+        int counter = 0;
+        const BalanceVerdict verdict
+            = BalanceCheck::check(quantity, amount, difference, counter, false, 0, {OrdinaryStock, false, 1, 3, 2});
+        QCOMPARE(verdict.valid ? counter : -1, emptyGroups);
+    }
 };
 
 QTEST_MAIN(TestBalanceCheck)
