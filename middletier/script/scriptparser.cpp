@@ -41,7 +41,8 @@ QString quoteStatement(const QString &text, qsizetype begin, qsizetype end)
     bool blank = false;
     for (qsizetype i = begin; i < end && quote.size() < quotedLength; ++i) {
         const QChar c = text.at(i);
-        if (c.isSpace()) {
+        // A control character is refused, and quoted as a blank so the message stays readable.
+        if (c.isSpace() || c.category() == QChar::Other_Control) {
             blank = !quote.isEmpty();
             continue;
         }

@@ -17,6 +17,7 @@ inline const QString semicolonRefused = QStringLiteral("不允许用分号“;�
 inline const QString unterminatedString = QStringLiteral("文字%1缺少结束的单引号");
 inline const QString badCharacter = QStringLiteral("不允许的字符“%1”");
 inline const QString badNumber = QStringLiteral("数字“%1”必须是普通的十进制写法");
+inline const QString controlCharacter = QStringLiteral("文字中不允许有控制字符(%1)");
 
 // Grammar.
 inline const QString expected = QStringLiteral("在“%1”处应为%2");

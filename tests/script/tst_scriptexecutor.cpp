@@ -176,6 +176,9 @@ private slots:
         };
         QTest::newRow("drop table") << refused(u"drop table ICInvInitial"_s) << 2;
         QTest::newRow("select") << refused(u"SELECT FScale FROM t_Currency WHERE FCurrencyID=1"_s) << 2;
+        // PostgreSQL would refuse it only with a driver error; both backends refuse it alike.
+        QTest::newRow("NUL in a text") << refused(u"Update ICInvInitial Set FBegBal=1, FBegDiff=0, FYtdDebit=0, FBatchNo='a"_s
+                                                  + QChar(0) + u"' Where FFieldCompose='1|1|4|1|0'"_s) << 2;
         QTest::newRow("refused statement far down")
             << refused(u"Delete ICSerial Where FSNListID In (1)\r\nDelete ICSerial_F2 Where FSNListID In (1)"_s) << 3;
     }
