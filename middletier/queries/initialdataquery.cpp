@@ -15,30 +15,28 @@ namespace InitialDataQuery {
 Dictionary *fetch(const QSqlDatabase &db, const Request &request)
 {
     const PageWindow window(request.pageSize, request.pageIndex);
-    const auto sql = InitialDataSql::build(request.place, DialogFilter(request.filters, request.sort),
-                                           request.useShortNumber, SqlDialect::of(db));
+    const InitialDataSql sql = InitialDataSql::build(request.place, DialogFilter(request.filters, request.sort),
+                                                     request.useShortNumber, SqlDialect::of(db));
     qint64 recordCount = 0;
     QVector<QVariant> sums(ItemRowFields::figureFields().size(), 0.0);
     QVariant qtyDecimal;
-    if (sql) {
-        const script::BoundSql totals = sql->totals();
-        QSqlQuery query = SqlRun::exec(db, totals.sql, totals.values);
-        if (query.next()) {
-            recordCount = query.value(0).toLongLong();
-            for (qsizetype f = 0; f < sums.size(); ++f)
-                sums[f] = PlaceTotals::rounded(query.value(int(f) + 1).toDouble());
-        }
-        const script::BoundSql precision = sql->precision(recordCount);
-        QSqlQuery decimals = SqlRun::exec(db, precision.sql, precision.values);
-        if (decimals.next())
-            qtyDecimal = decimals.value(0);
+    const script::BoundSql totals = sql.totals();
+    QSqlQuery query = SqlRun::exec(db, totals.sql, totals.values);
+    if (query.next()) {
+        recordCount = query.value(0).toLongLong();
+        for (qsizetype f = 0; f < sums.size(); ++f)
+            sums[f] = PlaceTotals::rounded(query.value(int(f) + 1).toDouble());
     }
+    const script::BoundSql precision = sql.precision(recordCount);
+    QSqlQuery decimals = SqlRun::exec(db, precision.sql, precision.values);
+    if (decimals.next())
+        qtyDecimal = decimals.value(0);
 
     std::unique_ptr<Recordset> rows;
-    if (sql && window.offset() < recordCount) {
-        const script::BoundSql page = sql->page(window);
-        QSqlQuery query = SqlRun::exec(db, page.sql, page.values);
-        rows.reset(recordsetFromQuery(query, ItemRowFields::rowFields()));
+    if (window.offset() < recordCount) {
+        const script::BoundSql page = sql.page(window);
+        QSqlQuery pageQuery = SqlRun::exec(db, page.sql, page.values);
+        rows.reset(recordsetFromQuery(pageQuery, ItemRowFields::rowFields()));
     } else {
         rows = std::make_unique<Recordset>(ItemRowFields::rowFields());
     }

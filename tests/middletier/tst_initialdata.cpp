@@ -4,6 +4,7 @@
 #include "db/placetotals.h"
 #include "db/sqlrun.h"
 #include "demo/democompany.h"
+#include "mterrors.h"
 #include "queries/dataerrors.h"
 #include "queries/itemrowfields.h"
 #include "frame/automation/progids.h"
@@ -190,13 +191,13 @@ private slots:
         add("sum and name", {u"FItemName = '铜线'"_s, u"FInitBegQty > 1"_s, {}}, {}, 1, "3/0", 1, 2);
         add("sorted by a sum", {}, u"FInitBegQty DESC"_s, 1, "2/1 8/0 7/0", 8, PlaceQty);
         add("sorted by code, properties in order", {}, u"FNumber DESC"_s, 3, "2/1 1/0", 8, PlaceQty);
-        // Texts that are no plain filter select nothing, on each of the three filters and the sort; the
-        // totals are zeros then. What the filter parser refuses is its own suite's matter.
-        add("always true", {u"FNumber = 'x' OR 1=1"_s, {}, {}}, {}, 1, "", 0, 0);
-        add("second statement", {u"FNumber = '1.01.001'; DELETE FROM ICInvInitial"_s, {}, {}}, {}, 1, "", 0, 0);
-        add("bad actual filter", {{}, u"FPassword = 'x'"_s, {}}, {}, 1, "", 0, 0);
-        add("bad virtual filter", {{}, {}, u"FInitBegQty > 0 OR 1=1"_s}, {}, 1, "", 0, 0);
-        add("statement in the sort", {}, u"FNumber; DROP TABLE t_ICItem"_s, 1, "", 0, 0);
+        // Texts that are no plain filter are refused with an error the user sees (records -1), on
+        // each of the three filters and the sort. What the filter parser refuses is its own suite's matter.
+        add("always true", {u"FNumber = 'x' OR 1=1"_s, {}, {}}, {}, 1, "", -1, 0);
+        add("second statement", {u"FNumber = '1.01.001'; DELETE FROM ICInvInitial"_s, {}, {}}, {}, 1, "", -1, 0);
+        add("bad actual filter", {{}, u"FPassword = 'x'"_s, {}}, {}, 1, "", -1, 0);
+        add("bad virtual filter", {{}, {}, u"FInitBegQty > 0 OR 1=1"_s}, {}, 1, "", -1, 0);
+        add("statement in the sort", {}, u"FNumber; DROP TABLE t_ICItem"_s, 1, "", -1, 0);
     }
 
     void filtersSortsAndPagesSelectOnlyWhatTheySay()
@@ -215,6 +216,11 @@ private slots:
             return SqlRun::scalar(db, u"SELECT (SELECT count(*) FROM ICInvInitial) || '/' || (SELECT count(*) FROM t_ICItem)"_s);
         };
         const QVariant before = counts();
+        if (records < 0) {
+            QCOMPARE(errorNumberOf([&] { fetchPage(scratch, 3, pageIndex, filters, sort); }), MtError::FilterRefused);
+            QCOMPARE(counts(), before);
+            return;
+        }
 
         const Page page = fetchPage(scratch, 3, pageIndex, filters, sort);
         QVERIFY(page.rows && page.totals);
@@ -326,13 +332,13 @@ private slots:
         QTest::addColumn<QString>("filter");
         QTest::addColumn<QString>("sort");
         QTest::addColumn<QStringList>("batches"); // FBatchNo of the steel plate rows, in order
-        QTest::addColumn<int>("records");
+        QTest::addColumn<int>("records"); // -1: the filter or sort is refused with an error the user sees
         QTest::newRow("everything") << "" << "" << QStringList{u"B1"_s, u"B2"_s} << 9;
         QTest::newRow("one batch") << "FBatchNo = 'B2'" << "" << QStringList{u"B2"_s} << 1;
         QTest::newRow("batches backwards") << "FNumber = '1.01.001'" << "FBatchNo DESC"
                                            << QStringList{u"B2"_s, u"B1"_s} << 2;
-        QTest::newRow("refused filter") << "FBatchNo = 'B2' OR 1=1" << "" << QStringList{} << 0;
-        QTest::newRow("refused sort") << "" << "FBatchNo; DELETE FROM ICInvInitial" << QStringList{} << 0;
+        QTest::newRow("refused filter") << "FBatchNo = 'B2' OR 1=1" << "" << QStringList{} << -1;
+        QTest::newRow("refused sort") << "" << "FBatchNo; DELETE FROM ICInvInitial" << QStringList{} << -1;
     }
 
     void exportListsEveryRowOfThePlace()
@@ -343,8 +349,12 @@ private slots:
         QFETCH(int, records);
         ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
         seedPlace(scratch.db());
-        const auto rs = recordset(Data, u"FetchICExportData"_s,
-                                  {scratch.propsString(), Stock, 0, Period, filter, sort});
+        const QVariantList args{scratch.propsString(), Stock, 0, Period, filter, sort};
+        if (records < 0) {
+            QCOMPARE(errorNumberOf([&] { recordset(Data, u"FetchICExportData"_s, args); }), MtError::FilterRefused);
+            return;
+        }
+        const auto rs = recordset(Data, u"FetchICExportData"_s, args);
         QVERIFY(rs);
         QCOMPARE(rs->RecordCount(), records);
         QStringList steel;
