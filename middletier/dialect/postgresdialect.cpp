@@ -3,6 +3,13 @@
 #include <QSqlQuery>
 #include <QVariant>
 
+namespace {
+
+// SQLSTATE deadlock_detected.
+const QString DeadlockDetected = QStringLiteral("40P01");
+
+} // namespace
+
 QString PostgresDialect::columnType(ColumnType type, int size) const
 {
     switch (type) {
@@ -124,6 +131,11 @@ int PostgresDialect::maxBindValues() const
 {
     // Well under the protocol's 65535; QPSQL writes the values into the EXECUTE text.
     return 8000;
+}
+
+bool PostgresDialect::isDeadlock(const QSqlError &error) const
+{
+    return error.nativeErrorCode() == DeadlockDetected;
 }
 
 QStringList PostgresDialect::beforeRowTrigger(const RowTrigger &trigger) const

@@ -25,5 +25,6 @@ public:
     QStringList tableNames(const QSqlDatabase &db) const override;
     QStringList columnNames(const QSqlDatabase &db, const QString &table) const override;
     int maxBindValues() const override;
+    bool isDeadlock(const QSqlError &error) const override;
     QStringList beforeRowTrigger(const RowTrigger &trigger) const override;
 };

@@ -4,6 +4,7 @@
 #include "sqlbackend.h"
 
 #include <QSqlDatabase>
+#include <QSqlError>
 #include <QStringList>
 
 // Everything that differs between SQLite and PostgreSQL wherever SQL is written: the rewrites of
@@ -63,6 +64,9 @@ public:
 
     // How many values one statement may bind.
     virtual int maxBindValues() const = 0;
+    // The statement failed because the server broke a deadlock with another session by
+    // aborting this one's transaction: running it again may well succeed.
+    virtual bool isDeadlock(const QSqlError &error) const = 0;
 
     // A trigger before each row of a table is inserted, updated or deleted; the statements refer
     // to the row as NEW and OLD and see the rows the same statement wrote before it.

@@ -114,6 +114,12 @@ int SqliteDialect::maxBindValues() const
     return 999;
 }
 
+bool SqliteDialect::isDeadlock(const QSqlError &) const
+{
+    // Writers queue for the one database lock (with a busy timeout) and never deadlock.
+    return false;
+}
+
 QStringList SqliteDialect::beforeRowTrigger(const RowTrigger &trigger) const
 {
     // SQLite has one trigger per kind of change.

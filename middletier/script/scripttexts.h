@@ -54,6 +54,8 @@ inline const QString needsDate = QStringLiteral("列%1需要yyyy-mm-dd格式的�
 // Execution.
 inline const QString transactionRefused = QStringLiteral("无法开始事务：%1");
 inline const QString commitFailed = QStringLiteral("提交事务失败：%1");
+inline const QString deadlock = QStringLiteral(
+    "保存时与其他用户同时进行的保存互相等待(死锁)，重试后仍然如此。本次保存已全部撤消，没有写入任何数据，请稍后重新保存。");
 
 // Read statements.
 inline const QString readRefused = QStringLiteral("不允许执行这条查询语句");
