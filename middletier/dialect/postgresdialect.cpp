@@ -151,3 +151,16 @@ QStringList PostgresDialect::beforeRowTrigger(const RowTrigger &trigger) const
             QStringLiteral("CREATE TRIGGER %1 BEFORE INSERT OR UPDATE OR DELETE ON %2 FOR EACH ROW EXECUTE FUNCTION %1_fn()")
                 .arg(trigger.name, trigger.table)};
 }
+
+QStringList PostgresDialect::dropRowTrigger(const RowTrigger &trigger) const
+{
+    return {QStringLiteral("DROP TRIGGER IF EXISTS %1 ON %2").arg(trigger.name, trigger.table),
+            QStringLiteral("DROP FUNCTION IF EXISTS %1_fn()").arg(trigger.name)};
+}
+
+QStringList PostgresDialect::triggerLock(const QString &table, const QString &condition) const
+{
+    // A statement of a PL/pgSQL function sees what was committed when it starts, so the
+    // statements after the lock see the work of every session that held it before.
+    return {QStringLiteral("PERFORM 1 FROM %1 WHERE %2 FOR UPDATE").arg(table, condition)};
+}

@@ -79,6 +79,12 @@ public:
         QStringList onDelete;
     };
     virtual QStringList beforeRowTrigger(const RowTrigger &trigger) const = 0;
+    // Removes what beforeRowTrigger made (nothing when it is not there).
+    virtual QStringList dropRowTrigger(const RowTrigger &trigger) const = 0;
+    // Statements for a trigger body that lock the rows of `table` matching `condition` until
+    // the transaction ends, so that what the trigger reads after them includes every change
+    // committed before; empty where a writer holds the whole database anyway.
+    virtual QStringList triggerLock(const QString &table, const QString &condition) const = 0;
 
 protected:
     static QString placeholders(int count);

@@ -131,3 +131,17 @@ QStringList SqliteDialect::beforeRowTrigger(const RowTrigger &trigger) const
     return {create("Ins", "INSERT", trigger.onInsert), create("Upd", "UPDATE", trigger.onUpdate),
             create("Del", "DELETE", trigger.onDelete)};
 }
+
+QStringList SqliteDialect::dropRowTrigger(const RowTrigger &trigger) const
+{
+    QStringList statements;
+    for (const char *suffix : {"Ins", "Upd", "Del"})
+        statements.append(QStringLiteral("DROP TRIGGER IF EXISTS %1_%2").arg(trigger.name, QLatin1String(suffix)));
+    return statements;
+}
+
+QStringList SqliteDialect::triggerLock(const QString &, const QString &) const
+{
+    // A writer holds the whole database until it commits.
+    return {};
+}

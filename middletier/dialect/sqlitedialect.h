@@ -27,4 +27,6 @@ public:
     int maxBindValues() const override;
     bool isDeadlock(const QSqlError &error) const override;
     QStringList beforeRowTrigger(const RowTrigger &trigger) const override;
+    QStringList dropRowTrigger(const RowTrigger &trigger) const override;
+    QStringList triggerLock(const QString &table, const QString &condition) const override;
 };

@@ -1,6 +1,7 @@
 #include "scratchaccountset.h"
 #include "servicecalls.h"
 
+#include "db/accountset.h"
 #include "db/placetotals.h"
 #include "db/sqlrun.h"
 #include "demo/democompany.h"
@@ -13,7 +14,12 @@
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
 
+#include <QDeadlineTimer>
 #include <QTest>
+#include <QThread>
+
+#include <atomic>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -412,6 +418,58 @@ private slots:
         QCOMPARE(servedTotals(fetchPage(scratch, 3, 1)), QList<double>(PlaceTotals::figures().size() + 1, 0.0));
         // The other place of the warehouse and the other period kept theirs.
         QCOMPARE(fetchPage(scratch, 3, 1, {}, {}, OtherPlace).total("FInitBegQty"), 1000.0);
+    }
+
+    // Two sessions write rows of one item row at once. Counting the group's rows without the
+    // other's uncommitted change, each would take the item row as kept (or as new), and the
+    // place would keep a group that is gone (or count a new one twice).
+    void placeTotalsHoldUnderConcurrentSaves_data()
+    {
+        QTest::addColumn<QString>("first");  // this session's, held open
+        QTest::addColumn<QString>("second"); // the other session's, meanwhile
+        const QString lineDelete = u"DELETE FROM ICInvInitial WHERE FStockID=%1 AND FItemID=%2 AND FBatchNo='%3'"_s;
+        QTest::newRow("the last two lines deleted")
+            << lineDelete.arg(Stock).arg(SteelPlate).arg(u"B1"_s) << lineDelete.arg(Stock).arg(SteelPlate).arg(u"B2"_s);
+        QTest::newRow("the last lines deleted, another inserted")
+            << u"DELETE FROM ICInvInitial WHERE FStockID=%1 AND FItemID=%2"_s.arg(Stock).arg(SteelPlate)
+            << itemRowInsert(SteelPlate, 0, u"B3"_s, 1);
+    }
+
+    void placeTotalsHoldUnderConcurrentSaves()
+    {
+        QFETCH(QString, first);
+        QFETCH(QString, second);
+        REQUIRE_BACKEND(ScratchAccountSet::Postgres);
+        ScratchAccountSet scratch(ScratchAccountSet::Postgres);
+        const QSqlDatabase db = scratch.db();
+        seedPlace(db);
+        SqlRun::exec(db, u"BEGIN"_s);
+        SqlRun::exec(db, first);
+
+        std::atomic<int> otherPid = 0;
+        std::atomic<bool> otherDone = false;
+        QString otherFailure;
+        std::thread other([&] {
+            try {
+                const QSqlDatabase otherDb = AccountSet::open(scratch.acctDb()).database();
+                otherPid = SqlRun::scalar(otherDb, u"SELECT pg_backend_pid()"_s).toInt();
+                SqlRun::exec(otherDb, second);
+            } catch (const LumoError &error) {
+                otherFailure = error.description();
+            }
+            otherDone = true;
+        });
+        // Until the other session has written, or waits for this one to end.
+        const QDeadlineTimer patience(10000);
+        while (!otherDone && !patience.hasExpired()
+               && (otherPid == 0
+                   || SqlRun::scalar(db, u"SELECT count(*) FROM pg_locks WHERE pid=? AND NOT granted"_s, {int(otherPid)})
+                              .toInt() == 0))
+            QThread::msleep(5);
+        SqlRun::exec(db, u"COMMIT"_s);
+        other.join();
+        QCOMPARE(otherFailure, QString());
+        QCOMPARE(servedTotals(fetchPage(scratch, 3, 1)), summedAfresh(db));
     }
 };
 
