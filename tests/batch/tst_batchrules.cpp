@@ -308,11 +308,11 @@ private slots:
     {
         QList<qint32> serialLists(1001);
         std::iota(serialLists.begin(), serialLists.end(), 1);
-        const QStringList statements = BatchScript::build(BatchScriptKey{}, {}, serialLists).split(CRLF);
-        const QStringList serialDeletes = statements.filter(QStringLiteral("Delete ICSerial Where"));
-        QCOMPARE(serialDeletes.size(), 2);
-        QCOMPARE(serialDeletes.at(0).count(QLatin1Char(',')), 999);
-        QCOMPARE(serialDeletes.at(1), QStringLiteral("Delete ICSerial Where FSNListID In (1001)"));
+        const QStringList deletes =
+            BatchScript::build({}, {}, serialLists).split(CRLF).filter(QStringLiteral("ICSerial "));
+        // Of ICSerial: a thousand lists, then the last one.
+        QCOMPARE((QList<qsizetype>{deletes.size(), deletes.value(0).count(u','), deletes.value(1).count(u',')}),
+                 (QList<qsizetype>{2, 999, 0}));
     }
 
     void itemFromKey()

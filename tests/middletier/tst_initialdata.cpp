@@ -14,11 +14,8 @@
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
 
-#include <QDeadlineTimer>
 #include <QTest>
-#include <QThread>
 
-#include <atomic>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -443,32 +440,18 @@ private slots:
         ScratchAccountSet scratch(ScratchAccountSet::Postgres);
         const QSqlDatabase db = scratch.db();
         seedPlace(db);
-        SqlRun::exec(db, u"BEGIN"_s);
-        SqlRun::exec(db, first);
-
+        SqlRun::execAll(db, {u"BEGIN"_s, first});
         std::atomic<int> otherPid = 0;
-        std::atomic<bool> otherDone = false;
-        QString otherFailure;
         std::thread other([&] {
-            try {
-                const QSqlDatabase otherDb = AccountSet::open(scratch.acctDb()).database();
-                otherPid = SqlRun::scalar(otherDb, u"SELECT pg_backend_pid()"_s).toInt();
-                SqlRun::exec(otherDb, second);
-            } catch (const LumoError &error) {
-                otherFailure = error.description();
-            }
-            otherDone = true;
+            const QSqlDatabase own = AccountSet::open(scratch.acctDb()).database();
+            otherPid = SqlRun::scalar(own, u"SELECT pg_backend_pid()"_s).toInt();
+            SqlRun::exec(own, second);
         });
-        // Until the other session has written, or waits for this one to end.
-        const QDeadlineTimer patience(10000);
-        while (!otherDone && !patience.hasExpired()
-               && (otherPid == 0
-                   || SqlRun::scalar(db, u"SELECT count(*) FROM pg_locks WHERE pid=? AND NOT granted"_s, {int(otherPid)})
-                              .toInt() == 0))
-            QThread::msleep(5);
+        // The other session must wait for this one before it counts the group's rows.
+        const bool waited = scratch.awaitLockWait(otherPid);
         SqlRun::exec(db, u"COMMIT"_s);
         other.join();
-        QCOMPARE(otherFailure, QString());
+        QVERIFY(waited);
         QCOMPARE(servedTotals(fetchPage(scratch, 3, 1)), summedAfresh(db));
     }
 };

@@ -11,9 +11,11 @@
 
 #include <QAtomicInt>
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QTest>
+#include <QThread>
 
 namespace {
 
@@ -112,4 +114,16 @@ void addBackends()
     QTest::addColumn<QString>("backend");
     QTest::newRow(qPrintable(ScratchAccountSet::Sqlite)) << ScratchAccountSet::Sqlite;
     QTest::newRow(qPrintable(ScratchAccountSet::Postgres)) << ScratchAccountSet::Postgres;
+}
+
+bool ScratchAccountSet::awaitLockWait(const std::atomic<int> &pid) const
+{
+    const QDeadlineTimer patience(10000);
+    const QString waiting = QStringLiteral("SELECT count(*) FROM pg_locks WHERE pid = ? AND NOT granted");
+    while (pid == 0 || SqlRun::scalar(db(), waiting, {pid.load()}).toInt() == 0) {
+        if (patience.hasExpired())
+            return false;
+        QThread::msleep(5);
+    }
+    return true;
 }
