@@ -4,6 +4,7 @@
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dispatch.h"
 #include "frame/automation/lumoerror.h"
+#include "frame/automation/propertystring.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -13,19 +14,13 @@ namespace {
 
 const QString LoginMember = QStringLiteral("Login");
 
-// Values holding ";" or "=" (a PostgreSQL URI) are wrapped in braces.
-QString entry(const QString &key, const QString &value)
-{
-    const bool wrap = value.contains(QLatin1Char(';')) || value.contains(QLatin1Char('='));
-    return key + QLatin1Char('=') + (wrap ? QLatin1Char('{') + value + QLatin1Char('}') : value) + QLatin1Char(';');
-}
-
 } // namespace
 
 QString AccountSession::propsString() const
 {
-    return entry(QStringLiteral("UserName"), userName) + entry(QStringLiteral("UserID"), QString::number(userId))
-           + entry(QStringLiteral("AcctDB"), accountSet);
+    return propertyEntry(QStringLiteral("UserName"), userName)
+           + propertyEntry(QStringLiteral("UserID"), QString::number(userId))
+           + propertyEntry(QStringLiteral("AcctDB"), accountSet);
 }
 
 namespace AccountSetup {
@@ -42,7 +37,10 @@ bool logIn(const QString &accountSet, const QString &userName, AccountSession *s
     try {
         const std::unique_ptr<QObject> glData = CreateObject(ProgId::GLData);
         const int userId = Dispatch::call(glData.get(), LoginMember, {accountSet, userName}).toInt();
-        *session = AccountSession{accountSet, userName, userId};
+        AccountSession loggedIn{accountSet, userName, userId};
+        // A name or path the property string cannot carry is refused here, before it is published.
+        loggedIn.propsString();
+        *session = loggedIn;
         return true;
     } catch (const LumoError &e) {
         *error = e.description();

@@ -10,6 +10,7 @@ struct AccountSession
     QString userName;
     int userId = 0;
 
+    // Throws LumoError for a user name or account set the property string cannot carry.
     QString propsString() const;
 };
 

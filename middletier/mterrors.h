@@ -22,6 +22,7 @@ constexpr int QueryFailed = Base + 10;
 constexpr int BadTypeList = Base + 20;
 constexpr int ScriptFailed = Base + 30;
 constexpr int StatementRefused = Base + 31;
+constexpr int FilterRefused = Base + 32;
 constexpr int NotLoggedIn = Base + 40;
 constexpr int UnknownCurrency = Base + 50;
 constexpr int DemoNotEmpty = Base + 90;

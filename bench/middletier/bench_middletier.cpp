@@ -277,7 +277,7 @@ void benchPage(const QString &backend, const QString &cacheDir)
         int rows = 0;
         for (int run = 0; run <= PageRuns; ++run) {
             const double s = timed([&] { rows = servicePage(data, set->propsString(), stockId, pageIndex); });
-            const double r = timed([&] { rawPage(db, *sql, pageIndex); });
+            const double r = timed([&] { rawPage(db, sql, pageIndex); });
             if (run == 0)
                 continue;
             service.push_back(s);

@@ -2,6 +2,7 @@
 
 #include "dialect/sqldialect.h"
 #include "mterrors.h"
+#include "schema.h"
 #include "schemamanager.h"
 #include "sqlrun.h"
 
@@ -18,6 +19,7 @@ namespace {
 
 const QString Source = QStringLiteral("AccountSet");
 const QString SqliteConnectOptions = QStringLiteral("QSQLITE_BUSY_TIMEOUT=10000");
+const QString SqliteProbeOptions = QStringLiteral("QSQLITE_OPEN_READONLY");
 const QString PostgresConnectOptions = QStringLiteral("connect_timeout=10");
 
 // This thread's connections by account-set key; removed when the thread ends.
@@ -108,12 +110,55 @@ void requireExisting(const AcctDbLocation &location)
         throw LumoError(MtError::AcctDbNotFound, MtError::AcctDbNotFoundText.arg(location.displayName()), Source);
 }
 
-// The schema version; a database without one is not an account set.
-int accountSetVersion(const SchemaManager &schema, const AcctDbLocation &location)
+// A read-only connection to a SQLite file, removed again when it goes out of scope.
+class FileProbe
 {
-    const int version = schema.version();
+public:
+    explicit FileProbe(const AcctDbLocation &location)
+        : m_name(connectionName(location) + QStringLiteral(":probe"))
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(SqlDialect::of(location.backend()).driverName(), m_name);
+        location.configure(db);
+        db.setConnectOptions(SqliteProbeOptions);
+        if (!db.open()) {
+            const QString message = db.lastError().text();
+            db = QSqlDatabase();
+            QSqlDatabase::removeDatabase(m_name);
+            throw LumoError(MtError::AcctDbOpenFailed,
+                            MtError::AcctDbOpenFailedText.arg(location.displayName(), message), Source);
+        }
+    }
+    ~FileProbe()
+    {
+        QSqlDatabase::database(m_name, false).close();
+        QSqlDatabase::removeDatabase(m_name);
+    }
+    FileProbe(const FileProbe &) = delete;
+    FileProbe &operator=(const FileProbe &) = delete;
+
+    int version() const
+    {
+        return SchemaManager(QSqlDatabase::database(m_name, false), SqlDialect::of(SqlBackend::SQLite)).version();
+    }
+
+private:
+    QString m_name;
+};
+
+// The schema version of an account set this program can work on. A SQLite file is read through
+// a read-only connection first: the session setup of a working connection switches the file to
+// WAL, and a file that is refused must be left exactly as it was (an empty file, too, which a
+// working connection would turn into a database).
+int checkedVersion(const AcctDbLocation &location)
+{
+    const int version = location.isPostgres()
+                            ? SchemaManager(connect(location), SqlDialect::of(location.backend())).version()
+                            : FileProbe(location).version();
     if (version == 0)
         throw LumoError(MtError::NotAnAccountSet, MtError::NotAnAccountSetText.arg(location.displayName()), Source);
+    if (version > Schema::CurrentVersion)
+        throw LumoError(MtError::SchemaTooNew, MtError::SchemaTooNewText.arg(version).arg(Schema::CurrentVersion),
+                        Source);
     return version;
 }
 
@@ -142,13 +187,13 @@ AccountSet AccountSet::open(const QString &acctDb)
 {
     const AcctDbLocation location = AcctDbLocation::parse(acctDb);
     requireExisting(location);
+    if (isChecked(location.key()))
+        return AccountSet(location, connect(location));
+    const int version = checkedVersion(location);
     QSqlDatabase db = connect(location);
-    if (!isChecked(location.key())) {
-        SchemaManager schema(db, SqlDialect::of(location.backend()));
-        if (accountSetVersion(schema, location) != Schema::CurrentVersion)
-            schema.migrate();
-        setChecked(location.key(), true);
-    }
+    if (version != Schema::CurrentVersion)
+        SchemaManager(db, SqlDialect::of(location.backend())).migrate();
+    setChecked(location.key(), true);
     return AccountSet(location, db);
 }
 
@@ -173,9 +218,8 @@ int AccountSet::migrate(const QString &acctDb)
 {
     const AcctDbLocation location = AcctDbLocation::parse(acctDb);
     requireExisting(location);
-    SchemaManager schema(connect(location), SqlDialect::of(location.backend()));
-    accountSetVersion(schema, location);
-    const int before = schema.migrate();
+    checkedVersion(location);
+    const int before = SchemaManager(connect(location), SqlDialect::of(location.backend())).migrate();
     setChecked(location.key(), true);
     return before;
 }

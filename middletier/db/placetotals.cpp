@@ -41,29 +41,49 @@ const QString SameGroup = QStringLiteral("OLD.FStockID=NEW.FStockID AND OLD.FSPI
 // statement are already there: on PostgreSQL an after-row trigger would only run once the whole
 // statement is done and could not tell the first row of an item row from the last one.
 
+// Whether a row is the first or the last of its group is counted only once the place's totals
+// row is locked: two sessions that counted at once, each without the other's uncommitted row,
+// would both take a group as kept when they delete its last two rows, or both as new when they
+// insert its first two.
+
 // A row leaves its place: the place loses the item row when the row is the group's last one.
-QString removed(bool update)
+QStringList removed(const SqlDialect &dialect, bool update)
 {
     QString lastRow = rowsOfGroup(QStringLiteral("OLD")) + QStringLiteral("=1");
     if (update)
         lastRow = QStringLiteral("NOT (%1) AND %2").arg(SameGroup, lastRow);
-    return QStringLiteral("UPDATE %1 SET %2=%2-CASE WHEN %3 THEN 1 ELSE 0 END, %4 WHERE %5")
-        .arg(PlaceTotals::Table, PlaceTotals::GroupCount, lastRow,
-             figureChanges(QStringLiteral("OLD"), QLatin1Char('-')), placeOf(QStringLiteral("OLD")));
+    return dialect.triggerLock(PlaceTotals::Table, placeOf(QStringLiteral("OLD")))
+           + QStringList{QStringLiteral("UPDATE %1 SET %2=%2-CASE WHEN %3 THEN 1 ELSE 0 END, %4 WHERE %5")
+                             .arg(PlaceTotals::Table, PlaceTotals::GroupCount, lastRow,
+                                  figureChanges(QStringLiteral("OLD"), QLatin1Char('-')),
+                                  placeOf(QStringLiteral("OLD")))};
 }
 
 // A row arrives at its place: a new item row when its group has no row yet.
-QStringList added(bool update)
+QStringList added(const SqlDialect &dialect, bool update)
 {
     QString firstRow = rowsOfGroup(QStringLiteral("NEW")) + QStringLiteral("=0");
     if (update)
         firstRow = QStringLiteral("NOT (%1) AND %2").arg(SameGroup, firstRow);
-    return {QStringLiteral("INSERT INTO %1 (FStockID,FSPID,FPeriod) VALUES (NEW.FStockID,NEW.FSPID,NEW.FPeriod) "
-                           "ON CONFLICT DO NOTHING")
-                .arg(PlaceTotals::Table),
-            QStringLiteral("UPDATE %1 SET %2=%2+CASE WHEN %3 THEN 1 ELSE 0 END, %4 WHERE %5")
-                .arg(PlaceTotals::Table, PlaceTotals::GroupCount, firstRow,
-                     figureChanges(QStringLiteral("NEW"), QLatin1Char('+')), placeOf(QStringLiteral("NEW")))};
+    return QStringList{QStringLiteral("INSERT INTO %1 (FStockID,FSPID,FPeriod) VALUES (NEW.FStockID,NEW.FSPID,"
+                                      "NEW.FPeriod) ON CONFLICT DO NOTHING")
+                           .arg(PlaceTotals::Table)}
+           + dialect.triggerLock(PlaceTotals::Table, placeOf(QStringLiteral("NEW")))
+           + QStringList{QStringLiteral("UPDATE %1 SET %2=%2+CASE WHEN %3 THEN 1 ELSE 0 END, %4 WHERE %5")
+                             .arg(PlaceTotals::Table, PlaceTotals::GroupCount, firstRow,
+                                  figureChanges(QStringLiteral("NEW"), QLatin1Char('+')),
+                                  placeOf(QStringLiteral("NEW")))};
+}
+
+SqlDialect::RowTrigger rowTrigger(const SqlDialect &dialect)
+{
+    SqlDialect::RowTrigger trigger;
+    trigger.name = TriggerName;
+    trigger.table = Rows;
+    trigger.onInsert = added(dialect, false);
+    trigger.onUpdate = removed(dialect, true) + added(dialect, true);
+    trigger.onDelete = removed(dialect, false);
+    return trigger;
 }
 
 } // namespace
@@ -80,13 +100,12 @@ const QStringList &PlaceTotals::figures()
 
 QStringList PlaceTotals::triggerStatements(const SqlDialect &dialect)
 {
-    SqlDialect::RowTrigger trigger;
-    trigger.name = TriggerName;
-    trigger.table = Rows;
-    trigger.onInsert = added(false);
-    trigger.onUpdate = QStringList{removed(true)} + added(true);
-    trigger.onDelete = {removed(false)};
-    return dialect.beforeRowTrigger(trigger);
+    return dialect.beforeRowTrigger(rowTrigger(dialect));
+}
+
+QStringList PlaceTotals::dropTriggerStatements(const SqlDialect &dialect)
+{
+    return dialect.dropRowTrigger(rowTrigger(dialect));
 }
 
 QString PlaceTotals::backfill()

@@ -17,11 +17,15 @@ public:
     static inline const QString Table = QStringLiteral("ICInvInitialTotals");
     static inline const QString GroupCount = QStringLiteral("FGroups");
     static constexpr int Since = 3;
+    // The version whose triggers lock the place's totals before they count its item rows.
+    static constexpr int LockingSince = 5;
 
     // The twelve figure columns, named as in ICInvInitial.
     static const QStringList &figures();
     // The triggers on ICInvInitial that keep the table.
     static QStringList triggerStatements(const SqlDialect &dialect);
+    // Removes them, so that a newer version can put its own in their place.
+    static QStringList dropTriggerStatements(const SqlDialect &dialect);
     // Fills the table from the rows already there (an account set upgraded to the version).
     static QString backfill();
     // FGroups and the twelve sums of one place: '?' for FStockID, FSPID, FPeriod.

@@ -57,8 +57,12 @@ public:
     // Version 2: auxiliary properties, inventory balances after start-up, balance-adjustment
     // bills, report formats, filter field lists, the composed-key index.
     // Version 3: the place totals kept by triggers, and the item-row index behind them.
-    static constexpr int CurrentVersion = 4;
+    // Version 4: the quantity-precision index.
+    // Version 5: the place-totals triggers lock the place before they count (PlaceTotals).
+    static constexpr int CurrentVersion = 5;
     static inline const QString VersionTable = QStringLiteral("t_SchemaVersion");
+    // Width of t_TaskMutex.FComputerName; the task mutex cuts computer names to it.
+    static constexpr int ComputerNameWidth = 80;
 
     static const QList<TableDecl> &tables();
     // Without regard to case; nullptr when the schema has no such table.

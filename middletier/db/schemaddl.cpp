@@ -77,6 +77,9 @@ QStringList SchemaDdl::migrate(int from, int to) const
     if (from < PlaceTotals::Since && to >= PlaceTotals::Since) {
         statements += PlaceTotals::triggerStatements(m_dialect);
         statements.append(PlaceTotals::backfill());
+    } else if (from < PlaceTotals::LockingSince && to >= PlaceTotals::LockingSince) {
+        statements += PlaceTotals::dropTriggerStatements(m_dialect);
+        statements += PlaceTotals::triggerStatements(m_dialect);
     }
     return statements;
 }

@@ -3,6 +3,13 @@
 #include <QSqlQuery>
 #include <QVariant>
 
+namespace {
+
+// SQLSTATE deadlock_detected.
+const QString DeadlockDetected = QStringLiteral("40P01");
+
+} // namespace
+
 QString PostgresDialect::columnType(ColumnType type, int size) const
 {
     switch (type) {
@@ -132,6 +139,11 @@ int PostgresDialect::maxBindValues() const
     return 8000;
 }
 
+bool PostgresDialect::isDeadlock(const QSqlError &error) const
+{
+    return error.nativeErrorCode() == DeadlockDetected;
+}
+
 QStringList PostgresDialect::beforeRowTrigger(const RowTrigger &trigger) const
 {
     // One trigger function that branches on the kind of change; the row goes on as it came.
@@ -144,4 +156,17 @@ QStringList PostgresDialect::beforeRowTrigger(const RowTrigger &trigger) const
                      body(trigger.onDelete, "OLD")),
             QStringLiteral("CREATE TRIGGER %1 BEFORE INSERT OR UPDATE OR DELETE ON %2 FOR EACH ROW EXECUTE FUNCTION %1_fn()")
                 .arg(trigger.name, trigger.table)};
+}
+
+QStringList PostgresDialect::dropRowTrigger(const RowTrigger &trigger) const
+{
+    return {QStringLiteral("DROP TRIGGER IF EXISTS %1 ON %2").arg(trigger.name, trigger.table),
+            QStringLiteral("DROP FUNCTION IF EXISTS %1_fn()").arg(trigger.name)};
+}
+
+QStringList PostgresDialect::triggerLock(const QString &table, const QString &condition) const
+{
+    // A statement of a PL/pgSQL function sees what was committed when it starts, so the
+    // statements after the lock see the work of every session that held it before.
+    return {QStringLiteral("PERFORM 1 FROM %1 WHERE %2 FOR UPDATE").arg(table, condition)};
 }

@@ -26,5 +26,8 @@ public:
     QStringList tableNames(const QSqlDatabase &db) const override;
     QStringList columnNames(const QSqlDatabase &db, const QString &table) const override;
     int maxBindValues() const override;
+    bool isDeadlock(const QSqlError &error) const override;
     QStringList beforeRowTrigger(const RowTrigger &trigger) const override;
+    QStringList dropRowTrigger(const RowTrigger &trigger) const override;
+    QStringList triggerLock(const QString &table, const QString &condition) const override;
 };

@@ -4,6 +4,7 @@
 #include "sqlbackend.h"
 
 #include <QSqlDatabase>
+#include <QSqlError>
 #include <QStringList>
 
 // Everything that differs between SQLite and PostgreSQL wherever SQL is written: the rewrites of
@@ -66,6 +67,9 @@ public:
 
     // How many values one statement may bind.
     virtual int maxBindValues() const = 0;
+    // The statement failed because the server broke a deadlock with another session by
+    // aborting this one's transaction: running it again may well succeed.
+    virtual bool isDeadlock(const QSqlError &error) const = 0;
 
     // A trigger before each row of a table is inserted, updated or deleted; the statements refer
     // to the row as NEW and OLD and see the rows the same statement wrote before it.
@@ -78,6 +82,12 @@ public:
         QStringList onDelete;
     };
     virtual QStringList beforeRowTrigger(const RowTrigger &trigger) const = 0;
+    // Removes what beforeRowTrigger made (nothing when it is not there).
+    virtual QStringList dropRowTrigger(const RowTrigger &trigger) const = 0;
+    // Statements for a trigger body that lock the rows of `table` matching `condition` until
+    // the transaction ends, so that what the trigger reads after them includes every change
+    // committed before; empty where a writer holds the whole database anyway.
+    virtual QStringList triggerLock(const QString &table, const QString &condition) const = 0;
 
 protected:
     static QString placeholders(int count);

@@ -119,6 +119,12 @@ int SqliteDialect::maxBindValues() const
     return 999;
 }
 
+bool SqliteDialect::isDeadlock(const QSqlError &) const
+{
+    // Writers queue for the one database lock (with a busy timeout) and never deadlock.
+    return false;
+}
+
 QStringList SqliteDialect::beforeRowTrigger(const RowTrigger &trigger) const
 {
     // SQLite has one trigger per kind of change.
@@ -129,4 +135,18 @@ QStringList SqliteDialect::beforeRowTrigger(const RowTrigger &trigger) const
     };
     return {create("Ins", "INSERT", trigger.onInsert), create("Upd", "UPDATE", trigger.onUpdate),
             create("Del", "DELETE", trigger.onDelete)};
+}
+
+QStringList SqliteDialect::dropRowTrigger(const RowTrigger &trigger) const
+{
+    QStringList statements;
+    for (const char *suffix : {"Ins", "Upd", "Del"})
+        statements.append(QStringLiteral("DROP TRIGGER IF EXISTS %1_%2").arg(trigger.name, QLatin1String(suffix)));
+    return statements;
+}
+
+QStringList SqliteDialect::triggerLock(const QString &, const QString &) const
+{
+    // A writer holds the whole database until it commits.
+    return {};
 }

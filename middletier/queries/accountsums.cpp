@@ -113,21 +113,19 @@ script::FilterFields filterFields(const QString &alias)
 
 Recordset *fetch(const QSqlDatabase &db, int period, const QString &filter, const QString &sort)
 {
-    const auto applied = DialogFilter({filter}, sort).apply(filterFields(QStringLiteral("x")),
-                                                            SqlDialect::of(db));
-    if (!applied)
-        return new Recordset(fields());
+    const DialogFilter::Applied applied = DialogFilter({filter}, sort).apply(filterFields(QStringLiteral("x")),
+                                                                            SqlDialect::of(db));
     const script::BoundSql table = derivedTable(db, period);
-    QList<SortKey> order = applied->sort;
+    QList<SortKey> order = applied.sort;
     order.append({QStringLiteral("x.FNumber"), false});
     QStringList columns;
     for (const QString &name : fields())
         columns.append(QStringLiteral("x.") + name);
-    const QString where = applied->where.isEmpty() ? QString() : QStringLiteral(" WHERE ") + applied->where.sql;
+    const QString where = applied.where.isEmpty() ? QString() : QStringLiteral(" WHERE ") + applied.where.sql;
     QSqlQuery query = SqlRun::exec(db,
                                    QStringLiteral("SELECT %1 FROM %2 x%3 ORDER BY %4")
                                        .arg(columns.join(QStringLiteral(", ")), table.sql, where, orderByText(order)),
-                                   table.values + applied->where.values);
+                                   table.values + applied.where.values);
     return recordsetFromQuery(query, fields());
 }
 

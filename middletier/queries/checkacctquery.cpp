@@ -81,15 +81,13 @@ const QStringList &fields()
 Dictionary *fetch(const QSqlDatabase &db, const Request &request)
 {
     const PageWindow window(request.pageSize, request.pageIndex);
-    const auto applied = DialogFilter(request.filters, request.sort)
-                             .apply(reconciliationFields(), SqlDialect::of(db));
+    const DialogFilter::Applied applied = DialogFilter(request.filters, request.sort)
+                                              .apply(reconciliationFields(), SqlDialect::of(db));
     const qsizetype sumCount = request.withTotals ? ItemRowFields::figureFields().size() : 0;
     const auto empty = [&] {
         return PagedResult::make(std::make_unique<Recordset>(fields()), 0, 0,
                                  PagedResult::totals(db, QVector<QVariant>(sumCount, 0.0)));
     };
-    if (!applied)
-        return empty();
 
     const script::BoundSql table = reconciliationTable(db, request.period);
     QStringList conditions;
@@ -98,9 +96,9 @@ Dictionary *fetch(const QSqlDatabase &db, const Request &request)
         conditions.append(QStringLiteral("y.FAccountID=?"));
         values.append(request.accountId);
     }
-    if (!applied->where.isEmpty()) {
-        conditions.append(applied->where.sql);
-        values += applied->where.values;
+    if (!applied.where.isEmpty()) {
+        conditions.append(applied.where.sql);
+        values += applied.where.values;
     }
     const QString from = QStringLiteral("FROM %1 y%2").arg(
         table.sql, conditions.isEmpty() ? QString() : QStringLiteral(" WHERE ") + conditions.join(QStringLiteral(" AND ")));
@@ -120,7 +118,7 @@ Dictionary *fetch(const QSqlDatabase &db, const Request &request)
     if (recordCount == 0)
         return empty();
 
-    QList<SortKey> order = applied->sort;
+    QList<SortKey> order = applied.sort;
     order.append({QStringLiteral("y.FNumber"), false});
     QStringList columns;
     for (const QString &name : fields())

@@ -12,7 +12,6 @@ constexpr int BadPage = MtError::Base + 100;
 constexpr int BadPlaceItemKey = MtError::Base + 101;
 constexpr int BadErpClassCondition = MtError::Base + 102;
 constexpr int BadFieldListKind = MtError::Base + 103;
-constexpr int BadFilter = MtError::Base + 104;
 constexpr int UnknownAccount = MtError::Base + 110;
 constexpr int UnknownUser = MtError::Base + 120;
 constexpr int ForbiddenUser = MtError::Base + 121;

@@ -3,8 +3,11 @@
 #include "script/filtererror.h"
 #include "script/filterparser.h"
 
+#include "mterrors.h"
+
 namespace {
 
+const QString Source = QStringLiteral("DialogFilter");
 const QString Descending = QStringLiteral(" DESC");
 const QString Ascending = QStringLiteral(" ASC");
 const QChar SortSeparator = QLatin1Char(',');
@@ -32,8 +35,7 @@ DialogFilter::DialogFilter(const QStringList &filters, const QString &sort)
 {
 }
 
-std::optional<DialogFilter::Applied> DialogFilter::apply(const script::FilterFields &fields,
-                                                         const SqlDialect &dialect) const
+DialogFilter::Applied DialogFilter::apply(const script::FilterFields &fields, const SqlDialect &dialect) const
 {
     const script::FilterParser parser(fields, dialect);
     Applied applied;
@@ -48,23 +50,20 @@ std::optional<DialogFilter::Applied> DialogFilter::apply(const script::FilterFie
         }
         applied.where.sql = conditions.join(QStringLiteral(" AND "));
         applied.sort = sortKeys(parser, m_sort);
-    } catch (const script::FilterError &) {
-        return std::nullopt;
+    } catch (const script::FilterError &error) {
+        throw LumoError(MtError::FilterRefused, error.text(), Source);
     }
     return applied;
 }
 
-QString DialogFilter::refusal(const script::FilterFields &fields, const SqlDialect &dialect) const
+std::optional<DialogFilter::Applied> DialogFilter::tryApply(const script::FilterFields &fields,
+                                                            const SqlDialect &dialect) const
 {
-    const script::FilterParser parser(fields, dialect);
     try {
-        for (const QString &filter : m_filters)
-            parser.where(filter);
-        parser.orderBy(m_sort);
-    } catch (const script::FilterError &error) {
-        return error.text();
+        return apply(fields, dialect);
+    } catch (const LumoError &) {
+        return std::nullopt;
     }
-    return {};
 }
 
 QString orderByText(const QList<SortKey> &keys)

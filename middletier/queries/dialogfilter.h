@@ -36,11 +36,12 @@ public:
     // " where 1=1 and ") add nothing.
     DialogFilter(const QStringList &filters, const QString &sort);
 
-    // Nothing when a text names an undeclared field or is not a filter or sort at all: such a
-    // text selects nothing, it never reaches the database.
-    std::optional<Applied> apply(const script::FilterFields &fields, const SqlDialect &dialect) const;
-    // Why apply() refuses the texts, in words for the user; empty when it does not.
-    QString refusal(const script::FilterFields &fields, const SqlDialect &dialect) const;
+    // Throws LumoError (MtError::FilterRefused, with the parser's reason) when a text names an
+    // undeclared field or is not a filter or sort at all: the user is told, rather than shown an
+    // empty page, and the text never reaches the database.
+    Applied apply(const script::FilterFields &fields, const SqlDialect &dialect) const;
+    // The same, nothing when refused: for a data set that has other fields to try the texts on.
+    std::optional<Applied> tryApply(const script::FilterFields &fields, const SqlDialect &dialect) const;
 
 private:
     QStringList m_filters;

@@ -73,10 +73,8 @@ const QStringList &fields()
 
 Recordset *fetch(const QSqlDatabase &db, const Request &request)
 {
-    const auto applied = DialogFilter({request.filter}, request.sort)
-                             .apply(exportFilterFields(), SqlDialect::of(db));
-    if (!applied)
-        return new Recordset(fields());
+    const DialogFilter::Applied applied = DialogFilter({request.filter}, request.sort)
+                                              .apply(exportFilterFields(), SqlDialect::of(db));
     QStringList select;
     for (const auto &column : columns())
         select.append(column.second);
@@ -86,11 +84,11 @@ Recordset *fetch(const QSqlDatabase &db, const Request &request)
         where += QStringLiteral(" AND v.FStockID=? AND v.FSPID=?");
         values << request.stockId << request.spId;
     }
-    if (!applied->where.isEmpty()) {
-        where += QStringLiteral(" AND ") + applied->where.sql;
-        values += applied->where.values;
+    if (!applied.where.isEmpty()) {
+        where += QStringLiteral(" AND ") + applied.where.sql;
+        values += applied.where.values;
     }
-    QList<SortKey> order = applied->sort;
+    QList<SortKey> order = applied.sort;
     for (const char *column : {"s.FNumber", "coalesce(p.FNumber,'')", "i.FNumber", "v.FAuxPropID", "v.FBatchNo",
                                "v.FKFDate", "v.FBillInterID", "v.FEntryID"})
         order.append({QString::fromLatin1(column), false});

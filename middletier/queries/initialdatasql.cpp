@@ -19,14 +19,13 @@ QString andCondition(const script::BoundSql &where)
 
 } // namespace
 
-std::optional<InitialDataSql> InitialDataSql::build(const PlacePeriod &place, const DialogFilter &filter,
-                                                    bool useShortNumber, const SqlDialect &dialect)
+InitialDataSql InitialDataSql::build(const PlacePeriod &place, const DialogFilter &filter, bool useShortNumber,
+                                     const SqlDialect &dialect)
 {
-    if (const auto itemLevel = filter.apply(ItemRowFields::filterFields(true), dialect))
+    if (const auto itemLevel = filter.tryApply(ItemRowFields::filterFields(true), dialect))
         return InitialDataSql(place, *itemLevel, false, useShortNumber, dialect);
-    if (const auto groupLevel = filter.apply(ItemRowFields::filterFields(false), dialect))
-        return InitialDataSql(place, *groupLevel, true, useShortNumber, dialect);
-    return std::nullopt;
+    return InitialDataSql(place, filter.apply(ItemRowFields::filterFields(false), dialect), true, useShortNumber,
+                          dialect);
 }
 
 InitialDataSql::InitialDataSql(const PlacePeriod &place, const DialogFilter::Applied &applied, bool groupsFirst,

@@ -33,9 +33,10 @@ struct PlacePeriod
 class LUMOMIDDLETIER_EXPORT InitialDataSql
 {
 public:
-    // Nothing when a filter or sort text is refused (DialogFilter::apply).
-    static std::optional<InitialDataSql> build(const PlacePeriod &place, const DialogFilter &filter,
-                                               bool useShortNumber, const SqlDialect &dialect);
+    // Throws LumoError when a filter or sort text is refused on the group fields as well
+    // (DialogFilter::apply).
+    static InitialDataSql build(const PlacePeriod &place, const DialogFilter &filter, bool useShortNumber,
+                                const SqlDialect &dialect);
 
     bool groupsFirst() const { return m_groupsFirst; }
     // The item rows of the page (ItemRowFields::rowFields()).

@@ -1,5 +1,6 @@
 #include "taskmutexstore.h"
 
+#include "db/schema.h"
 #include "db/sqlrun.h"
 #include "db/transaction.h"
 #include "dialect/sqldialect.h"
@@ -28,8 +29,13 @@ QVariant asDateTime(const QVariant &value)
 TaskMutexStore::TaskMutexStore(const QSqlDatabase &db, const SqlDialect &dialect, const QString &localComputer)
     : m_db(db)
     , m_dialect(dialect)
-    , m_localComputer(localComputer)
+    , m_localComputer(storedName(localComputer))
 {
+}
+
+QString TaskMutexStore::storedName(const QString &computerName)
+{
+    return computerName.trimmed().left(Schema::ComputerNameWidth);
 }
 
 bool TaskMutexStore::processAlive(qint64 processId)
@@ -37,36 +43,37 @@ bool TaskMutexStore::processAlive(qint64 processId)
     return processId > 0 && QFileInfo::exists(QStringLiteral("/proc/%1").arg(processId));
 }
 
-int TaskMutexStore::clearStaleInTransaction()
+QList<int> TaskMutexStore::clearStaleInTransaction()
 {
-    QSqlQuery local =
-        SqlRun::exec(m_db, QStringLiteral("SELECT FTaskHandle, FProcessID, FComputerName FROM t_TaskMutex"));
+    QSqlQuery all = SqlRun::exec(
+        m_db, QStringLiteral("SELECT FTaskHandle, FProcessID, FComputerName, FStartTime FROM t_TaskMutex"));
+    const QDateTime expired = QDateTime::currentDateTime().addSecs(-RemoteLifetimeSeconds);
     QList<int> stale;
-    while (local.next()) {
-        if (local.value(2).toString().compare(m_localComputer, Qt::CaseInsensitive) == 0 &&
-            !processAlive(local.value(1).toLongLong()))
-            stale.append(local.value(0).toInt());
+    while (all.next()) {
+        const bool local = all.value(2).toString().compare(m_localComputer, Qt::CaseInsensitive) == 0;
+        if (local ? !processAlive(all.value(1).toLongLong()) : asDateTime(all.value(3)).toDateTime() < expired)
+            stale.append(all.value(0).toInt());
     }
-    local.finish();
+    all.finish();
     for (const int handle : stale)
         SqlRun::exec(m_db, QStringLiteral("DELETE FROM t_TaskMutex WHERE FTaskHandle=?"), {handle});
-    return int(stale.size());
+    return stale;
 }
 
 int TaskMutexStore::clearStale()
 {
     Transaction transaction(m_db, m_dialect, Table);
-    const int removed = clearStaleInTransaction();
+    const qsizetype removed = clearStaleInTransaction().size();
     transaction.commit();
-    return removed;
+    return int(removed);
 }
 
 int TaskMutexStore::registerTask(const TaskSession &session, const TaskRequest &request)
 {
     Transaction transaction(m_db, m_dialect, Table);
     clearStaleInTransaction();
-    const QVariantList sessionValues{request.taskId, session.userId, SqlRun::text(session.computerName),
-                                     session.processId};
+    const QString computerName = storedName(session.computerName);
+    const QVariantList sessionValues{request.taskId, session.userId, SqlRun::text(computerName), session.processId};
 
     const int conflicts = SqlRun::scalar(m_db,
                                          QStringLiteral("SELECT count(*) FROM t_TaskMutex WHERE FTaskID=? AND NOT "
@@ -99,7 +106,7 @@ int TaskMutexStore::registerTask(const TaskSession &session, const TaskRequest &
                 "FKind, FFlagA, FFlagB, FExtra, FStartTime, FCommitted) "
                 "VALUES (?,?,?,?,?,?,?,?,?,?,?,0) RETURNING FTaskHandle"),
             {request.taskId, SqlRun::text(request.funcCode), session.userId, SqlRun::text(session.userName),
-             SqlRun::text(session.computerName), session.processId, request.kind, request.flagA, request.flagB,
+             SqlRun::text(computerName), session.processId, request.kind, request.flagA, request.flagB,
              SqlRun::text(request.extra), now});
         insert.next();
         handle = insert.value(0).toInt();
@@ -122,12 +129,16 @@ bool TaskMutexStore::commit(const TaskSession &session, int handle)
     return committed;
 }
 
-bool TaskMutexStore::release(int handle)
+bool TaskMutexStore::release(const TaskSession &session, int handle)
 {
     Transaction transaction(m_db, m_dialect, Table);
-    const QSqlQuery remove =
-        SqlRun::exec(m_db, QStringLiteral("DELETE FROM t_TaskMutex WHERE FTaskHandle=?"), {handle});
-    const bool removed = remove.numRowsAffected() > 0;
+    const bool stale = clearStaleInTransaction().contains(handle);
+    const QSqlQuery remove = SqlRun::exec(
+        m_db,
+        QStringLiteral(
+            "DELETE FROM t_TaskMutex WHERE FTaskHandle=? AND FUserID=? AND FComputerName=? AND FProcessID=?"),
+        {handle, session.userId, SqlRun::text(storedName(session.computerName)), session.processId});
+    const bool removed = stale || remove.numRowsAffected() > 0;
     transaction.commit();
     return removed;
 }

@@ -31,7 +31,7 @@ struct TaskRequest
 
 // The task table of the network task mutex (t_TaskMutex) of one account set. Every change runs
 // in a transaction that holds the table against other writers, so two processes registering
-// the same task at once cannot both succeed. See NetControlMutex for the rules.
+// the same task at once cannot both succeed. See LumoNetControlMutex for the rules.
 class LUMOMIDDLETIER_EXPORT TaskMutexStore
 {
 public:
@@ -50,18 +50,26 @@ public:
     int registerTask(const TaskSession &session, const TaskRequest &request);
     // Marks the session's registration as committed; false for a handle the session does not hold.
     bool commit(const TaskSession &session, int handle);
-    // Removes a registration, whoever holds it; false when there was none.
-    bool release(int handle);
+    // Removes the session's own registration, or one that has gone stale; false otherwise.
+    bool release(const TaskSession &session, int handle);
     // Every live registration, oldest first (fields above).
     Recordset *tasks();
 
-    // Removes the registrations of processes of this computer that no longer run.
+    // Removes the registrations of processes of this computer that no longer run, and those of
+    // other computers older than RemoteLifetime; how many.
     int clearStale();
 
     static bool processAlive(qint64 processId);
 
+    // How long a registration of another computer counts as live: its process cannot be checked
+    // from here, and a working day's session is shorter.
+    static constexpr qint64 RemoteLifetimeSeconds = 12 * 60 * 60;
+
 private:
-    int clearStaleInTransaction();
+    // The handles removed.
+    QList<int> clearStaleInTransaction();
+    // A computer name as the table keeps it: trimmed and cut to the column.
+    static QString storedName(const QString &computerName);
 
     QSqlDatabase m_db;
     const SqlDialect &m_dialect;

@@ -69,6 +69,7 @@ public:
             return {};
         QStringList items;
         do {
+            TokenCursor::checkListLength(items.size());
             const FilterField &field = fieldRef(texts::unknownSortField);
             QString direction = QStringLiteral("ASC");
             if (m_cursor.acceptKeyword(QLatin1String("desc")))
@@ -95,22 +96,27 @@ private:
     QString disjunction()
     {
         QStringList parts{conjunction()};
-        while (acceptJoining(QLatin1String("or")))
+        while (acceptJoining(QLatin1String("or"))) {
+            TokenCursor::checkListLength(parts.size());
             parts.append(conjunction());
+        }
         return parts.join(QLatin1String(" OR "));
     }
 
     QString conjunction()
     {
         QStringList parts{factor()};
-        while (acceptJoining(QLatin1String("and")))
+        while (acceptJoining(QLatin1String("and"))) {
+            TokenCursor::checkListLength(parts.size());
             parts.append(factor());
+        }
         return parts.join(QLatin1String(" AND "));
     }
 
     QString factor()
     {
         if (m_cursor.acceptPunct(QLatin1String("("))) {
+            const TokenCursor::Nesting level(m_cursor);
             const QString inner = disjunction();
             m_cursor.expectPunct(QLatin1String(")"));
             return QLatin1Char('(') + inner + QLatin1Char(')');

@@ -27,6 +27,10 @@ namespace script {
 // Sort text:
 //   sort := [item [, item ...]]           item := field [ASC | DESC]
 //
+// Parentheses nest at most TokenCursor::maxNesting (64) deep; the OR parts of an expression,
+// the AND parts of a conjunction and the items of a sort list are at most
+// TokenCursor::maxListItems (1000) each.
+//
 // Every value is bound, never written into the SQL; an undeclared field, another operator, a
 // function, a comment, ';' or anything else throws FilterError, so a value can only ever be
 // compared as data.

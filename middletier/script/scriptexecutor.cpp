@@ -4,8 +4,22 @@
 #include "scripttexts.h"
 
 #include <QSqlError>
+#include <QThread>
 
 namespace script {
+
+namespace {
+
+// A script the server aborted to break a deadlock; it is run again from the start.
+struct Deadlock
+{
+};
+
+// The first run and one more: a deadlock is rare, two in a row mean the sessions keep meeting.
+constexpr int deadlockAttempts = 2;
+constexpr unsigned long deadlockPauseMs = 200;
+
+} // namespace
 
 ScriptExecutor::ScriptExecutor(QSqlDatabase db, const SqlDialect &dialect)
     : m_db(std::move(db))
@@ -19,6 +33,22 @@ void ScriptExecutor::run(const QString &script)
     const QList<Statement> statements = parseScript(script, m_dialect);
     if (statements.isEmpty())
         return;
+    for (int attempt = 1;; ++attempt) {
+        try {
+            runOnce(statements);
+            return;
+        } catch (const Deadlock &) {
+            if (attempt == deadlockAttempts)
+                throw ScriptError(0, {}, texts::deadlock);
+            // The session that won takes the rows it waited for now; run at once, this one would
+            // lock them first again and meet it in the same deadlock.
+            QThread::msleep(deadlockPauseMs);
+        }
+    }
+}
+
+void ScriptExecutor::runOnce(const QList<Statement> &statements)
+{
     if (!m_db.transaction())
         throw ScriptError(0, {}, texts::transactionRefused.arg(m_db.lastError().text()));
     PreparedQueries prepared;
@@ -52,8 +82,11 @@ void ScriptExecutor::execute(const QList<Statement> &statements, PreparedQueries
         }
         for (qsizetype i = 0; i < statement.values.size(); ++i)
             query->bindValue(int(i), statement.values.at(i));
-        if (!query->exec())
+        if (!query->exec()) {
+            if (m_dialect.isDeadlock(query->lastError()))
+                throw Deadlock{};
             throw ScriptError(statement.number, statement.start, query->lastError().text());
+        }
     }
 }
 

@@ -41,7 +41,8 @@ QString quoteStatement(const QString &text, qsizetype begin, qsizetype end)
     bool blank = false;
     for (qsizetype i = begin; i < end && quote.size() < quotedLength; ++i) {
         const QChar c = text.at(i);
-        if (c.isSpace()) {
+        // A control character is refused, and quoted as a blank so the message stays readable.
+        if (c.isSpace() || c.category() == QChar::Other_Control) {
             blank = !quote.isEmpty();
             continue;
         }
@@ -190,6 +191,7 @@ private:
         QList<const ColumnDef *> columns;
         m_cursor.expectPunct(QLatin1String("("));
         do {
+            TokenCursor::checkListLength(columns.size());
             columns.append(&writableColumn(target, seen));
         } while (m_cursor.acceptPunct(QLatin1String(",")));
         m_cursor.expectPunct(QLatin1String(")"));
@@ -234,6 +236,7 @@ private:
         SeenColumns seen;
         QStringList assignments;
         do {
+            TokenCursor::checkListLength(assignments.size());
             const ColumnDef &column = writableColumn(target, seen);
             m_cursor.expectPunct(QLatin1String("="));
             assignments.append(name(column.name) + QLatin1String(" = ") + literal(column));
@@ -287,8 +290,10 @@ private:
     QString condition(const TableDef &target, QStringList &pinned)
     {
         QStringList terms{term(target, pinned)};
-        while (m_cursor.acceptKeyword(QLatin1String("and")))
+        while (m_cursor.acceptKeyword(QLatin1String("and"))) {
+            TokenCursor::checkListLength(terms.size());
             terms.append(term(target, pinned));
+        }
         return terms.join(QLatin1String(" AND "));
     }
 
@@ -296,6 +301,7 @@ private:
     {
         // Only AND joins terms, so a parenthesised group still pins its columns.
         if (m_cursor.acceptPunct(QLatin1String("("))) {
+            const TokenCursor::Nesting level(m_cursor);
             const QString inner = condition(target, pinned);
             m_cursor.expectPunct(QLatin1String(")"));
             return QLatin1Char('(') + inner + QLatin1Char(')');
@@ -304,12 +310,15 @@ private:
         const QString left = name(compared.name);
         if (m_cursor.acceptKeyword(QLatin1String("in"))) {
             m_cursor.expectPunct(QLatin1String("("));
+            // A sub-select descends into another condition.
+            const TokenCursor::Nesting level(m_cursor);
             QString list;
             if (m_cursor.isKeyword(QLatin1String("select"))) {
                 list = subSelect(compared);
             } else {
                 QStringList placeholders;
                 do {
+                    TokenCursor::checkListLength(placeholders.size());
                     placeholders.append(literal(compared));
                 } while (m_cursor.acceptPunct(QLatin1String(",")));
                 list = placeholders.join(QLatin1String(", "));

@@ -22,6 +22,10 @@ namespace script {
 //              | ( condition )
 //   literal   := 'text' (a quote inside doubled) | plain decimal number (-12, 0.5)
 //
+// Parentheses (those of IN included) nest at most TokenCursor::maxNesting (64) deep; a column
+// list, a SET list, an IN list and the terms of one condition hold at most
+// TokenCursor::maxListItems (1000) items each.
+//
 // Tables, statement kinds and columns are checked against the catalogue (catalogue.h), literals
 // against the column's kind, and every WHERE against the table's keys. Anything else - another
 // statement kind, OR, functions, comments, ';', NULL - refuses the whole script. Throws

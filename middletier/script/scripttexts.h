@@ -17,6 +17,7 @@ inline const QString semicolonRefused = QStringLiteral("不允许用分号“;�
 inline const QString unterminatedString = QStringLiteral("文字%1缺少结束的单引号");
 inline const QString badCharacter = QStringLiteral("不允许的字符“%1”");
 inline const QString badNumber = QStringLiteral("数字“%1”必须是普通的十进制写法");
+inline const QString controlCharacter = QStringLiteral("文字中不允许有控制字符(%1)");
 
 // Grammar.
 inline const QString expected = QStringLiteral("在“%1”处应为%2");
@@ -30,6 +31,8 @@ inline const QString comparison = QStringLiteral("比较符");
 inline const QString connectives = QStringLiteral("AND或OR");
 inline const QString comma = QStringLiteral("“,”");
 inline const QString quotedPunct = QStringLiteral("“%1”");
+inline const QString nestingTooDeep = QStringLiteral("括号最多嵌套%1层");
+inline const QString listTooLong = QStringLiteral("一个列表或条件最多%1项");
 // Joining column names: within one key, and between the keys a condition may use instead.
 inline const QString listSeparator = QStringLiteral("、");
 inline const QString alternativeSeparator = QStringLiteral("或");
@@ -51,6 +54,8 @@ inline const QString needsDate = QStringLiteral("列%1需要yyyy-mm-dd格式的�
 // Execution.
 inline const QString transactionRefused = QStringLiteral("无法开始事务：%1");
 inline const QString commitFailed = QStringLiteral("提交事务失败：%1");
+inline const QString deadlock = QStringLiteral(
+    "保存时与其他用户同时进行的保存互相等待(死锁)，重试后仍然如此。本次保存已全部撤消，没有写入任何数据，请稍后重新保存。");
 
 // Read statements.
 inline const QString readRefused = QStringLiteral("不允许执行这条查询语句");

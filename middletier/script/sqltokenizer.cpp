@@ -46,6 +46,17 @@ bool isSeparator(QChar c)
     return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\r') || c == QLatin1Char('\n');
 }
 
+bool isControl(QChar c)
+{
+    return c.category() == QChar::Other_Control;
+}
+
+// A control character as the user can read it in a message: "U+0000".
+QString codeOf(QChar c)
+{
+    return QStringLiteral("U+%1").arg(c.unicode(), 4, 16, QLatin1Char('0')).toUpper();
+}
+
 class Scanner
 {
 public:
@@ -130,7 +141,7 @@ private:
             push(Token::Kind::Punct, singlePunctText(punct), begin);
             return true;
         }
-        return fail(texts::badCharacter.arg(c), begin);
+        return fail(isControl(c) ? texts::controlCharacter.arg(codeOf(c)) : texts::badCharacter.arg(c), begin);
     }
 
     bool scanNumber()
@@ -166,6 +177,10 @@ private:
             if (m_pos >= m_text.size())
                 return fail(texts::unterminatedString.arg(m_text.mid(begin, quotedLiteral)), begin);
             const QChar c = m_text.at(m_pos++);
+            // PostgreSQL refuses a NUL in a text with a driver error, and no text the controls
+            // write holds a line end or another control character.
+            if (isControl(c))
+                return fail(texts::controlCharacter.arg(codeOf(c)), begin);
             if (c != QLatin1Char('\'')) {
                 value.append(c);
                 continue;

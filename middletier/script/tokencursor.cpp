@@ -4,6 +4,19 @@
 
 namespace script {
 
+TokenCursor::Nesting::Nesting(TokenCursor &cursor)
+    : m_cursor(cursor)
+{
+    if (m_cursor.m_nesting == maxNesting)
+        fail(texts::nestingTooDeep.arg(maxNesting));
+    ++m_cursor.m_nesting;
+}
+
+TokenCursor::Nesting::~Nesting()
+{
+    --m_cursor.m_nesting;
+}
+
 TokenCursor::TokenCursor(QList<Token> tokens)
     : m_tokens(std::move(tokens))
 {
@@ -77,6 +90,12 @@ const Token &TokenCursor::expectName(const QString &what)
     if (peek().kind != Token::Kind::Name)
         failExpected(what);
     return next();
+}
+
+void TokenCursor::checkListLength(qsizetype items)
+{
+    if (items >= maxListItems)
+        fail(texts::listTooLong.arg(maxListItems));
 }
 
 void TokenCursor::failExpected(const QString &what) const

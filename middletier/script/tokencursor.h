@@ -17,6 +17,25 @@ public:
         QString message;
     };
 
+    // Bounds on what a text may hold. The library nests a few levels and lists a few dozen items;
+    // without a bound a hostile text exhausts the stack (the parsers descend once per
+    // parenthesis) or takes minutes to prepare (a database prepares long IN lists in quadratic time).
+    static constexpr int maxNesting = 64;
+    static constexpr qsizetype maxListItems = 1000;
+
+    // One level of parentheses, held while the parser is inside them; fails past maxNesting.
+    class Nesting
+    {
+    public:
+        explicit Nesting(TokenCursor &cursor);
+        ~Nesting();
+        Nesting(const Nesting &) = delete;
+        Nesting &operator=(const Nesting &) = delete;
+
+    private:
+        TokenCursor &m_cursor;
+    };
+
     explicit TokenCursor(QList<Token> tokens);
 
     // The token `ahead` places on, or the Error or End token before it. An Error token matches
@@ -39,12 +58,16 @@ public:
     // A name token (what says what was wanted, for the error).
     const Token &expectName(const QString &what);
 
+    // Fails once a list being read has reached maxListItems and another item follows.
+    static void checkListLength(qsizetype items);
+
     [[noreturn]] void failExpected(const QString &what) const;
     [[noreturn]] static void fail(const QString &message);
 
 private:
     QList<Token> m_tokens;
     qsizetype m_index = 0;
+    int m_nesting = 0;
 };
 
 } // namespace script

@@ -45,8 +45,9 @@ public:
     // shared filter settings: empty texts (and " where 1=1 and ") mean none, filters are
     // combined with AND. They may name only the fields of the data set (for item rows those
     // GetSortByFields lists); a text naming another field, or that is no filter or sort at all,
-    // selects nothing - it never reaches the database. Recordsets and dictionaries are new and
-    // parentless: the caller owns them (and the recordsets inside a dictionary).
+    // raises MtError::FilterRefused saying what is wrong with it - it never reaches the database.
+    // Recordsets and dictionaries are new and parentless: the caller owns them (and the
+    // recordsets inside a dictionary).
 
     // One page of the item rows of a warehouse (SPID 0) or stock place in a period. An item row
     // groups the item's ICInvInitial rows with one auxiliary property there (the item row
@@ -68,7 +69,7 @@ public:
     //   QtyDecimal when it holds none).
     // PageIndex counts from 1; a page after the last gives no rows. PageSize or PageIndex below
     // 1 raises DataError::BadPage; a filter or sort text that names an undeclared field or is no
-    // plain condition raises DataError::BadFilter, saying why.
+    // plain condition raises MtError::FilterRefused, saying why.
     Q_INVOKABLE QObject *FetchYtdInitialData(const QString &PropsString, int StockID, int SPID, int Period, int PageSize,
                                              int PageIndex, const QString &Filter, const QString &ActualFilter,
                                              const QString &VirtualFilter, const QString &Sort, bool UseShortNumber);

@@ -49,7 +49,7 @@ bool LumoNetControlMutex::CommitTask(const QString &PropsString, int handle)
 bool LumoNetControlMutex::ReleaseTask(const QString &PropsString, int handle)
 {
     const AccountSet set = AccountSet::fromPropsString(PropsString);
-    return storeOf(set).release(handle);
+    return storeOf(set).release(sessionOf(PropsString, QSysInfo::machineHostName()), handle);
 }
 
 QObject *LumoNetControlMutex::Tasks(const QString &PropsString)

@@ -11,17 +11,20 @@
 //
 // Rules:
 // - A registration belongs to a session: the user ("UserID" of the property string), the
-//   computer (the name the caller passes) and the process (this process's id).
+//   computer (the name the caller passes, trimmed and cut to the 80 characters the table keeps;
+//   the controls pass this machine's host name, as the service sees it) and the process (this
+//   process's id).
 // - A task conflicts with a registration of the same task id on the same account set by
 //   another session. Registrations of one session never conflict: a session registering its
 //   task again gets its own handle back, with the registration started afresh.
-// - funcCode, kind, flagA, flagB and extra are recorded for the network control tool (Tasks);
-//   they do not change the conflict rule.
-// - Before every check, registrations of processes of this computer that no longer run
-//   (no /proc/<pid>) are removed. Registrations from other computers stay until their
-//   session releases them or the network control tool does (ReleaseTask).
+// - funcCode, kind, flagA, flagB and extra are recorded for the list of tasks (Tasks); they do
+//   not change the conflict rule.
+// - Before every check a registration that has gone stale is removed: one of a process of this
+//   computer that no longer runs (no /proc/<pid>), and one of another computer registered more
+//   than 12 hours ago (its process cannot be checked from here).
 // - CommitTask marks that the registering function has finished starting; the registration
-//   stays and keeps excluding other sessions until it is released or its process ends.
+//   stays and keeps excluding other sessions until its session releases it or it goes stale.
+//   Nobody else can release a live registration.
 class LUMOMIDDLETIER_EXPORT LumoNetControlMutex : public QObject
 {
     Q_OBJECT
@@ -36,7 +39,7 @@ public:
                              const QVariant &extra = QVariant());
     // True when the handle is a registration of this process and user; false otherwise.
     Q_INVOKABLE bool CommitTask(const QString &PropsString, int handle);
-    // Removes a registration, whichever session holds it; false when there was none.
+    // Removes a registration of this session, or one that has gone stale; false otherwise.
     Q_INVOKABLE bool ReleaseTask(const QString &PropsString, int handle);
     // A new Recordset of the live registrations: FTaskHandle, FTaskID, FFuncCode, FUserID,
     // FUserName, FComputerName, FProcessID, FKind, FFlagA, FFlagB, FExtra, FStartTime, FCommitted.

@@ -41,6 +41,8 @@ const QString ValuesHead = QStringLiteral(" Values('0',");
 const QStringList SerialTables{QStringLiteral("ICSerial"), QStringLiteral("ICSerialFlow"),
                                QStringLiteral("ICSerial_F1")};
 const QString SerialDelete = QStringLiteral("Delete %1 Where FSNListID In (%2)");
+// The middle tier takes at most 1000 items in one IN list, so longer lists go in several deletes.
+constexpr qsizetype SerialIdsPerDelete = 1000;
 
 // The figure columns in the order the insert names them.
 constexpr int InsertedFigures[] = {BatCol::YtdBegQty, BatCol::YtdBegBal,  BatCol::YtdBegDiff,  BatCol::ReceiveQty,
@@ -100,9 +102,9 @@ QString build(const BatchScriptKey &key, const QList<BatchLine> &lines, const QL
     const QString composed = FFieldCompose(key.stockId, key.spId, key.period, key.itemId, key.auxPropId);
     for (const BatchLine &line : lines)
         statements.append(insertStatement(key, line, composed));
-    if (!deletedSerialLists.isEmpty()) {
+    for (qsizetype first = 0; first < deletedSerialLists.size(); first += SerialIdsPerDelete) {
         QStringList ids;
-        for (qint32 id : deletedSerialLists)
+        for (qint32 id : deletedSerialLists.mid(first, SerialIdsPerDelete))
             ids.append(QString::number(id));
         for (const QString &table : SerialTables)
             statements.append(SerialDelete.arg(table, ids.join(QLatin1Char(','))));

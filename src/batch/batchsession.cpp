@@ -342,6 +342,8 @@ BatchRules BatchSession::rules() const
     rules.balance.stockType = m_handover.stockType;
     rules.balance.underStock = SysParams::toBool(SysParam::UnderStock);
     rules.balance.auditChoice = SysParams::toInt(SysParam::AuditChoice);
+    rules.balance.quantityDecimals = m_item.qtyDecimal;
+    rules.balance.amountDecimals = m_amountScale;
     rules.allocate = apportionOffered();
     return rules;
 }

@@ -240,7 +240,8 @@ bool EntryMode::checkEditedGroup(int row, int col, const QVariant &value)
             continue;
         const auto figure = [&](int c) { return c == col ? value.toDouble() : cells.number(row, c); };
         BalanceRules rules{m_sheet->place().stockType, SysParams::toBool(SysParam::UnderStock),
-                           SysParams::toInt(SysParam::AuditChoice)};
+                           SysParams::toInt(SysParam::AuditChoice), cells.cellStyle(row, g.quantity).decimals(),
+                           cells.cellStyle(row, g.amount).decimals()};
         // A quantity is typed before its amount: a missing amount is judged when the row is saved.
         if (col == g.quantity)
             rules.auditChoice = 0;

@@ -11,8 +11,11 @@ inline const QString LineBreak = QStringLiteral("\r\n");
 inline const QString ErrorReason = QStringLiteral("错误原因：");
 inline const QString ErrorSource = QStringLiteral("错误来源：");
 inline const QString NoAccess = QStringLiteral("没有权限,请与系统管理员联系");
-inline const QString TaskConflict = QStringLiteral(
-    "当前使用的功能与当前或其他用户有冲突,可能无法使用! 请在软件的【系统工具】--【网络控制工具】中进行处理。");
+// A refused task, with who holds it when that can be told.
+inline const QString TaskConflict =
+    QStringLiteral("当前使用的功能与当前或其他用户有冲突,可能无法使用! 请等对方退出该功能后再试。");
+inline const QString TaskHeldBy = QStringLiteral(
+    "当前使用的功能正由用户%1在计算机%2上使用,可能无法使用! 请等该用户退出该功能后再试。");
 inline const QString TaskConflictSource = QStringLiteral("MNetControl.ExecFunc");
 inline const QString Ready = QStringLiteral("就绪");
 inline const QString Saving = QStringLiteral("请稍候，系统正在保存数据.......");

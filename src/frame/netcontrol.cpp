@@ -7,28 +7,31 @@
 
 #include <QSysInfo>
 
-#include <unistd.h>
-
 namespace {
 
 constexpr qint16 TaskKind = 3;
-constexpr int ComputerNameBuffer = 40;
+const QString NoName = QStringLiteral("NoName");
 
 } // namespace
 
 QString GetComputerName()
 {
-    char buffer[ComputerNameBuffer] = {};
-    if (gethostname(buffer, sizeof buffer - 1) != 0 || buffer[0] == '\0')
-        return QStringLiteral("NoName");
-    return QString::fromLocal8Bit(buffer).trimmed();
+    // The whole name, as the task mutex itself sees this computer: a cut name would not be taken
+    // for this computer's, so a registration of a process that died would never be cleared.
+    const QString name = QSysInfo::machineHostName().trimmed();
+    return name.isEmpty() ? NoName : name;
 }
 
 qint32 ExecFunc(qint32 taskId, const QString &funcCode, qint16 flagA, qint16 flagB, const QVariant &extra)
 {
-    const qint32 handle = MutexClient().TaskExec(taskId, funcCode, GetComputerName(), TaskKind, flagA, flagB, extra);
-    if (handle < 1)
-        throw LumoError(CtlError::TaskConflict, Msg::TaskConflict, Msg::TaskConflictSource);
+    const MutexClient mutex;
+    const qint32 handle = mutex.TaskExec(taskId, funcCode, GetComputerName(), TaskKind, flagA, flagB, extra);
+    if (handle < 1) {
+        const std::optional<TaskHolder> holder = mutex.holder(taskId);
+        throw LumoError(CtlError::TaskConflict,
+                        holder ? Msg::TaskHeldBy.arg(holder->userName, holder->computerName) : Msg::TaskConflict,
+                        Msg::TaskConflictSource);
+    }
     return handle;
 }
 

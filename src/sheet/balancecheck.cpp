@@ -4,6 +4,10 @@
 #include "frame/messages.h"
 #include "frame/valuationmethods.h"
 
+#include "grid/numberformat.h"
+
+#include <cmath>
+
 namespace {
 
 constexpr int GroupsPerRow = 4;
@@ -17,6 +21,15 @@ BalanceVerdict refuse(std::initializer_list<const char *> lines)
     return verdict;
 }
 
+// The figure as the grid shows it. Only a value below one unit of the last decimal can show as
+// zero, and nothing else changes a sign or a zero, so larger values are taken as they are.
+double shown(double value, int decimals)
+{
+    if (decimals < 0 || std::abs(value) >= std::pow(10.0, -decimals))
+        return value;
+    return NumberFormat::roundHalfAway(value, decimals);
+}
+
 } // namespace
 
 QString BalanceVerdict::message() const
@@ -26,10 +39,11 @@ QString BalanceVerdict::message() const
 
 namespace BalanceCheck {
 
-BalanceVerdict check(double quantity, double amount, double difference, int &emptyGroups, bool allocate, int track,
-                     const BalanceRules &rules)
+BalanceVerdict check(double typedQuantity, double amount, double difference, int &emptyGroups, bool allocate,
+                     int track, const BalanceRules &rules)
 {
-    const double value = amount + difference;
+    const double quantity = shown(typedQuantity, rules.quantityDecimals);
+    const double value = shown(amount, rules.amountDecimals) + shown(difference, rules.amountDecimals);
     const bool agency = rules.stockType == AgencyStockType;
     if (quantity == 0 && value == 0) {
         ++emptyGroups;

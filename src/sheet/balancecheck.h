@@ -12,6 +12,11 @@ struct BalanceRules
     int stockType = 0;        // the current warehouse's type; 502 keeps quantities only
     bool underStock = false;  // negative stock allowed
     int auditChoice = 0;      // 1: quantity and amount are kept
+    // The decimals the grid shows quantities and amounts (and differences) with; the group is
+    // judged as shown, so 0.000001 typed into an amount of two decimals is an amount of 0.
+    // -1: as many as the value has.
+    int quantityDecimals = -1;
+    int amountDecimals = -1;
 };
 
 struct LUMOICINITIAL_EXPORT BalanceVerdict

@@ -56,6 +56,17 @@ GroupFigures GridRowView::group(int index) const
             m_cells.number(m_row, cols.amount), m_cells.number(m_row, cols.difference)};
 }
 
+// Every group shows its figures alike, so the first one speaks for the row.
+int GridRowView::quantityDecimals() const
+{
+    return m_cells.cellStyle(m_row, ItemRows::groups()[0].quantity).decimals();
+}
+
+int GridRowView::amountDecimals() const
+{
+    return m_cells.cellStyle(m_row, ItemRows::groups()[0].amount).decimals();
+}
+
 double GridRowView::secCoefficient() const
 {
     return m_cells.number(m_row, EntryCol::SecCoefficient);

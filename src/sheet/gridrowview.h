@@ -19,6 +19,8 @@ public:
     qint32 auxPropId() const override;
     qint32 auxClassId() const override;
     GroupFigures group(int index) const override;
+    int quantityDecimals() const override;
+    int amountDecimals() const override;
     double secCoefficient() const override;
     qint32 secUnitId() const override;
     QDate stockInDate() const override;

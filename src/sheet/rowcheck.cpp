@@ -58,7 +58,7 @@ RowVerdict check(const EntryRowView &row, const EntryPlace &place, const AuxClas
                       SqlText::roundFigure(raw.amount), SqlText::roundFigure(raw.difference)};
     }
     const BalanceRules rules{place.stockType, SysParams::toBool(SysParam::UnderStock),
-                             SysParams::toInt(SysParam::AuditChoice)};
+                             SysParams::toInt(SysParam::AuditChoice), row.quantityDecimals(), row.amountDecimals()};
     int emptyGroups = 0;
     for (int i = 0; i < EntryRowView::GroupCount; ++i) {
         const GroupFigures &g = figures[i];

@@ -37,6 +37,9 @@ public:
     virtual qint32 auxClassId() const = 0;
     // Group 0 to 3 in the order year start, receipts, issues, opening.
     virtual GroupFigures group(int index) const = 0;
+    // The decimals the row shows its quantities and its amounts with.
+    virtual int quantityDecimals() const = 0;
+    virtual int amountDecimals() const = 0;
     virtual double secCoefficient() const = 0;
     virtual qint32 secUnitId() const = 0;
     // Invalid when the cell is empty.
@@ -62,9 +65,10 @@ using AuxClassNameLookup = std::function<QString(qint32 auxClassId)>;
 namespace RowCheck {
 
 // Checks one row before it is kept for saving: item, item code, unit, auxiliary property, then the
-// four balance groups with one shared empty-group counter. Reads the system parameters
-// CurrentPeriod, UnderStock and AuditChoice. Only a valid row fills `record` (place, period, ids,
-// figures rounded to ten decimals, dates as "yyyy-MM-dd"); a refused one leaves it as it was.
+// four balance groups with one shared empty-group counter, judged as the row shows them. Reads the
+// system parameters CurrentPeriod, UnderStock and AuditChoice. Only a valid row fills `record`
+// (place, period, ids, figures rounded to ten decimals, dates as "yyyy-MM-dd"); a refused one
+// leaves it as it was.
 LUMOICINITIAL_EXPORT RowVerdict check(const EntryRowView &row, const EntryPlace &place,
                                       const AuxClassNameLookup &auxClassName, ICInitStruct &record);
 

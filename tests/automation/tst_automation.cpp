@@ -201,6 +201,26 @@ private slots:
         QCOMPARE(parsed, entries);
     }
 
+    // A written value reads back whole, and nothing in it can end the entry early to plant a key;
+    // what the format cannot carry is refused rather than cut.
+    void propertyEntriesRoundTrip_data()
+    {
+        QTest::addColumn<QString>("value");
+        for (const char *value : {"plain", "/data/a;b}c.db", "x};AcctDB={/evil", "}}", "{", "a}", "=;", "批号 A"})
+            QTest::newRow(value) << QString::fromUtf8(value);
+    }
+
+    void propertyEntriesRoundTrip()
+    {
+        QFETCH(QString, value);
+        const QString user = QStringLiteral("UserName");
+        const QString acctDb = QStringLiteral("AcctDB");
+        QCOMPARE(splitPropertyString(propertyEntry(user, value) + propertyEntry(acctDb, acctDb)),
+                 (QList<QPair<QString, QString>>{{user, value}, {acctDb, acctDb}}));
+        QVERIFY_THROWS_EXCEPTION(LumoError, propertyEntry(user, value + u' '));
+        QVERIFY_THROWS_EXCEPTION(LumoError, propertyEntry(value + u'=', acctDb));
+    }
+
     void takeTokenSplitsOnce()
     {
         QString rest = QStringLiteral("a=b=c");

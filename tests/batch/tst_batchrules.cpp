@@ -10,6 +10,8 @@
 
 #include <QTest>
 
+#include <numeric>
+
 using Amounts = QList<std::optional<double>>;
 struct Split { Amounts quantities; double total; int scale; Amounts expected; };
 Q_DECLARE_METATYPE(Split)
@@ -299,6 +301,18 @@ private slots:
             + QStringLiteral(" Values('0',1,12,3,3057,7,'B''01',10,1234.5,0,2,20.123456789,0,4,40,0,8,1214.623456789,0.1,5,"
                              "'2023-12-20',180,0.5,0.25,0.125,0.0625,'2024-01-01',0,0,0,77,'12|3|1|3057|0')");
         QCOMPARE(BatchScript::build(key, {line}, {}), expected);
+    }
+
+    // The middle tier refuses an IN list of more than 1000 items.
+    void manySerialListsAreDeletedInPieces()
+    {
+        QList<qint32> serialLists(1001);
+        std::iota(serialLists.begin(), serialLists.end(), 1);
+        const QStringList deletes =
+            BatchScript::build({}, {}, serialLists).split(CRLF).filter(QStringLiteral("ICSerial "));
+        // Of ICSerial: a thousand lists, then the last one.
+        QCOMPARE((QList<qsizetype>{deletes.size(), deletes.value(0).count(u','), deletes.value(1).count(u',')}),
+                 (QList<qsizetype>{2, 999, 0}));
     }
 
     void itemFromKey()

@@ -19,6 +19,8 @@ struct FakeRowView : EntryRowView
     QDate stockIn;
     QString key;
     bool batchLocked = true;
+    int qtyDecimals = 2;
+    int amountScale = 2;
 
     qint32 itemId() const override { return item; }
     QString itemCode() const override { return code; }
@@ -27,6 +29,8 @@ struct FakeRowView : EntryRowView
     qint32 auxPropId() const override { return auxProp; }
     qint32 auxClassId() const override { return auxClass; }
     GroupFigures group(int index) const override { return groups.at(size_t(index)); }
+    int quantityDecimals() const override { return qtyDecimals; }
+    int amountDecimals() const override { return amountScale; }
     double secCoefficient() const override { return rate; }
     qint32 secUnitId() const override { return secUnit; }
     QDate stockInDate() const override { return stockIn; }

@@ -20,6 +20,7 @@ struct Case
     bool allocate;
     int track;
     QString message;
+    int decimals = -1; // of quantities and amounts as the grid shows them
 };
 
 } // namespace
@@ -66,6 +67,11 @@ private slots:
             {"value without quantity, allocated FIFO", {0, 10, 0, Ord, true, 1, true, Valuation::Fifo, {}}},
             {"value without quantity, allocated unknown method", {0, 10, 0, Ord, true, 1, true, 12345, {}}},
             {"allocated average with quantity", {2, 10, 0, Ord, true, 1, true, Wa, {}}},
+            // Judged as the grid shows the figures: what shows as 0.00 is no amount.
+            {"amount below its decimals", {5, 0.000001, 0, Ord, true, 1, false, 0, noAmount, 2}},
+            {"amount and difference below their decimals", {5, 0.004, 0.004, Ord, true, 1, false, 0, noAmount, 2}},
+            {"half of the last decimal shows", {5, 0.005, 0, Ord, true, 1, false, 0, {}, 2}},
+            {"negative quantity below its decimals", {-0.001, 10, 0, Ord, false, 1, false, 0, {}, 2}},
         };
         for (const auto &[name, c] : cases)
             QTest::newRow(name) << c;
@@ -75,8 +81,9 @@ private slots:
     {
         QFETCH(Case, c);
         int emptyGroups = 0;
-        const BalanceVerdict verdict = BalanceCheck::check(c.quantity, c.amount, c.difference, emptyGroups, c.allocate,
-                                                           c.track, {c.stockType, c.underStock, c.auditChoice});
+        const BalanceRules rules{c.stockType, c.underStock, c.auditChoice, c.decimals, c.decimals};
+        const BalanceVerdict verdict =
+            BalanceCheck::check(c.quantity, c.amount, c.difference, emptyGroups, c.allocate, c.track, rules);
         QCOMPARE(verdict.valid, c.message.isEmpty());
         QCOMPARE(verdict.lines.join(CrLf), c.message);
         QCOMPARE(emptyGroups, 0);
@@ -114,6 +121,7 @@ private slots:
         QVERIFY(BalanceCheck::check(1, 10, 0, counter, false, 0, rules).valid);
         QCOMPARE(counter, 3);
     }
+
 };
 
 QTEST_MAIN(TestBalanceCheck)

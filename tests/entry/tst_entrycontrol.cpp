@@ -697,6 +697,10 @@ private slots:
         QCOMPARE(totalsRows(grid()), QList<int>{1});
         for (int col : EntryDb::figureColumns())
             QCOMPARE(grid().TextMatrix(1, col), QStringLiteral("0.00"));
+        // A filter the parser refuses is an error the user reads, not an empty page.
+        LibraryState::instance().filters()->setItem(FilterKey::Filter, QStringLiteral("FNumber = 'x' OR 1=1"));
+        clickNode(RawMaterials, 2);
+        QVERIFY2(onlyMessage().contains(QStringLiteral("过滤或排序条件出错")), qPrintable(onlyMessage()));
         // Without the filter the same place has rows again.
         LibraryState::instance().filters()->setItem(FilterKey::Filter, QString());
         clickNode(RawMaterials, 2);

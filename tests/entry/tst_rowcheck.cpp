@@ -141,6 +141,9 @@ private slots:
         quantityOnly.groups[0] = {3, 0, 0, 0};
         QCOMPARE(RowCheck::check(quantityOnly, Place, className, record).message, NoAmount);
         QVERIFY(RowCheck::check(quantityOnly, {12, 0, 502}, className, record).valid);
+        // An amount that shows as 0.00 is no amount.
+        quantityOnly.groups[0] = {3, 0, 0.000001, 0};
+        QCOMPARE(RowCheck::check(quantityOnly, Place, className, record).message, NoAmount);
         SysParams::current()->setItem(SysParam::AuditChoice, 0);
         QVERIFY(RowCheck::check(quantityOnly, Place, className, record).valid);
     }

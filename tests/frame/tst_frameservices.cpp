@@ -16,6 +16,7 @@
 #include "frame/automation/lumoerror.h"
 #include "frame/automation/recordset.h"
 
+#include <QCoreApplication>
 #include <QTest>
 
 #include <functional>
@@ -112,6 +113,14 @@ private slots:
         QCOMPARE((std::pair{error->source(), error->description()}),
                  (std::pair{QStringLiteral("MNetControl.ExecFunc"), Msg::TaskConflict}));
         QVERIFY(error->number() > LumoError::AppBase);
+        // The message names who holds the task, passing over this process's own registrations.
+        const qint64 self = QCoreApplication::applicationPid();
+        FakeWorld::instance().tasks = {{20, 16, QStringLiteral("演示员"), QStringLiteral("HERE"), self},
+                                       {21, 9, QStringLiteral("张三"), QStringLiteral("PC-21"), 77},
+                                       {20, 9, QString(), QStringLiteral("PC-20"), 78}};
+        const std::optional<LumoError> held = raisedBy([] { ExecFunc(20, QStringLiteral("Cg0802"), 0, 0); });
+        QCOMPARE(held ? held->description() : QString(),
+                 Msg::TaskHeldBy.arg(QStringLiteral("9"), QStringLiteral("PC-20")));
         FakeWorld::instance().taskHandle = 12;
         QCOMPARE(ExecFunc(20, QStringLiteral("Cg0802"), 0, 0), 12);
     }

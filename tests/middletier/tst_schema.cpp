@@ -12,6 +12,8 @@
 #include "script/catalogue.h"
 
 #include <QDateTime>
+#include <QDir>
+#include <QRegularExpression>
 #include <QFile>
 #include <QTest>
 
@@ -21,6 +23,12 @@ using namespace Qt::StringLiterals;
 using ServiceCalls::errorNumberOf;
 
 namespace {
+
+QByteArray contents(const QString &file)
+{
+    QFile in(file);
+    return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray("unreadable");
+}
 
 QStringList lowered(QStringList names)
 {
@@ -195,7 +203,18 @@ private slots:
             db.close();
         }
         QSqlDatabase::removeDatabase(u"stranger"_s);
-        QCOMPARE(errorNumberOf([&] { AccountSet::open(stranger); }), MtError::NotAnAccountSet);
+        const QString empty = dir.filePath(u"empty.db"_s);
+        QVERIFY(QFile(empty).open(QIODevice::WriteOnly));
+        // A refused file is left as it was (not switched to WAL, an empty one not made a
+        // database), and without a connection left behind.
+        QTest::failOnWarning(QRegularExpression(u"connection"_s));
+        for (const QString &file : {stranger, empty}) {
+            const QByteArray before = contents(file);
+            QCOMPARE(errorNumberOf([&] { AccountSet::open(file); }), MtError::NotAnAccountSet);
+            QCOMPARE(errorNumberOf([&] { AccountSet::migrate(file); }), MtError::NotAnAccountSet);
+            QCOMPARE(contents(file), before);
+            QCOMPARE(QDir(dir.path()).entryList(QDir::Files), (QStringList{u"empty.db"_s, u"stranger.db"_s}));
+        }
         QCOMPARE(errorNumberOf([&] { AccountSet::create(stranger); }), MtError::AcctDbExists);
         AccountSet::close(stranger);
 

@@ -1,7 +1,10 @@
 #include "scratchaccountset.h"
 #include "servicecalls.h"
 
+#include "db/schema.h"
 #include "db/sqlrun.h"
+#include "dialect/sqldialect.h"
+#include "queries/taskmutexstore.h"
 #include "frame/automation/progids.h"
 
 #include "frame/automation/componentregistry.h"
@@ -36,11 +39,12 @@ int taskExec(const ScratchAccountSet &scratch, int taskId, const QString &comput
 }
 
 // A registration as another session left it.
-void insertTask(const ScratchAccountSet &scratch, int taskId, int userId, const QString &computer, qint64 pid)
+void insertTask(const ScratchAccountSet &scratch, int taskId, int userId, const QString &computer, qint64 pid,
+                int hoursAgo = 0)
 {
     SqlRun::exec(scratch.db(), u"INSERT INTO t_TaskMutex (FTaskID, FFuncCode, FUserID, FComputerName, FProcessID, "
                                "FStartTime) VALUES (?,?,?,?,?,?)"_s,
-                 {taskId, EntryFunction, userId, computer, pid, QDateTime::currentDateTime()});
+                 {taskId, EntryFunction, userId, computer, pid, QDateTime::currentDateTime().addSecs(-3600 * hoursAgo)});
 }
 
 int taskCount(const ScratchAccountSet &scratch)
@@ -90,7 +94,7 @@ private slots:
         QCOMPARE(taskCount(scratch), 1);
         QVERIFY(call(u"CommitTask"_s, {scratch.propsString(), handle}).toBool());
 
-        // The eight-argument form records its extra value for the network control tool.
+        // The eight-argument form records its extra value for the list of tasks.
         const int other
             = call(u"TaskExec"_s, {scratch.propsString(), 21, u"Cg0803"_s, QSysInfo::machineHostName(), 3, 1, 0, u"额外"_s}).toInt();
         QVERIFY(other > 0 && other != handle);
@@ -113,13 +117,16 @@ private slots:
         QTest::addColumn<int>("user");
         QTest::addColumn<QString>("computer");
         QTest::addColumn<bool>("ended");
+        QTest::addColumn<int>("hoursAgo");
         QTest::addColumn<bool>("refused");
         const QString here = QSysInfo::machineHostName();
-        QTest::newRow("another user, running") << 17 << here << false << true;
-        QTest::newRow("same user, another process") << 16 << here << false << true;
-        // A process on another computer cannot be checked from here, so it counts as running.
-        QTest::newRow("another computer") << 17 << u"OTHER-PC"_s << true << true;
-        QTest::newRow("ended process, cleared") << 17 << here << true << false;
+        QTest::newRow("another user, running") << 17 << here << false << 0 << true;
+        QTest::newRow("same user, another process") << 16 << here << false << 0 << true;
+        // A process on another computer cannot be checked from here, so it counts as running
+        // until its registration expires.
+        QTest::newRow("another computer") << 17 << u"OTHER-PC"_s << true << 11 << true;
+        QTest::newRow("another computer, expired") << 17 << u"OTHER-PC"_s << false << 13 << false;
+        QTest::newRow("ended process, cleared") << 17 << here << true << 0 << false;
     }
 
     void anotherLiveSessionHoldsItsTask()
@@ -128,11 +135,12 @@ private slots:
         QFETCH(int, user);
         QFETCH(QString, computer);
         QFETCH(bool, ended);
+        QFETCH(int, hoursAgo);
         QFETCH(bool, refused);
         ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
         const qint64 pid = ended ? endedProcessId() : AlwaysRunning;
         QVERIFY(pid > 0);
-        insertTask(scratch, EntryTask, user, computer, pid);
+        insertTask(scratch, EntryTask, user, computer, pid, hoursAgo);
         QCOMPARE(taskExec(scratch, EntryTask) > 0, !refused);
         QCOMPARE(taskCount(scratch), 1);
         QCOMPARE(SqlRun::scalar(scratch.db(), u"SELECT FUserID FROM t_TaskMutex"_s).toInt(), refused ? user : 16);
@@ -142,8 +150,8 @@ private slots:
         QCOMPARE(takeObject<Recordset>(call(u"Tasks"_s, {scratch.propsString()}))->RecordCount(), 2);
     }
 
-    // Another session's handle is not this one's to commit, but the network control tool releases it.
-    void foreignHandleIsReleasedNotCommitted()
+    // Another session's live registration is not this one's to commit or to release.
+    void onlyTheOwnerCommitsAndReleases()
     {
         QFETCH_GLOBAL(QString, backend);
         ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
@@ -151,14 +159,27 @@ private slots:
         insertTask(scratch, EntryTask, 17, u"OTHER-PC"_s, AlwaysRunning);
         const int foreign = SqlRun::scalar(scratch.db(), u"SELECT FTaskHandle FROM t_TaskMutex"_s).toInt();
         QVERIFY(!call(u"CommitTask"_s, {scratch.propsString(), foreign}).toBool());
+        QVERIFY(!call(u"ReleaseTask"_s, {scratch.propsString(), foreign}).toBool());
         QCOMPARE(SqlRun::scalar(scratch.db(), u"SELECT FCommitted FROM t_TaskMutex"_s).toInt(), 0);
         QCOMPARE(taskExec(scratch, EntryTask), 0);
-        QVERIFY(call(u"ReleaseTask"_s, {scratch.propsString(), foreign}).toBool());
-        QVERIFY(!call(u"ReleaseTask"_s, {scratch.propsString(), foreign}).toBool());
-        const int handle = taskExec(scratch, EntryTask);
-        QVERIFY(handle > 0);
+
+        const int own = taskExec(scratch, EntryTask + 1);
+        QVERIFY(call(u"ReleaseTask"_s, {scratch.propsString(), own}).toBool());
+        QVERIFY(!call(u"ReleaseTask"_s, {scratch.propsString(), own}).toBool());
         // A released handle is never handed out again.
-        QVERIFY(handle != foreign);
+        QVERIFY(taskExec(scratch, EntryTask + 1) > own);
+    }
+
+    // A name longer than the column is kept cut and still taken for this computer's, so the
+    // registration of a process that ended is cleared.
+    void longComputerNameIsKeptCut()
+    {
+        QFETCH_GLOBAL(QString, backend);
+        ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
+        const QString longName(Schema::ComputerNameWidth + 20, u'h');
+        TaskMutexStore store(scratch.db(), SqlDialect::of(scratch.db()), longName);
+        QVERIFY(store.registerTask({17, u"乙"_s, longName, endedProcessId()}, {EntryTask}) > 0);
+        QVERIFY(store.registerTask({16, u"甲"_s, longName, AlwaysRunning}, {EntryTask}) > 0);
     }
 };
 

@@ -117,6 +117,8 @@ private slots:
         refuse("impossible date", "FKFDate = '2024-13-45'", "2024-13-45");
         refuse("LIKE without text", "FItemName LIKE 5", "LIKE");
         refuse("dangling parenthesis", "(FModel='A'", "");
+        refuse("deep nesting", QString(20000, u'(') + "FModel='A'", "64");
+        refuse("long condition", QStringList(1001, u"FModel='A'"_s).join(u" or "_s), "1000");
     }
 
     void filters()
@@ -145,6 +147,7 @@ private slots:
         for (const char *refused : {"FBogus ASC", "FNumber; drop table ItemRows", "FNumber ASC FModel", "FNumber ASC,",
                                     "(select 1)", "1 DESC"})
             QTest::newRow(refused) << QString::fromLatin1(refused) << QList<int>{};
+        QTest::newRow("long sort list") << QStringList(1001, u"FModel"_s).join(u',') << QList<int>{};
     }
 
     void sorts()

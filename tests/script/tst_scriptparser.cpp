@@ -142,6 +142,14 @@ private slots:
         QTest::newRow("insert into a serial table") << u"Insert into ICSerial(FSNListID) Values(1)"_s << 1 << "INSERT";
         QTest::newRow("table not written") << u"Delete ICSerial_F2 Where FSNListID In (501)"_s << 1 << "ICSerial_F2";
         QTest::newRow("semicolon") << u"Delete from ICInvInitial where FFieldCompose='a';\r\nDelete from ICInvInitial where FFieldCompose='b'"_s << 1 << ";";
+        QTest::newRow("NUL in a text") << u"Insert into ICInvInitial(FBatchNo) Values('a"_s + QChar(0) + u"b')"_s << 1 << "U+0000";
+        QTest::newRow("line end in a text") << u"Insert into ICInvInitial(FBatchNo) Values('a\nb')"_s << 1 << "U+000A";
+        // Bounded so that a hostile text can neither exhaust the stack nor take minutes to prepare.
+        QTest::newRow("deep nesting") << u"Delete from ICInvInitial where "_s + QString(10000, u'(') << 1 << "64";
+        QStringList ids(1001, u"1"_s);
+        QTest::newRow("long IN list") << u"Delete ICSerial Where FSNListID In (%1)"_s.arg(ids.join(u',')) << 1 << "1000";
+        QStringList terms(1001, u"FFieldCompose='a'"_s);
+        QTest::newRow("long condition") << u"Delete from ICInvInitial where "_s + terms.join(u" and "_s) << 1 << "1000";
     }
 
     void refusals()

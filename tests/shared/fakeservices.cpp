@@ -94,6 +94,13 @@ public:
         FakeWorld::instance().committed.append(handle);
         return true;
     }
+    Q_INVOKABLE QObject *Tasks(const QString &)
+    {
+        auto *rs = new Recordset(QStringLiteral("FTaskID FUserID FUserName FComputerName FProcessID").split(u' '));
+        for (const QVariantList &row : FakeWorld::instance().tasks)
+            rs->appendRow(QVector<QVariant>(row.begin(), row.end()));
+        return rs;
+    }
 };
 
 class FakeLog : public QObject

@@ -38,6 +38,7 @@ struct FakeWorld
     QList<int> committed;
     int taskExecCalls = 0;
     int commitCalls = 0;
+    QList<QVariantList> tasks; // FTaskID, FUserID, FUserName, FComputerName, FProcessID
 
     // "QLLogMsg.Log"
     bool logEnabled = true;

@@ -7,12 +7,15 @@
 #include "dialect/sqldialect.h"
 
 #include "frame/automation/lumoerror.h"
+#include "frame/automation/propertystring.h"
 
 #include <QAtomicInt>
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QTest>
+#include <QThread>
 
 namespace {
 
@@ -63,7 +66,9 @@ ScratchAccountSet::~ScratchAccountSet()
 
 QString ScratchAccountSet::propsString(int userId, const QString &userName) const
 {
-    return QStringLiteral("UserName=%1;UserID=%2;AcctDB={%3};").arg(userName).arg(userId).arg(m_acctDb);
+    return propertyEntry(QStringLiteral("UserName"), userName)
+           + propertyEntry(QStringLiteral("UserID"), QString::number(userId))
+           + propertyEntry(QStringLiteral("AcctDB"), m_acctDb);
 }
 
 QSqlDatabase ScratchAccountSet::db() const
@@ -109,4 +114,16 @@ void addBackends()
     QTest::addColumn<QString>("backend");
     QTest::newRow(qPrintable(ScratchAccountSet::Sqlite)) << ScratchAccountSet::Sqlite;
     QTest::newRow(qPrintable(ScratchAccountSet::Postgres)) << ScratchAccountSet::Postgres;
+}
+
+bool ScratchAccountSet::awaitLockWait(const std::atomic<int> &pid) const
+{
+    const QDeadlineTimer patience(10000);
+    const QString waiting = QStringLiteral("SELECT count(*) FROM pg_locks WHERE pid = ? AND NOT granted");
+    while (pid == 0 || SqlRun::scalar(db(), waiting, {pid.load()}).toInt() == 0) {
+        if (patience.hasExpired())
+            return false;
+        QThread::msleep(5);
+    }
+    return true;
 }

@@ -6,6 +6,7 @@
 #include <QVariantList>
 #include <QTemporaryDir>
 
+#include <atomic>
 #include <memory>
 
 // A fresh account set for one test case: a SQLite file in a temporary folder, or, for the
@@ -40,6 +41,10 @@ public:
 
     // Creates the tables as an older program would have: the schema at `version`.
     void createAtVersion(int version);
+
+    // PostgreSQL: waits until the session whose backend `pid` holds (0: not known yet) waits
+    // for a lock, as the second of two sessions writing at once does; false after ten seconds.
+    bool awaitLockWait(const std::atomic<int> &pid) const;
 
 private:
     QString m_backend;

@@ -1,5 +1,49 @@
 #include "propertystring.h"
 
+#include "lumoerror.h"
+
+namespace {
+
+const QString Source = QStringLiteral("PropertyString");
+const QString BadKey = QStringLiteral("属性名称“%1”不能为空，也不能含有“;”“=”“{”“}”或首尾空白");
+const QString BlankEnds = QStringLiteral("属性%1的值“%2”首尾有空白，无法写入属性串");
+
+const QChar Open = QLatin1Char('{');
+const QChar Close = QLatin1Char('}');
+
+bool holdsSyntax(const QString &text)
+{
+    return text.contains(QLatin1Char(';')) || text.contains(QLatin1Char('=')) || text.contains(Open)
+           || text.contains(Close);
+}
+
+bool hasBlankEnds(const QString &text)
+{
+    return !text.isEmpty() && (text.front().isSpace() || text.back().isSpace());
+}
+
+// The braced value after its "{": up to the first single "}", with "}}" read as "}".
+QString takeBraced(QString &remainder)
+{
+    QString value;
+    qsizetype i = 0;
+    for (; i < remainder.size(); ++i) {
+        if (remainder.at(i) == Close) {
+            if (i + 1 < remainder.size() && remainder.at(i + 1) == Close) {
+                ++i;
+            } else {
+                ++i;
+                break;
+            }
+        }
+        value.append(remainder.at(i));
+    }
+    remainder.remove(0, i);
+    return value;
+}
+
+} // namespace
+
 QString TakeToken(QString &remainder, const QString &separator)
 {
     if (remainder.isEmpty())
@@ -31,7 +75,7 @@ QString PropValue(QString &remainder)
     QString value;
     if (remainder.startsWith(QLatin1Char('{'))) {
         remainder.remove(0, 1);
-        value = TakeToken(remainder, QStringLiteral("}"));
+        value = takeBraced(remainder);
         TakeToken(remainder, QStringLiteral(";"));
     } else {
         value = TakeToken(remainder, QStringLiteral(";"));
@@ -59,4 +103,17 @@ QString propertyValue(const QString &propsString, const QString &key)
             return entry.second;
     }
     return {};
+}
+
+QString propertyEntry(const QString &key, const QString &value)
+{
+    if (key.isEmpty() || holdsSyntax(key) || hasBlankEnds(key))
+        throw LumoError(LumoError::InvalidArgument, BadKey.arg(key), Source);
+    if (hasBlankEnds(value))
+        throw LumoError(LumoError::InvalidArgument, BlankEnds.arg(key, value), Source);
+    if (!holdsSyntax(value))
+        return key + QLatin1Char('=') + value + QLatin1Char(';');
+    QString braced = value;
+    braced.replace(Close, QStringLiteral("}}"));
+    return key + QLatin1Char('=') + Open + braced + Close + QLatin1Char(';');
 }
