@@ -155,7 +155,7 @@ QList<double> servedTotals(const Page &page)
     return values;
 }
 
-// The records column of a text the service refuses with DataError::BadFilter.
+// The records column of a text the service refuses with MtError::FilterRefused.
 constexpr int Refused = -1;
 
 } // namespace

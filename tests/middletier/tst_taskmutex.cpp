@@ -178,8 +178,10 @@ private slots:
         ScratchAccountSet scratch(backend, ScratchAccountSet::Content::Created);
         const QString longName(Schema::ComputerNameWidth + 20, u'h');
         TaskMutexStore store(scratch.db(), SqlDialect::of(scratch.db()), longName);
-        QVERIFY(store.registerTask({17, u"乙"_s, longName, endedProcessId()}, {EntryTask}) > 0);
-        QVERIFY(store.registerTask({16, u"甲"_s, longName, AlwaysRunning}, {EntryTask}) > 0);
+        TaskRequest entry;
+        entry.taskId = EntryTask;
+        QVERIFY(store.registerTask({17, u"乙"_s, longName, endedProcessId()}, entry) > 0);
+        QVERIFY(store.registerTask({16, u"甲"_s, longName, AlwaysRunning}, entry) > 0);
     }
 };
 
