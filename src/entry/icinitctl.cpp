@@ -365,6 +365,9 @@ void ICInitCtl::runCommand(const QString &key)
     case EntryCommand::Sum:
         showTotals();
         break;
+    case EntryCommand::Calculator:
+        m_entry->calculateIntoCell();
+        break;
     case EntryCommand::Tree:
         m_treePane->setHidden(!m_treePane->isHidden());
         break;
