@@ -29,15 +29,14 @@ struct KeypadButton
 };
 
 const KeypadButton keypad[] = {
-    {K::MemoryClear, "MC", 0, 0},  {K::MemoryRecall, "MR", 0, 1}, {K::MemoryAdd, "M+", 0, 2},
-    {K::MemorySubtract, "M-", 0, 3}, {K::Clear, "C", 1, 0},      {K::ClearEntry, "CE", 1, 1},
-    {K::Backspace, "←", 1, 2},     {K::Divide, "÷", 1, 3},       {K::Open, "(", 2, 0},
-    {K::Close, ")", 2, 1},         {K::Percent, "%", 2, 2},      {K::Times, "×", 2, 3},
-    {K::Digit7, "7", 3, 0},        {K::Digit8, "8", 3, 1},       {K::Digit9, "9", 3, 2},
-    {K::Minus, "-", 3, 3},         {K::Digit4, "4", 4, 0},       {K::Digit5, "5", 4, 1},
-    {K::Digit6, "6", 4, 2},        {K::Plus, "+", 4, 3},         {K::Digit1, "1", 5, 0},
-    {K::Digit2, "2", 5, 1},        {K::Digit3, "3", 5, 2},       {K::Equals, "=", 5, 3, 2},
-    {K::Sign, "±", 6, 0},          {K::Digit0, "0", 6, 1},       {K::Point, ".", 6, 2},
+    {K::MemoryClear, "MC", 0, 0}, {K::MemoryRecall, "MR", 0, 1}, {K::MemoryAdd, "M+", 0, 2},
+    {K::MemorySubtract, "M-", 0, 3},
+    {K::Clear, "C", 1, 0},        {K::ClearEntry, "CE", 1, 1},   {K::Backspace, "←", 1, 2},  {K::Divide, "÷", 1, 3},
+    {K::Open, "(", 2, 0},         {K::Close, ")", 2, 1},         {K::Percent, "%", 2, 2},    {K::Times, "×", 2, 3},
+    {K::Digit7, "7", 3, 0},       {K::Digit8, "8", 3, 1},        {K::Digit9, "9", 3, 2},     {K::Minus, "-", 3, 3},
+    {K::Digit4, "4", 4, 0},       {K::Digit5, "5", 4, 1},        {K::Digit6, "6", 4, 2},     {K::Plus, "+", 4, 3},
+    {K::Digit1, "1", 5, 0},       {K::Digit2, "2", 5, 1},        {K::Digit3, "3", 5, 2},     {K::Equals, "=", 5, 3, 2},
+    {K::Sign, "±", 6, 0},         {K::Digit0, "0", 6, 1},        {K::Point, ".", 6, 2},
 };
 
 // The keyboard's keys without Ctrl; the digits are taken by their range.
@@ -210,8 +209,7 @@ void CalcDialog::keyPressEvent(QKeyEvent *event)
 void CalcDialog::refresh()
 {
     m_display->setText(m_session.display());
-    m_display->setCursorPosition(0);
-    m_display->end(false);
+    m_display->end(false); // a long expression shows its end, where the typing is
     QPalette palette = m_display->palette();
     palette.setColor(QPalette::Text, m_session.error().isEmpty() ? QPalette().color(QPalette::Text) : Qt::red);
     m_display->setPalette(palette);

@@ -30,7 +30,6 @@ public:
 
     // The result the dialog was accepted with.
     double result() const { return m_session.result(); }
-    const CalcSession &session() const { return m_session; }
 
     void press(Key key);
     // "确定": accepts when what is shown has a value.

@@ -150,7 +150,7 @@ QString normalized(const QString &expression)
         else if (c == u'−')
             text += u'-';
         else if (c.isDigit() && c.unicode() > 0x7f)
-            fail(CalcText::Malformed); // other scripts' digits read as nothing a person meant here
+            fail(CalcText::Malformed); // digits of other scripts are not numbers here
         else
             text += c;
     }

@@ -149,12 +149,8 @@ void CalcSession::toggleSign()
     const qsizetype start = lastOperandStart();
     if (start == m_expression.size())
         return;
-    if (start == 0) {
-        m_expression.prepend(Minus);
-        return;
-    }
-    const QChar sign = m_expression.at(start - 1);
-    const bool unary = start == 1 || isOperator(m_expression.at(start - 2)) || m_expression.at(start - 2) == Open;
+    const QChar sign = start > 0 ? m_expression.at(start - 1) : QChar();
+    const bool unary = start <= 1 || isOperator(m_expression.at(start - 2)) || m_expression.at(start - 2) == Open;
     if (sign == Minus && unary)
         m_expression.remove(start - 1, 1);
     else if (sign == Minus)

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -112,7 +113,8 @@ private slots:
         CalcDialog dialog;
         type(&dialog, script);
         QCOMPARE(dialog.findChild<QLineEdit *>(QStringLiteral("txtDisplay"))->text(), display);
-        QCOMPARE(dialog.session().tape().value(dialog.session().tape().size() - 1), tape);
+        const auto *tapeList = dialog.findChild<QListWidget *>(QStringLiteral("lstTape"));
+        QCOMPARE(tapeList->count() ? tapeList->item(tapeList->count() - 1)->text() : QString(), tape);
     }
 
     // The component by its ProgID: Show tells whether the user closed it with a result, Value gives it.
