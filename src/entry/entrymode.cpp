@@ -493,6 +493,9 @@ void EntryMode::calculateIntoCell()
         case Grid::EditResult::Unchanged:
         case Grid::EditResult::Cancelled: // the check that refused it has said why
             break;
+        case Grid::EditResult::OutOfRange:
+            tellUser(Msg::writeBackOutOfRange(text, columnTitle));
+            break;
         default:
             tellUser(Msg::writeBackRefused(text, columnTitle));
             break;

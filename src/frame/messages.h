@@ -40,6 +40,10 @@ inline QString writeBackRefused(const QString &value, const QString &columnTitle
 {
     return QStringLiteral("计算结果 %1 不能回填到 [%2] 列。").arg(value, columnTitle);
 }
+inline QString writeBackOutOfRange(const QString &value, const QString &columnTitle)
+{
+    return QStringLiteral("计算结果 %1 超出 [%2] 列的取值范围，不能回填。").arg(value, columnTitle);
+}
 
 // Titles of the entry control by product and mode.
 inline const QString TitleEntryStock = QStringLiteral("存货初始数据录入");

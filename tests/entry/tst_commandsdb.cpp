@@ -454,6 +454,9 @@ private slots:
         QTest::newRow("no keeps") << int(EntryCol::BegDiff) << 140.25 << false << QString() << QString();
         QTest::newRow("no result, no question") << int(EntryCol::BegDiff) << none << true << QString() << QString();
         QTest::newRow("refused as if typed") << int(EntryCol::BegQty) << -5.0 << true << negative << QString();
+        QTest::newRow("out of range") << int(EntryCol::BegDiff) << 1e13 << true
+                                      << QStringLiteral("计算结果 10000000000000 超出 [期初差异] 列的取值范围，不能回填。")
+                                      << QString();
         QTest::newRow("locked cell") << int(EntryCol::Name) << 3.0 << true
                                      << QStringLiteral("计算结果 3 不能回填到 [物料名称] 列。") << QString();
     }
