@@ -52,7 +52,7 @@ const QVector<EntryCommandSpec> &entryCommandTable()
         {C::Find, {EFind}, Find, "查找", EditMenu, "Ctrl+F", false, "edit-find", Built | Entry | Rows},
         {C::Filter, {EFilter}, Filter, "过滤", EditMenu, "", false, "format-justify-fill", Built | Entry | Node},
         {C::Sort, {ESort}, Sort, "排序", EditMenu, "", false, "view-sort-ascending", Built | Entry | Node},
-        {C::Calculator, {ECal}, {}, "计算器", EditMenu, "", false, "accessories-calculator", Node},
+        {C::Calculator, {ECal}, {}, "计算器", EditMenu, "", false, "accessories-calculator", Built | Entry | Node},
         {C::Check, {VCheck}, Check, "对账", ViewMenu, "", false, "tools-check-spelling", Reconcile},
         {C::Balance, {VBalance}, Balance, "试算平衡", ViewMenu, "", false, "emblem-default", Reconcile | Node},
         {C::Transfer, {}, Transfer, "传递", ViewMenu, "", false, "go-next", Reconcile},

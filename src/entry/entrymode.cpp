@@ -12,6 +12,7 @@
 #include "sheet/navtree.h"
 #include "sheet/balancecheck.h"
 #include "sheet/pagebar.h"
+#include "sheet/sqltext.h"
 
 #include "frame/barlist.h"
 #include "frame/errorbox.h"
@@ -23,6 +24,7 @@
 #include "frame/sysparams.h"
 #include "frame/waitcursor.h"
 
+#include "frame/clients/calcclient.h"
 #include "frame/clients/initialdataclient.h"
 
 #include "frame/automation/dictionary.h"
@@ -479,6 +481,37 @@ bool EntryMode::showTotals()
         return false;
     SpreadConsole::moveToCell(*m_grid, row, EntryCol::Number);
     return true;
+}
+
+void EntryMode::calculateIntoCell()
+{
+    try {
+        const CalcClient calculator;
+        if (!calculator.Show())
+            return;
+        const int row = m_grid->row();
+        const int col = m_grid->col();
+        if (row <= Grid::HeaderRow || col <= Grid::HeaderCol)
+            return;
+        const QString columnTitle = m_grid->TextMatrix(Grid::HeaderRow, col);
+        if (!askYesNo(Msg::askWriteBack(columnTitle), Msg::SystemCaption))
+            return;
+        const QString text = SqlText::number(calculator.Value());
+        switch (m_grid->tryEditCell(row, col, text)) {
+        case Grid::EditResult::Accepted:
+        case Grid::EditResult::Unchanged:
+        case Grid::EditResult::Cancelled: // the check that refused it has said why
+            break;
+        case Grid::EditResult::OutOfRange:
+            tellUser(Msg::writeBackOutOfRange(text, columnTitle));
+            break;
+        default:
+            tellUser(Msg::writeBackRefused(text, columnTitle));
+            break;
+        }
+    } catch (const LumoError &error) {
+        reportProcedureError(QStringLiteral("mnuECal_Click"), error);
+    }
 }
 
 void EntryMode::setNodeCommandsVisible(bool visible)

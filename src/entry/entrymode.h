@@ -55,6 +55,9 @@ public:
     bool DeleteCurrentRow();
     std::unique_ptr<frmBatchManager> batchDialogFor(int row);
     bool showTotals();
+    // The calculator: a result the user closes it with goes into the current cell when the user
+    // says Yes, through the edit path, so it meets the checks a typed value does.
+    void calculateIntoCell();
     void setSaveEnabled(bool enabled);
     // The page properties and the page bar follow the sheet.
     void showPages();

@@ -399,6 +399,9 @@ void ICInitCtl::runCommand(const QString &key)
     case EntryCommand::Color:
         colorDialog()->ShowDialog();
         break;
+    case EntryCommand::Calculator:
+        m_entry->calculateIntoCell();
+        break;
     case EntryCommand::Tree:
         m_treePane->setHidden(!m_treePane->isHidden());
         break;

@@ -30,7 +30,12 @@ void reportProcedureError(const QString &procedure, const LumoError &error)
 
 bool askYesNo(const QString &question)
 {
-    return Prompter::current().ask({ResString(Msg::Caption), ResString(question), Prompter::Buttons::YesNo,
+    return askYesNo(question, Msg::Caption);
+}
+
+bool askYesNo(const QString &question, const QString &caption)
+{
+    return Prompter::current().ask({ResString(caption), ResString(question), Prompter::Buttons::YesNo,
                                     Prompter::Icon::Question})
            == Prompter::Answer::Yes;
 }

@@ -17,8 +17,10 @@ LUMOICINITIAL_EXPORT QString errorMessageText(const QString &message, bool withE
 // with it.
 LUMOICINITIAL_EXPORT void reportProcedureError(const QString &procedure, const LumoError &error);
 
-// A question with Yes and No and the question icon; true only for Yes.
+// A question with Yes and No and the question icon, under the usual caption or the one given;
+// true only for Yes.
 LUMOICINITIAL_EXPORT bool askYesNo(const QString &question);
+LUMOICINITIAL_EXPORT bool askYesNo(const QString &question, const QString &caption);
 // The same with Cancel, for questions a Cancel must be able to stop (Escape answers Cancel).
 LUMOICINITIAL_EXPORT Prompter::Answer askYesNoCancel(const QString &question);
 // An information box with OK.

@@ -7,6 +7,8 @@
 namespace Msg {
 
 inline const QString Caption = QStringLiteral("澄枫提示");
+// The caption of the calculator's question, the one message box that does not use Caption.
+inline const QString SystemCaption = QStringLiteral("系统提示");
 inline const QString LineBreak = QStringLiteral("\r\n");
 inline const QString ErrorReason = QStringLiteral("错误原因：");
 inline const QString ErrorSource = QStringLiteral("错误来源：");
@@ -35,6 +37,20 @@ inline const QString NoMoreFound = QStringLiteral("搜索结果：没有更多�
 inline QString procedureFailed(const QString &procedure)
 {
     return QStringLiteral("系统在调用函数%1()时发生错误").arg(procedure);
+}
+
+// The calculator's result and the column of the current cell.
+inline QString askWriteBack(const QString &columnTitle)
+{
+    return QStringLiteral("是否回填计算结果到 [") + columnTitle + QStringLiteral("] 列。");
+}
+inline QString writeBackRefused(const QString &value, const QString &columnTitle)
+{
+    return QStringLiteral("计算结果 %1 不能回填到 [%2] 列。").arg(value, columnTitle);
+}
+inline QString writeBackOutOfRange(const QString &value, const QString &columnTitle)
+{
+    return QStringLiteral("计算结果 %1 超出 [%2] 列的取值范围，不能回填。").arg(value, columnTitle);
 }
 
 // Titles of the entry control by product and mode.

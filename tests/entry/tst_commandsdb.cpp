@@ -4,6 +4,7 @@
 #include "scratchaccountset.h"
 
 #include "db/sqlrun.h"
+#include "fakeservices.h"
 #include "entry/entrycommands.h"
 #include "sheet/entrygridlayout.h"
 #include "sheet/entrysheet.h"
@@ -33,7 +34,7 @@ namespace {
 
 // What a command visibly does.
 enum class Effect { Saves, AddsRow, DeletesRow, ShowsTotals, Reloads, RestoresWidths, TogglesTree, Toggles,
-                    ClosesFrame, OpensFind, OpensFilter, OpensSort, OpensColors, Nothing };
+                    ClosesFrame, OpensFind, OpensFilter, OpensSort, OpensColors, Calculates, Nothing };
 
 using KeyEffect = std::pair<const char *, Effect>;
 
@@ -46,7 +47,7 @@ const KeyEffect menuKeys[] = {
     {"mcFExportByData", E::Nothing},    {"mcFOutAdjBilll", E::Nothing},     {"mcFStartBal", E::Nothing},
     {"mcExit", E::ClosesFrame},         {"mcEAddNew", E::AddsRow},          {"mcEDelete", E::DeletesRow},
     {"mcESum", E::ShowsTotals},         {"mcEDefault", E::Toggles},         {"mcEFind", E::OpensFind},
-    {"mcEFilter", E::OpensFilter},          {"mcESort", E::OpensSort},            {"mcECal", E::Nothing},
+    {"mcEFilter", E::OpensFilter},          {"mcESort", E::OpensSort},            {"mcECal", E::Calculates},
     {"mcVCheck", E::Nothing},           {"mcVBalance", E::Nothing},         {"mcVColor", E::OpensColors},
     {"mcVSearch", E::Nothing},          {"mcVLookUp", E::Nothing},          {"mcVRefresh", E::Reloads},
     {"mcVOrgWidth", E::RestoresWidths}, {"mcVTree", E::TogglesTree},        {"mcVSRefresh", E::Toggles},
@@ -156,6 +157,8 @@ private slots:
     void initTestCase()
     {
         Prompter::install(&m_prompter);
+        registerFakeCalculator();
+        FakeWorld::instance().calcResult = 140.25;
         m_keysSet = std::make_unique<ScratchAccountSet>(ScratchAccountSet::Sqlite);
     }
 
@@ -242,6 +245,9 @@ private slots:
             break;
         case Effect::DeletesRow:
             grid.select(screw, EntryCol::Number);
+            break;
+        case Effect::Calculates:
+            grid.select(screw, EntryCol::BegDiff);
             break;
         case Effect::Reloads:
             SqlRun::exec(scratch.db(), QStringLiteral("UPDATE ICInvInitial SET FBegDiff=99 WHERE FItemID=?"), {Screw});
@@ -331,6 +337,10 @@ private slots:
         }
         case Effect::OpensColors:
             QCOMPARE(m_opened, u"frmColorManager"_s);
+            break;
+        case Effect::Calculates: // the question to write the result back, answered No
+            QCOMPARE(m_prompter.messages().size(), 1);
+            QCOMPARE(storedBegDiff(scratch, Screw), ScrewBegDiff);
             break;
         case Effect::Nothing:
             QVERIFY(!control->barList()->isEnabled(key) || !control->barList()->isVisible(key));
@@ -448,6 +458,61 @@ private slots:
             for (const char *key : {"mcVBalance", "Balance", "AddNew", "mcFSave", "SP2"})
                 QVERIFY2(!bars.isVisible(QLatin1String(key)), key);
         }
+    }
+
+    void calculatorResultGoesIntoTheCurrentCell_data()
+    {
+        QTest::addColumn<int>("col");
+        QTest::addColumn<double>("result"); // NaN: the calculator closed without one
+        QTest::addColumn<bool>("yes");
+        QTest::addColumn<QString>("refusal"); // the message after the question
+        QTest::addColumn<QString>("shown");   // the cell afterwards; empty: as it was
+
+        const double none = qQNaN();
+        const QString negative = QStringLiteral("录入的数据[数量<0]！\r\n但账套不允许负结存,因此数量不能<0！\r\n"
+                                                "数据非法！请重新录入！");
+        QTest::newRow("yes writes") << int(EntryCol::BegDiff) << 140.25 << true << QString() << "140.25";
+        QTest::newRow("no keeps") << int(EntryCol::BegDiff) << 140.25 << false << QString() << QString();
+        QTest::newRow("no result, no question") << int(EntryCol::BegDiff) << none << true << QString() << QString();
+        QTest::newRow("refused as if typed") << int(EntryCol::BegQty) << -5.0 << true << negative << QString();
+        QTest::newRow("out of range") << int(EntryCol::BegDiff) << 1e13 << true
+                                      << QStringLiteral("计算结果 10000000000000 超出 [期初差异] 列的取值范围，不能回填。")
+                                      << QString();
+        QTest::newRow("locked cell") << int(EntryCol::Name) << 3.0 << true
+                                     << QStringLiteral("计算结果 3 不能回填到 [物料名称] 列。") << QString();
+    }
+
+    void calculatorResultGoesIntoTheCurrentCell()
+    {
+        QFETCH(int, col);
+        QFETCH(double, result);
+        QFETCH(bool, yes);
+        QFETCH(QString, refusal);
+        QFETCH(QString, shown);
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        setParameter(scratch, QStringLiteral("UnderStock"), 0);
+        const auto host = showAtShelfB(scratch);
+        QVERIFY(host);
+        ICInitCtl &control = *host->findChild<ICInitCtl *>();
+        SpreadGrid &grid = *control.grid();
+        const int screw = itemRow(control, Screw);
+        QVERIFY(grid.select(screw, col));
+        const QString before = grid.TextMatrix(screw, col);
+        FakeWorld::instance().calcResult = qIsNaN(result) ? std::nullopt : std::optional(result);
+        m_prompter.queueAnswer(yes ? Prompter::Answer::Yes : Prompter::Answer::No);
+        QVERIFY(control.barList()->Click(EntryKeys::ECal));
+        FakeWorld::instance().calcResult = 140.25;
+
+        QList<Prompter::Message> asked = m_prompter.messages();
+        if (!qIsNaN(result)) {
+            QVERIFY(!asked.isEmpty());
+            const Prompter::Message question = asked.takeFirst();
+            QCOMPARE(question.text, QStringLiteral("是否回填计算结果到 [%1] 列。").arg(grid.TextMatrix(0, col)));
+            QCOMPARE(question.caption, QStringLiteral("系统提示"));
+            QVERIFY(question.buttons == Prompter::Buttons::YesNo && question.icon == Prompter::Icon::Question);
+        }
+        QCOMPARE(asked.isEmpty() ? QString() : asked.first().text, refusal);
+        QCOMPARE(grid.TextMatrix(screw, col), shown.isEmpty() ? before : shown);
     }
 
     void keysRunTheCommandOfTheirAccelerator()

@@ -136,6 +136,15 @@ public:
     }
 };
 
+class FakeCalc : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(double Value READ Value)
+public:
+    Q_INVOKABLE bool Show() { return FakeWorld::instance().calcResult.has_value(); }
+    double Value() const { return FakeWorld::instance().calcResult.value_or(0); }
+};
+
 } // namespace
 
 FakeWorld &FakeWorld::instance()
@@ -170,6 +179,12 @@ void registerFakeServices()
     registry.registerClass(ProgId::NetControlMutex, [] { return new FakeMutex; });
     registry.registerClass(ProgId::LogMsgLog, [] { return new FakeLog; });
     registry.registerClass(ProgId::FrmResLoader, [] { return new FakeFormResources; });
+    registerFakeCalculator();
+}
+
+void registerFakeCalculator()
+{
+    ComponentRegistry::instance().registerClass(ProgId::Calc, [] { return new FakeCalc; });
 }
 
 std::optional<LumoError> raisedBy(const std::function<void()> &action)

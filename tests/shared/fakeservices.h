@@ -45,12 +45,17 @@ struct FakeWorld
     int logObjectsCreated = 0;
     QStringList logLines;
 
+    // "LumoCALC.Calc": the result the user closes the calculator with; none when closed without.
+    std::optional<double> calcResult;
+
     static FakeWorld &instance();
     void reset();
 };
 
 // Registers every fake under its ProgID.
 void registerFakeServices();
+// The calculator alone, for suites on the real middle tier: no test may wait on its modal window.
+void registerFakeCalculator();
 
 // The error the action raised; none when it raised nothing.
 std::optional<LumoError> raisedBy(const std::function<void()> &action);
