@@ -28,4 +28,7 @@ inline constexpr QLatin1StringView LogMsgLog{"QLLogMsg.Log"};
 inline constexpr QLatin1StringView ShareProps{"LumoPropsMgr.ShareProps"};
 inline constexpr QLatin1StringView FrmResLoader{"LumoFrmRes.FrmResLoader"};
 
+// The suite's own components.
+inline constexpr QLatin1StringView GLView{"LumoEBCGLView.GLView"};
+
 } // namespace ProgId

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QtCore/qglobal.h>
+
+#if defined(LUMOSUITECOMPONENTS_LIBRARY)
+#define LUMOSUITECOMPONENTS_EXPORT Q_DECL_EXPORT
+#else
+#define LUMOSUITECOMPONENTS_EXPORT Q_DECL_IMPORT
+#endif
