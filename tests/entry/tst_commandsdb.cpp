@@ -33,7 +33,7 @@ namespace {
 
 // What a command visibly does.
 enum class Effect { Saves, AddsRow, DeletesRow, ShowsTotals, Reloads, RestoresWidths, TogglesTree, Toggles,
-                    ClosesFrame, OpensFind, OpensFilter, OpensSort, OpensColors, Nothing };
+                    ClosesFrame, OpensFind, OpensFilter, OpensSort, OpensColors, OpensItemLookUp, Nothing };
 
 using KeyEffect = std::pair<const char *, Effect>;
 
@@ -48,7 +48,7 @@ const KeyEffect menuKeys[] = {
     {"mcESum", E::ShowsTotals},         {"mcEDefault", E::Toggles},         {"mcEFind", E::OpensFind},
     {"mcEFilter", E::OpensFilter},          {"mcESort", E::OpensSort},            {"mcECal", E::Nothing},
     {"mcVCheck", E::Nothing},           {"mcVBalance", E::Nothing},         {"mcVColor", E::OpensColors},
-    {"mcVSearch", E::Nothing},          {"mcVLookUp", E::Nothing},          {"mcVRefresh", E::Reloads},
+    {"mcVSearch", E::OpensItemLookUp},  {"mcVLookUp", E::OpensItemLookUp},          {"mcVRefresh", E::Reloads},
     {"mcVOrgWidth", E::RestoresWidths}, {"mcVTree", E::TogglesTree},        {"mcVSRefresh", E::Toggles},
     {"mcWToolBar", E::Toggles},         {"mcWTBLable", E::Toggles},         {"mcWStatusBar", E::Toggles},
 };
@@ -58,7 +58,7 @@ const KeyEffect toolKeys[] = {
     {"AddNew", E::AddsRow},       {"Delete", E::DeletesRow},    {"Sum", E::ShowsTotals},
     {"Find", E::OpensFind},         {"Filter", E::OpensFilter},       {"Sort", E::OpensSort},
     {"Check", E::Nothing},        {"Balance", E::Nothing},      {"Transfer", E::Nothing},
-    {"Color", E::OpensColors},        {"Search", E::Nothing},       {"Refresh", E::Reloads},
+    {"Color", E::OpensColors},        {"Search", E::OpensItemLookUp},       {"Refresh", E::Reloads},
     {"TreeView", E::TogglesTree},
 };
 
@@ -331,6 +331,10 @@ private slots:
         }
         case Effect::OpensColors:
             QCOMPARE(m_opened, u"frmColorManager"_s);
+            break;
+        case Effect::OpensItemLookUp:
+            QCOMPARE(m_opened, u"frmItemLookUp"_s);
+            QCOMPARE(grid.rows(), before.rows); // cancelled: no row is added
             break;
         case Effect::Nothing:
             QVERIFY(!control->barList()->isEnabled(key) || !control->barList()->isVisible(key));

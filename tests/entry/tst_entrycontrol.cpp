@@ -27,7 +27,9 @@
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dictionary.h"
 #include "frame/automation/progids.h"
+#include "frame/automation/recordset.h"
 
+#include "services/lumoebcglviewgldata.h"
 #include "services/lumomicinitialdata.h"
 
 #include "db/sqlrun.h"
@@ -69,6 +71,28 @@ public:
     {
         scripts.append(script);
         LumoMICInitialData::UpdateINIData(PropsString, script);
+    }
+};
+
+// The item look-up as a person who picks the first item matching `pick` within the caller's
+// classes: found through the real data service, or cancelled when none matches.
+class PickingGLView : public QObject
+{
+    Q_OBJECT
+public:
+    static inline QString pick;
+    static inline QStringList conditions;
+    Q_INVOKABLE QObject *ItemLookUp(const QString &Condition, const QString &, const QString &, QObject *)
+    {
+        conditions.append(Condition);
+        auto result = new Dictionary;
+        const std::unique_ptr<Recordset> found(
+            qobject_cast<Recordset *>(LumoEBCGLViewGLData().LookupItems(Condition, pick, {}, 0, 1)));
+        const Recordset &items = *found;
+        result->setItem(u"ReturnOK"_s, items.RecordCount() == 1);
+        for (int f = 0; f < items.FieldCount() && items.RecordCount() == 1; ++f)
+            result->setItem(items.FieldName(f), items.value(0, f));
+        return result;
     }
 };
 
@@ -242,6 +266,7 @@ private slots:
         Prompter::install(&m_prompter);
         ComponentRegistry::instance().registerClass(ProgId::MICInitialData, [] { return new CountingInitialData; });
         ComponentRegistry::instance().registerClass(ProgId::LogMsgLog, [] { return new RecordingLog; });
+        ComponentRegistry::instance().registerClass(ProgId::GLView, [] { return new PickingGLView; });
     }
 
     // Every case runs on each backend; one that cannot be reached here is skipped.
@@ -415,6 +440,90 @@ private slots:
     }
 
     // The control carries the row check's verdict out: the message, the cursor, nothing written.
+    // A new row's item typed by its code (code) or picked in the look-up (pick) at shelf B, which
+    // holds the screw 1.04.001 and the gloves 3.02.002 under an auxiliary class.
+    void itemByCodeOrLookUp_data()
+    {
+        QTest::addColumn<QString>("prepare");
+        QTest::addColumn<int>("pageSize");
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QString>("pick");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<QString>("shown"); // the code column after, empty when no item was entered
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("auxOpen");
+        const QString noItem = u"基础资料中该物料不存在，\r\n请重新输入！"_s;
+        const QString typedAgain = u"该物料已存在，请重新输入！"_s;
+        const QString pickedAgain = u"该物料已存在，请重新选择！"_s;
+        const QString shortCodes = u"UPDATE t_SystemProfile SET FValue='1' WHERE FKey='UseShortNumber';"_s;
+        QTest::newRow("unknown code") << QString() << 0 << u"9.99.999"_s << QString() << noItem << QString() << QString() << false;
+        QTest::newRow("short code of two items")
+            << shortCodes + u"UPDATE t_ICItem SET FShortNumber='GB' WHERE FItemID IN (2,3)"_s << 0 << u"GB"_s << QString()
+            << u"基础资料中代码为[GB]的物料不唯一，请重新输入！"_s << QString() << QString() << false;
+        QTest::newRow("item on screen") << QString() << 0 << u"1.04.001"_s << QString() << typedAgain << QString() << QString() << false;
+        QTest::newRow("item saved on another page") << QString() << 1 << u"1.04.001"_s << QString() << typedAgain << QString()
+                                                    << QString() << false;
+        QTest::newRow("auxiliary class: again allowed") << QString() << 0 << u"3.02.002"_s << QString() << QString()
+                                                        << u"3.02.002"_s << u"劳保手套"_s << true;
+        QTest::newRow("new item") << QString() << 0 << u"2.01.001"_s << QString() << QString() << u"2.01.001"_s
+                                  << u"电机壳体"_s << false;
+        QTest::newRow("short code shown") << shortCodes + u"UPDATE t_ICItem SET FShortNumber='KT' WHERE FItemID=10"_s << 0
+                                          << u"KT"_s << QString() << QString() << u"KT"_s << u"电机壳体"_s << false;
+        QTest::newRow("look-up: new item") << QString() << 0 << QString() << u"电机壳"_s << QString() << u"2.01.001"_s
+                                           << u"电机壳体"_s << false;
+        QTest::newRow("look-up: item on screen") << QString() << 0 << QString() << u"1.04.001"_s << pickedAgain << QString()
+                                                 << QString() << false;
+        QTest::newRow("look-up: no stockless class") << QString() << 0 << QString() << u"9.01.001"_s << QString() << QString()
+                                                    << QString() << false;
+    }
+
+    void itemByCodeOrLookUp()
+    {
+        QFETCH(QString, prepare);
+        QFETCH(int, pageSize);
+        QFETCH(QString, code);
+        QFETCH(QString, pick);
+        QFETCH(QString, message);
+        QFETCH(QString, shown);
+        QFETCH(QString, name);
+        QFETCH(bool, auxOpen);
+        for (const QString &statement : prepare.split(u';', Qt::SkipEmptyParts))
+            SqlRun::exec(m_set->db(), statement);
+        show(0);
+        if (pageSize > 0)
+            m_control->setMlngPerPageSize(pageSize);
+        QVERIFY(m_control->tree()->clickNode(EntryDb::ShelfB));
+        if (pageSize > 0)
+            QCOMPARE(rowOf(code), 0); // the item is saved at the place but not on this page
+        const QStringList before = balances();
+        const int rowsBefore = grid().rows();
+        int row = 0;
+        if (code.isEmpty()) {
+            PickingGLView::pick = pick;
+            PickingGLView::conditions.clear();
+            QVERIFY(m_control->barList()->Click(EntryKeys::VLookUp));
+            QCOMPARE(PickingGLView::conditions, QStringList{u"x2.FErpClsID in (1,2,3,7,9)"_s});
+            row = shown.isEmpty() ? 0 : grid().row();
+            // A refused or cancelled pick adds no row.
+            QCOMPARE(grid().rows(), rowsBefore + (shown.isEmpty() ? 0 : 1));
+        } else {
+            row = m_control->AddNewRow();
+            grid().editCell(row, EntryCol::Number, code);
+            // The cell keeps what was typed, refused or not.
+            QCOMPARE(grid().TextMatrix(row, EntryCol::Number), shown.isEmpty() ? code : shown);
+        }
+        QCOMPARE(m_prompter.messages().size(), message.isEmpty() ? 0 : 1);
+        QCOMPARE(onlyMessage(), message);
+        if (!shown.isEmpty()) {
+            QCOMPARE(grid().TextMatrix(row, EntryCol::Number), shown);
+            QCOMPARE(grid().TextMatrix(row, EntryCol::Name), name);
+            QCOMPARE(!sheet().locked(row, EntryCol::AuxProp, true), auxOpen);
+        } else if (row > 0) {
+            QCOMPARE(grid().TextMatrix(row, EntryCol::Name), QString());
+        }
+        QCOMPARE(balances(), before);
+    }
+
     void rowCheckPutsTheCursorOnTheMissingCell()
     {
         clickNode(SemiFinished);
