@@ -35,8 +35,11 @@ ItemLookupDialog::ItemLookupDialog(ItemLookupModel::PageSource source, const QSt
     setWindowTitle(caption.isEmpty() ? ComponentText::ItemLookUpCaption : caption);
     setObjectName(QStringLiteral("frmItemLookUp"));
     m_search->setObjectName(QStringLiteral("txtSearch"));
+    m_status->setObjectName(QStringLiteral("lblStatus"));
     m_search->setPlaceholderText(ComponentText::SearchHint);
     m_search->setClearButtonEnabled(true);
+    // Text the caller hands over is offered, and replaced by the first key typed.
+    m_search->selectAll();
     m_search->installEventFilter(this);
     auto *label = new QLabel(ComponentText::SearchLabel, this);
     label->setBuddy(m_search);
