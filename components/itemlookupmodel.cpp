@@ -28,9 +28,10 @@ const ColumnSpec &columnSpec(int column)
 
 } // namespace
 
-ItemLookupModel::ItemLookupModel(PageSource source, QObject *parent)
+ItemLookupModel::ItemLookupModel(PageSource source, int pageSize, QObject *parent)
     : QAbstractTableModel(parent)
     , m_source(std::move(source))
+    , m_pageSize(pageSize)
 {
 }
 
@@ -39,8 +40,10 @@ void ItemLookupModel::setPattern(const QString &pattern)
     beginResetModel();
     m_pattern = pattern;
     m_rows.clear();
-    m_atEnd = false;
+    // Whoever listens to the reset must not fetch the first page inside it.
+    m_atEnd = true;
     endResetModel();
+    m_atEnd = false;
     fetchMore({});
 }
 
@@ -90,23 +93,24 @@ void ItemLookupModel::fetchMore(const QModelIndex &parent)
     const int last = int(m_rows.size()) - 1;
     const QString afterNumber = last < 0 ? QString() : field(last, NumberField).toString();
     const int afterId = last < 0 ? 0 : field(last, ItemIdField).toInt();
-    // A source that fails ends the list where it is rather than asking again on every scroll.
+    // Nothing more is fetched while this page is read and inserted (views and testers ask from
+    // the insertion signals); a source that fails ends the list rather than being asked again.
     m_atEnd = true;
-    const std::unique_ptr<Recordset> page = m_source(m_pattern, afterNumber, afterId, PageSize);
+    const std::unique_ptr<Recordset> page = m_source(m_pattern, afterNumber, afterId, m_pageSize);
     if (m_fields.isEmpty())
         m_fields = page->fieldNames();
     const int count = page->RecordCount();
-    m_atEnd = count < PageSize;
-    if (count == 0)
-        return;
-    beginInsertRows({}, int(m_rows.size()), int(m_rows.size()) + count - 1);
-    for (int r = 0; r < count; ++r) {
-        QVector<QVariant> row(m_fields.size());
-        for (int f = 0; f < m_fields.size(); ++f)
-            row[f] = page->value(r, m_fields.at(f));
-        m_rows.append(std::move(row));
+    if (count > 0) {
+        beginInsertRows({}, int(m_rows.size()), int(m_rows.size()) + count - 1);
+        for (int r = 0; r < count; ++r) {
+            QVector<QVariant> row(m_fields.size());
+            for (int f = 0; f < m_fields.size(); ++f)
+                row[f] = page->value(r, m_fields.at(f));
+            m_rows.append(std::move(row));
+        }
+        endInsertRows();
     }
-    endInsertRows();
+    m_atEnd = count < m_pageSize;
 }
 
 QVariant ItemLookupModel::field(int row, const QString &name) const

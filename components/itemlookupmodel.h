@@ -24,7 +24,7 @@ public:
     enum Column { Number, ShortNumber, Name, Model, Unit, ColumnCount };
     static constexpr int PageSize = 50;
 
-    explicit ItemLookupModel(PageSource source, QObject *parent = nullptr);
+    explicit ItemLookupModel(PageSource source, int pageSize = PageSize, QObject *parent = nullptr);
 
     // Starts over with the items matching `pattern`, reading the first page.
     void setPattern(const QString &pattern);
@@ -44,6 +44,7 @@ private:
     QVariant field(int row, const QString &name) const;
 
     PageSource m_source;
+    const int m_pageSize;
     QString m_pattern;
     QStringList m_fields;
     QVector<QVector<QVariant>> m_rows;

@@ -10,6 +10,9 @@
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
 
+#include "itemlookupmodel.h"
+
+#include <QAbstractItemModelTester>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -331,6 +334,25 @@ private slots:
         int id = 0;
         QCOMPARE(errorNumberOf([&] { id = call(GL, u"Login"_s, {scratch.acctDb(), user}).toInt(); }), error);
         QTEST(id, "userId");
+    }
+
+    // The look-up's list reads page after page by key as it scrolls: every item once, in code order.
+    void itemLookUpListReadsPageByPage()
+    {
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        publishLogin(scratch.propsString());
+        const QString classes = u"x2.FErpClsID<>5"_s;
+        ItemLookupModel model([&](const QString &pattern, const QString &afterNumber, int afterId, int count) {
+            return recordset(GL, u"LookupItems"_s, {classes, pattern, afterNumber, afterId, count});
+        }, 5);
+        QAbstractItemModelTester tester(&model);
+        model.setPattern({});
+        while (model.canFetchMore({}))
+            model.fetchMore({});
+        QStringList codes;
+        for (int row = 0; row < model.rowCount(); ++row)
+            codes.append(model.record(row).value(u"FNumber"_s).toString());
+        QCOMPARE(codes, scratch.rows(u"SELECT FNumber FROM t_ICItem WHERE FErpClsID<>5 ORDER BY FNumber"_s));
     }
 
     void lookupsFindWhatIsAsked_data()
