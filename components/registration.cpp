@@ -1,4 +1,5 @@
 #include "calc/lumocalccalc.h"
+#include "lumoebcglviewglview.h"
 
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/progids.h"
@@ -8,6 +9,7 @@ namespace {
 
 const bool registered = [] {
     ComponentRegistry::instance().registerClass(ProgId::Calc, [] { return new LumoCALCCalc; });
+    ComponentRegistry::instance().registerClass(ProgId::GLView, [] { return new LumoEBCGLViewGLView; });
     return true;
 }();
 

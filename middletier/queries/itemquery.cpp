@@ -25,10 +25,22 @@ QString itemSelect()
         .arg(ValuationNames::caseExpression(QStringLiteral("i.FTrack")));
 }
 
-Recordset *run(const QSqlDatabase &db, const QString &conditions, const QVariantList &values)
+Recordset *run(const QSqlDatabase &db, const QString &conditions, const QVariantList &values,
+               const QString &tail = QStringLiteral(" ORDER BY i.FNumber"))
 {
-    QSqlQuery query = SqlRun::exec(db, itemSelect() + conditions + QStringLiteral(" ORDER BY i.FNumber"), values);
+    QSqlQuery query = SqlRun::exec(db, itemSelect() + conditions + tail, values);
     return recordsetFromQuery(query, ItemQuery::fields());
+}
+
+// The typed text as a LIKE pattern for "contains": its own %, _ and escape character match
+// themselves.
+QString containsPattern(const QString &text)
+{
+    QString escaped = text;
+    escaped.replace(QLatin1Char('\\'), QStringLiteral("\\\\"))
+        .replace(QLatin1Char('%'), QStringLiteral("\\%"))
+        .replace(QLatin1Char('_'), QStringLiteral("\\_"));
+    return QLatin1Char('%') + escaped + QLatin1Char('%');
 }
 
 } // namespace
@@ -55,7 +67,8 @@ Recordset *byCode(const QSqlDatabase &db, const QString &code)
                {code.trimmed()});
 }
 
-Recordset *lookup(const QSqlDatabase &db, const QString &erpClassCondition, const QString &pattern)
+Recordset *lookup(const QSqlDatabase &db, const QString &erpClassCondition, const QString &pattern,
+                  const PageKey &after, int count)
 {
     const script::BoundSql classes = ErpClassCondition::parse(erpClassCondition, QStringLiteral("i.FErpClsID"));
     QString conditions;
@@ -65,12 +78,17 @@ Recordset *lookup(const QSqlDatabase &db, const QString &erpClassCondition, cons
         values += classes.values;
     }
     if (!pattern.trimmed().isEmpty()) {
-        const QString like = SqlDialect::of(db).likeOperator(false);
-        conditions += QStringLiteral(" AND (i.FNumber %1 ? OR i.FShortNumber %1 ? OR i.FName %1 ?)").arg(like);
-        const QString contains = QLatin1Char('%') + pattern.trimmed() + QLatin1Char('%');
-        values << contains << contains << contains;
+        const QString like = SqlDialect::of(db).likeOperator(false) + QStringLiteral(" ? ESCAPE '\\'");
+        conditions += QStringLiteral(" AND (i.FNumber %1 OR i.FShortNumber %1 OR i.FName %1 OR i.FModel %1)").arg(like);
+        const QString contains = containsPattern(pattern.trimmed());
+        values << contains << contains << contains << contains;
     }
-    return run(db, conditions, values);
+    if (after.itemId > 0) {
+        conditions += QStringLiteral(" AND (i.FNumber>? OR (i.FNumber=? AND i.FItemID>?))");
+        values << after.number << after.number << after.itemId;
+    }
+    values << qBound(1, count, MaxLookupPage);
+    return run(db, conditions, values, QStringLiteral(" ORDER BY i.FNumber, i.FItemID LIMIT ?"));
 }
 
 } // namespace ItemQuery

@@ -22,10 +22,21 @@ LUMOMIDDLETIER_EXPORT const QStringList &fields();
 // code; the caller decides what to make of none or several.
 LUMOMIDDLETIER_EXPORT Recordset *byCode(const QSqlDatabase &db, const QString &code);
 
-// The items of the look-up: those of the item classes `erpClassCondition` allows (see
-// ErpClassCondition) whose code, short code or name contains `pattern` (every item for an
-// empty pattern), in code order.
+// Where a page of the look-up starts: after the item of this code and id (the last of the page
+// before); an item id of 0 starts at the first item.
+struct PageKey
+{
+    QString number;
+    int itemId = 0;
+};
+
+// One page of the look-up, at most `count` items (1 to MaxLookupPage): those of the item
+// classes `erpClassCondition` allows (see ErpClassCondition) whose code, short code, name or
+// model contains `pattern` as typed (% and _ match themselves; every item for an empty
+// pattern), in code order after `after`. Pages are read by key, so a late page costs what the
+// first does.
+inline constexpr int MaxLookupPage = 1000;
 LUMOMIDDLETIER_EXPORT Recordset *lookup(const QSqlDatabase &db, const QString &erpClassCondition,
-                                        const QString &pattern);
+                                        const QString &pattern, const PageKey &after, int count);
 
 } // namespace ItemQuery

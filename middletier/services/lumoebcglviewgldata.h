@@ -36,9 +36,12 @@ public:
     // each a new Recordset.
     // Items (not deleted) of the item classes Condition allows - "x2.FErpClsID in (1,2,3,7,9)",
     // "x2.FErpClsID<>5" or "x2.FErpClsID=n", empty for all; any other text raises
-    // DataError::BadErpClassCondition - whose code, short code or name contains Pattern (empty:
-    // all), in code order, with the fields of FetchYtdItemDetail.
-    Q_INVOKABLE QObject *LookupItems(const QString &Condition, const QString &Pattern);
+    // DataError::BadErpClassCondition - whose code, short code, name or model contains Pattern
+    // as typed (empty: all), in code order, with the fields of FetchYtdItemDetail: one page of
+    // at most Count (1 to 1000) items after the item of code AfterNumber and id AfterID (AfterID 0:
+    // from the first).
+    Q_INVOKABLE QObject *LookupItems(const QString &Condition, const QString &Pattern, const QString &AfterNumber,
+                                     int AfterID, int Count);
     // The units of the item's unit group offered for conversion: FMeasureUnitID, FUnitGroupID,
     // FNumber, FName, FCoefficient, in number order.
     Q_INVOKABLE QObject *LookupUnits(int ItemID);

@@ -24,9 +24,10 @@ int LumoEBCGLViewGLData::Login(const QString &AcctDB, const QString &UserName)
     return LoginQuery::userId(AcctDB, UserName);
 }
 
-QObject *LumoEBCGLViewGLData::LookupItems(const QString &Condition, const QString &Pattern)
+QObject *LumoEBCGLViewGLData::LookupItems(const QString &Condition, const QString &Pattern,
+                                          const QString &AfterNumber, int AfterID, int Count)
 {
-    return ItemQuery::lookup(loggedInDatabase(), Condition, Pattern);
+    return ItemQuery::lookup(loggedInDatabase(), Condition, Pattern, {AfterNumber, AfterID}, Count);
 }
 
 QObject *LumoEBCGLViewGLData::LookupUnits(int ItemID)

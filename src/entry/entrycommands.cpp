@@ -57,7 +57,7 @@ const QVector<EntryCommandSpec> &entryCommandTable()
         {C::Balance, {VBalance}, Balance, "试算平衡", ViewMenu, "", false, "emblem-default", Reconcile | Node},
         {C::Transfer, {}, Transfer, "传递", ViewMenu, "", false, "go-next", Reconcile},
         {C::Color, {VColor}, Color, "颜色设置", ViewMenu, "", false, "preferences-desktop-theme", Built},
-        {C::Search, {VSearch, VLookUp}, Search, "物料录入", ViewMenu, "F7", false, "system-search", Node},
+        {C::Search, {VSearch, VLookUp}, Search, "物料录入", ViewMenu, "F7", false, "system-search", Built | Entry | Changes | Node},
         {C::Refresh, {VRefresh}, Refresh, "刷新", ViewMenu, "F5", false, "view-refresh", Built},
         {C::OrgWidth, {OrgWidth}, {}, "恢复默认列宽", ViewMenu, "", false, "", Built},
         {C::Tree, {VTree}, TreeView, "仓库树", ViewMenu, "", false, "system-file-manager", Built},

@@ -25,6 +25,7 @@
 #include "frame/waitcursor.h"
 
 #include "frame/clients/calcclient.h"
+#include "frame/clients/glviewclient.h"
 #include "frame/clients/initialdataclient.h"
 
 #include "frame/automation/dictionary.h"
@@ -438,14 +439,48 @@ bool EntryMode::confirmClose()
     }
 }
 
-int EntryMode::AddNewRow()
+bool EntryMode::canAddRows() const
 {
     const WarehouseEntry *place = m_ctl.isEntryMode() && m_ctl.currentNode() > 0 ? &m_stocks.at(m_ctl.currentNode()) : nullptr;
-    if (!place || place->isStockMgr != 0)
+    return place && place->isStockMgr == 0;
+}
+
+int EntryMode::AddNewRow()
+{
+    if (!canAddRows())
         return 0;
     const int row = m_sheet->addNewRow();
     SpreadConsole::moveToCell(*m_grid, row, EntryCol::Number);
     return row;
+}
+
+bool EntryMode::lookUpItem()
+{
+    int row = m_grid->row();
+    const bool intoCurrentRow = m_sheet->isNewRow(row);
+    if (!intoCurrentRow && !canAddRows())
+        return false;
+    try {
+        const QString typed = intoCurrentRow ? m_grid->cells()->text(row, EntryCol::Number).trimmed() : QString();
+        const std::unique_ptr<Recordset> item = GLViewClient().ItemLookUp(ItemEntry::StockItemClasses, typed, &m_ctl);
+        if (!item)
+            return false;
+        // A refused item leaves the grid as it was: no row is added for it.
+        const QString refusal = ItemEntry::pickedRefusal(*m_sheet, intoCurrentRow ? row : 0, *item);
+        if (!refusal.isEmpty()) {
+            tellUser(refusal);
+            return false;
+        }
+        if (!intoCurrentRow)
+            row = AddNewRow();
+        ItemEntry::FillItemDetailByF7(*m_sheet, row, *item, 0);
+        SpreadConsole::moveToCell(*m_grid, row, EntryCol::Number);
+    } catch (const LumoError &error) {
+        reportProcedureError(QStringLiteral("FillItemDetailByF7"), error);
+        return false;
+    }
+    markRowChanged(row);
+    return true;
 }
 
 bool EntryMode::DeleteCurrentRow()

@@ -52,6 +52,9 @@ public:
     // Cancel keeps the frame and the changes.
     bool confirmClose();
     int AddNewRow();
+    // The item look-up (F7, "mcVSearch", "mcVLookUp"): the picked item fills the current new
+    // row, or a row added for it; false when nothing was entered.
+    bool lookUpItem();
     bool DeleteCurrentRow();
     std::unique_ptr<frmBatchManager> batchDialogFor(int row);
     bool showTotals();
@@ -64,6 +67,7 @@ public:
 
 private:
     void fillStockList();
+    bool canAddRows() const;
     void markRowChanged(int row);
     bool checkEditedGroup(int row, int col, const QVariant &value);
     void onAfterEdit(int row, int col);

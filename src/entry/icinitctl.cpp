@@ -381,6 +381,9 @@ void ICInitCtl::runCommand(const QString &key)
     case EntryCommand::AddNew:
         AddNewRow();
         break;
+    case EntryCommand::Search:
+        m_entry->lookUpItem();
+        break;
     case EntryCommand::Delete:
         DeleteCurrentRow();
         break;

@@ -23,6 +23,14 @@ namespace {
 
 using namespace EntryCol;
 
+const QString UnknownItem = QStringLiteral("基础资料中该物料不存在，");
+const QString TypeAgain = QStringLiteral("请重新输入！");
+const QString AmbiguousCode = QStringLiteral("基础资料中代码为[%1]的物料不唯一，请重新输入！");
+const QString TypedItemExists = QStringLiteral("该物料已存在，请重新输入！");
+const QString PickedItemExists = QStringLiteral("该物料已存在，请重新选择！");
+const QString ItemIdField = QStringLiteral("FItemID");
+const QString AuxClassIdField = QStringLiteral("FAuxClassID");
+
 // The item already has a row of this place: on screen (other than `row`) or saved.
 bool alreadyEntered(EntrySheet &sheet, int row, qint32 itemId, bool hasAuxClass)
 {
@@ -61,19 +69,25 @@ Outcome enterCode(EntrySheet &sheet, int row, const QString &code)
     const QString trimmed = code.trimmed();
     const auto items = InitialDataClient(ProgId::MICInitialData).FetchYtdItemDetail(trimmed);
     if (items->RecordCount() == 0)
-        return {false, ResString(QStringLiteral("基础资料中该物料不存在，")) + Msg::LineBreak
-                           + ResString(QStringLiteral("请重新输入！"))};
+        return {false, ResString(UnknownItem) + Msg::LineBreak + ResString(TypeAgain)};
     QSet<qint32> ids;
     for (int i = 0; i < items->RecordCount(); ++i)
-        ids.insert(items->value(i, QStringLiteral("FItemID")).toInt());
+        ids.insert(items->value(i, ItemIdField).toInt());
     if (ids.size() > 1)
-        return {false, ResString(QStringLiteral("基础资料中代码为[%1]的物料不唯一，请重新输入！").arg(trimmed))};
-    const qint32 itemId = items->value(0, QStringLiteral("FItemID")).toInt();
-    const bool hasAuxClass = items->value(0, QStringLiteral("FAuxClassID")).toInt() > 0;
+        return {false, ResString(AmbiguousCode).arg(trimmed)};
+    const qint32 itemId = items->value(0, ItemIdField).toInt();
+    const bool hasAuxClass = items->value(0, AuxClassIdField).toInt() > 0;
     if (alreadyEntered(sheet, row, itemId, hasAuxClass))
-        return {false, ResString(QStringLiteral("该物料已存在，请重新输入！"))};
+        return {false, ResString(TypedItemExists)};
     FillItemDetailByF7(sheet, row, *items, 0);
     return {true, {}};
+}
+
+QString pickedRefusal(EntrySheet &sheet, int row, const Recordset &items)
+{
+    const qint32 itemId = items.value(0, ItemIdField).toInt();
+    const bool hasAuxClass = items.value(0, AuxClassIdField).toInt() > 0;
+    return alreadyEntered(sheet, row, itemId, hasAuxClass) ? ResString(PickedItemExists) : QString();
 }
 
 void FillItemDetailByF7(EntrySheet &sheet, int row, const Recordset &items, int record)

@@ -34,7 +34,7 @@ namespace {
 
 // What a command visibly does.
 enum class Effect { Saves, AddsRow, DeletesRow, ShowsTotals, Reloads, RestoresWidths, TogglesTree, Toggles,
-                    ClosesFrame, OpensFind, OpensFilter, OpensSort, OpensColors, Calculates, Nothing };
+                    ClosesFrame, OpensFind, OpensFilter, OpensSort, OpensColors, Calculates, OpensItemLookUp, Nothing };
 
 using KeyEffect = std::pair<const char *, Effect>;
 
@@ -49,7 +49,7 @@ const KeyEffect menuKeys[] = {
     {"mcESum", E::ShowsTotals},         {"mcEDefault", E::Toggles},         {"mcEFind", E::OpensFind},
     {"mcEFilter", E::OpensFilter},          {"mcESort", E::OpensSort},            {"mcECal", E::Calculates},
     {"mcVCheck", E::Nothing},           {"mcVBalance", E::Nothing},         {"mcVColor", E::OpensColors},
-    {"mcVSearch", E::Nothing},          {"mcVLookUp", E::Nothing},          {"mcVRefresh", E::Reloads},
+    {"mcVSearch", E::OpensItemLookUp},  {"mcVLookUp", E::OpensItemLookUp},          {"mcVRefresh", E::Reloads},
     {"mcVOrgWidth", E::RestoresWidths}, {"mcVTree", E::TogglesTree},        {"mcVSRefresh", E::Toggles},
     {"mcWToolBar", E::Toggles},         {"mcWTBLable", E::Toggles},         {"mcWStatusBar", E::Toggles},
 };
@@ -59,7 +59,7 @@ const KeyEffect toolKeys[] = {
     {"AddNew", E::AddsRow},       {"Delete", E::DeletesRow},    {"Sum", E::ShowsTotals},
     {"Find", E::OpensFind},         {"Filter", E::OpensFilter},       {"Sort", E::OpensSort},
     {"Check", E::Nothing},        {"Balance", E::Nothing},      {"Transfer", E::Nothing},
-    {"Color", E::OpensColors},        {"Search", E::Nothing},       {"Refresh", E::Reloads},
+    {"Color", E::OpensColors},        {"Search", E::OpensItemLookUp},       {"Refresh", E::Reloads},
     {"TreeView", E::TogglesTree},
 };
 
@@ -341,6 +341,10 @@ private slots:
         case Effect::Calculates: // the question to write the result back, answered No
             QCOMPARE(m_prompter.messages().size(), 1);
             QCOMPARE(storedBegDiff(scratch, Screw), ScrewBegDiff);
+            break;
+        case Effect::OpensItemLookUp:
+            QCOMPARE(m_opened, u"frmItemLookUp"_s);
+            QCOMPARE(grid.rows(), before.rows); // cancelled: no row is added
             break;
         case Effect::Nothing:
             QVERIFY(!control->barList()->isEnabled(key) || !control->barList()->isVisible(key));

@@ -27,7 +27,9 @@
 #include "frame/automation/componentregistry.h"
 #include "frame/automation/dictionary.h"
 #include "frame/automation/progids.h"
+#include "frame/automation/recordset.h"
 
+#include "services/lumoebcglviewgldata.h"
 #include "services/lumomicinitialdata.h"
 
 #include "db/sqlrun.h"
@@ -69,6 +71,28 @@ public:
     {
         scripts.append(script);
         LumoMICInitialData::UpdateINIData(PropsString, script);
+    }
+};
+
+// The item look-up as a person who picks the first item matching `pick` within the caller's
+// classes: found through the real data service, or cancelled when none matches.
+class PickingGLView : public QObject
+{
+    Q_OBJECT
+public:
+    static inline QString pick;
+    static inline QStringList conditions;
+    Q_INVOKABLE QObject *ItemLookUp(const QString &Condition, const QString &, const QString &, QObject *)
+    {
+        conditions.append(Condition);
+        auto result = new Dictionary;
+        const std::unique_ptr<Recordset> found(
+            qobject_cast<Recordset *>(LumoEBCGLViewGLData().LookupItems(Condition, pick, {}, 0, 1)));
+        const Recordset &items = *found;
+        result->setItem(u"ReturnOK"_s, items.RecordCount() == 1);
+        for (int f = 0; f < items.FieldCount() && items.RecordCount() == 1; ++f)
+            result->setItem(items.FieldName(f), items.value(0, f));
+        return result;
     }
 };
 
@@ -242,6 +266,7 @@ private slots:
         Prompter::install(&m_prompter);
         ComponentRegistry::instance().registerClass(ProgId::MICInitialData, [] { return new CountingInitialData; });
         ComponentRegistry::instance().registerClass(ProgId::LogMsgLog, [] { return new RecordingLog; });
+        ComponentRegistry::instance().registerClass(ProgId::GLView, [] { return new PickingGLView; });
     }
 
     // Every case runs on each backend; one that cannot be reached here is skipped.
@@ -415,6 +440,79 @@ private slots:
     }
 
     // The control carries the row check's verdict out: the message, the cursor, nothing written.
+    // A new row's item typed by its code (code) or picked in the look-up (pick) at shelf B, which
+    // holds the screw 1.04.001 and the gloves 3.02.002 under an auxiliary class.
+    void itemByCodeOrLookUp_data()
+    {
+        for (const char *column : {"code", "pick", "message", "shown", "name", "prepare"})
+            QTest::addColumn<QString>(column); // shown: the code column after, empty when refused
+        QTest::addColumn<bool>("auxOpen");
+        QTest::addColumn<int>("pageSize");
+        const auto add = [](const char *row, const QString &code, const QString &pick, const QString &message,
+                            const QString &shown = {}, const QString &name = {}, bool auxOpen = false,
+                            const QString &prepare = {}, int pageSize = 0) {
+            QTest::newRow(row) << code << pick << message << shown << name << prepare << auxOpen << pageSize;
+        };
+        const QString typedAgain = u"该物料已存在，请重新输入！"_s;
+        const QString shortCodes = u"UPDATE t_SystemProfile SET FValue='1' WHERE FKey='UseShortNumber';"_s;
+        add("unknown code", u"9.99.999"_s, {}, u"基础资料中该物料不存在，\r\n请重新输入！"_s);
+        add("short code of two items", u"GB"_s, {}, u"基础资料中代码为[GB]的物料不唯一，请重新输入！"_s, {}, {}, false,
+            shortCodes + u"UPDATE t_ICItem SET FShortNumber='GB' WHERE FItemID IN (2,3)"_s);
+        add("item on screen", u"1.04.001"_s, {}, typedAgain);
+        add("item saved on another page", u"1.04.001"_s, {}, typedAgain, {}, {}, false, {}, 1);
+        add("auxiliary class: again allowed", u"3.02.002"_s, {}, {}, u"3.02.002"_s, u"劳保手套"_s, true);
+        add("new item", u"2.01.001"_s, {}, {}, u"2.01.001"_s, u"电机壳体"_s);
+        add("short code shown", u"KT"_s, {}, {}, u"KT"_s, u"电机壳体"_s, false,
+            shortCodes + u"UPDATE t_ICItem SET FShortNumber='KT' WHERE FItemID=10"_s);
+        add("look-up: new item", {}, u"电机壳"_s, {}, u"2.01.001"_s, u"电机壳体"_s);
+        add("look-up: item on screen", {}, u"1.04.001"_s, u"该物料已存在，请重新选择！"_s);
+        add("look-up: no stockless class", {}, u"9.01.001"_s, {});
+    }
+
+    void itemByCodeOrLookUp()
+    {
+        QFETCH(QString, code);
+        QFETCH(QString, pick);
+        QFETCH(QString, message);
+        QFETCH(QString, shown);
+        QFETCH(QString, name);
+        QFETCH(QString, prepare);
+        QFETCH(bool, auxOpen);
+        QFETCH(int, pageSize);
+        for (const QString &statement : prepare.split(u';', Qt::SkipEmptyParts))
+            SqlRun::exec(m_set->db(), statement);
+        show(0);
+        if (pageSize > 0)
+            m_control->setMlngPerPageSize(pageSize);
+        QVERIFY(m_control->tree()->clickNode(EntryDb::ShelfB));
+        if (pageSize > 0)
+            QCOMPARE(rowOf(code), 0); // the item is saved at the place but not on this page
+        const QStringList before = balances();
+        const int rowsBefore = grid().rows();
+        int row = 0;
+        if (code.isEmpty()) {
+            PickingGLView::pick = pick;
+            PickingGLView::conditions.clear();
+            QVERIFY(m_control->barList()->Click(EntryKeys::VLookUp));
+            QCOMPARE(PickingGLView::conditions, QStringList{u"x2.FErpClsID in (1,2,3,7,9)"_s});
+            // A refused or cancelled pick adds no row.
+            QCOMPARE(grid().rows(), rowsBefore + (shown.isEmpty() ? 0 : 1));
+            row = shown.isEmpty() ? 0 : grid().row();
+        } else {
+            row = m_control->AddNewRow();
+            grid().editCell(row, EntryCol::Number, code);
+            // The cell keeps what was typed, refused or not.
+            QCOMPARE(grid().TextMatrix(row, EntryCol::Number), shown.isEmpty() ? code : shown);
+        }
+        QCOMPARE(m_prompter.messages().size(), message.isEmpty() ? 0 : 1);
+        QCOMPARE(onlyMessage(), message);
+        if (row > 0) {
+            QCOMPARE(grid().TextMatrix(row, EntryCol::Name), name);
+            QCOMPARE(!sheet().locked(row, EntryCol::AuxProp, true), auxOpen);
+        }
+        QCOMPARE(balances(), before);
+    }
+
     void rowCheckPutsTheCursorOnTheMissingCell()
     {
         clickNode(SemiFinished);

@@ -11,6 +11,9 @@
 #include "frame/automation/objectownership.h"
 #include "frame/automation/recordset.h"
 
+#include "itemlookupmodel.h"
+
+#include <QAbstractItemModelTester>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -339,6 +342,25 @@ private slots:
         QTEST(id, "userId");
     }
 
+    // The look-up's list reads page after page by key as it scrolls: every item once, in code order.
+    void itemLookUpListReadsPageByPage()
+    {
+        ScratchAccountSet scratch(ScratchAccountSet::Sqlite);
+        publishLogin(scratch.propsString());
+        const QString classes = u"x2.FErpClsID<>5"_s;
+        ItemLookupModel model([&](const QString &pattern, const QString &afterNumber, int afterId, int count) {
+            return recordset(GL, u"LookupItems"_s, {classes, pattern, afterNumber, afterId, count});
+        }, 5);
+        QAbstractItemModelTester tester(&model);
+        model.setPattern({});
+        while (model.canFetchMore({}))
+            model.fetchMore({});
+        QStringList codes;
+        for (int row = 0; row < model.rowCount(); ++row)
+            codes.append(model.record(row).value(u"FNumber"_s).toString());
+        QCOMPARE(codes, scratch.rows(u"SELECT FNumber FROM t_ICItem WHERE FErpClsID<>5 ORDER BY FNumber"_s));
+    }
+
     void lookupsFindWhatIsAsked_data()
     {
         QTest::addColumn<QString>("member");
@@ -350,16 +372,33 @@ private slots:
                             int error = 0, const QString &prepare = {}) {
             QTest::newRow(name) << member << args << prepare << numbers << error;
         };
+        // Item look-ups read one page: class condition, typed text, then the key of the page before.
         const QString items = u"LookupItems"_s;
-        add("items: virtual", items, {u"x2.FErpClsID=5"_s, u""_s}, {u"9.01.001"_s});
-        add("items: by name", items, {u"x2.FErpClsID in (1,2,3,7,9)"_s, u"电动机"_s}, {u"3.01.001"_s, u"3.01.002"_s});
-        add("items: by code part", items, {u""_s, u"1.04"_s}, {u"1.04.001"_s, u"1.04.002"_s});
-        add("items: class excludes", items, {u"x2.FErpClsID<>5"_s, u"9.01"_s}, {});
-        add("items: self-made by name", items, {u"FErpClsID = 2"_s, u"转子"_s}, {u"2.01.002"_s});
-        add("items: quote in the pattern", items, {u""_s, u"' OR '1'='1"_s}, {});
-        add("items: condition always true", items, {u"1=1"_s, u""_s}, {}, DataError::BadErpClassCondition);
-        add("items: statement in the condition", items, {u"x2.FErpClsID in (1); DELETE FROM t_ICItem"_s, u""_s}, {},
-            DataError::BadErpClassCondition);
+        const auto page = [](const QString &condition, const QString &pattern, const QString &afterNumber = {},
+                             int afterId = 0, int count = 100) {
+            return QVariantList{condition, pattern, afterNumber, afterId, count};
+        };
+        add("items: virtual", items, page(u"x2.FErpClsID=5"_s, u""_s), {u"9.01.001"_s});
+        add("items: by name", items, page(u"x2.FErpClsID in (1,2,3,7,9)"_s, u"电动机"_s), {u"3.01.001"_s, u"3.01.002"_s});
+        add("items: by code part", items, page(u""_s, u"1.04"_s), {u"1.04.001"_s, u"1.04.002"_s});
+        add("items: by model part", items, page(u"x2.FErpClsID in (1,2,3,7,9)"_s, u"ye3-1"_s),
+            {u"2.01.001"_s, u"3.01.001"_s, u"3.01.002"_s});
+        add("items: class excludes", items, page(u"x2.FErpClsID<>5"_s, u"9.01"_s), {});
+        add("items: self-made by name", items, page(u"FErpClsID = 2"_s, u"转子"_s), {u"2.01.002"_s});
+        add("items: quote in the pattern", items, page(u""_s, u"' OR '1'='1"_s), {});
+        add("items: or 1=1 in the pattern", items, page(u""_s, u"x' or 1=1 --"_s), {});
+        add("items: % is no wildcard", items, page(u""_s, u"%"_s), {});
+        add("items: _ is no wildcard", items, page(u""_s, u"1_01"_s), {});
+        add("items: % and _ match themselves", items, page(u""_s, u"0%_o"_s), {u"1.01.001"_s}, 0,
+            u"UPDATE t_ICItem SET FModel='50%_off' WHERE FItemID=1"_s);
+        add("items: first page", items, page(u"x2.FErpClsID<>5"_s, u""_s, {}, 0, 2), {u"1.01.001"_s, u"1.01.002"_s});
+        add("items: page after a key", items, page(u""_s, u""_s, u"1.04.002"_s, 8, 3),
+            {u"1.05.001"_s, u"2.01.001"_s, u"2.01.002"_s});
+        add("items: page after the last", items, page(u"x2.FErpClsID in (1,2,3,7,9)"_s, u"电动机"_s, u"3.01.002"_s, 13),
+            {});
+        add("items: condition always true", items, page(u"1=1"_s, u""_s), {}, DataError::BadErpClassCondition);
+        add("items: statement in the condition", items, page(u"x2.FErpClsID in (1); DELETE FROM t_ICItem"_s, u""_s),
+            {}, DataError::BadErpClassCondition);
         // 螺钉 (item 7) counts in pieces: 个, 盒 and 箱 of the quantity group.
         const QString units = u"LookupUnits"_s;
         add("units of the group", units, {7}, {u"1001"_s, u"1002"_s, u"1003"_s});

@@ -30,5 +30,6 @@ inline constexpr QLatin1StringView FrmResLoader{"LumoFrmRes.FrmResLoader"};
 
 // The suite's own components.
 inline constexpr QLatin1StringView Calc{"LumoCALC.Calc"};
+inline constexpr QLatin1StringView GLView{"LumoEBCGLView.GLView"};
 
 } // namespace ProgId
