@@ -34,6 +34,10 @@ QStringList ComponentRegistry::componentLibraries()
 
 void ComponentRegistry::registerClass(const QString &progId, ComponentFactory factory)
 {
+    // A component library loaded for another ProgID does not replace what the host (or a test)
+    // registered itself; a registration made on purpose replaces the earlier one.
+    if (m_loadingLibraries && m_factories.contains(progId.toLower()))
+        return;
     m_factories.insert(progId.toLower(), std::move(factory));
 }
 
@@ -52,12 +56,14 @@ QStringList ComponentRegistry::progIds() const
 void ComponentRegistry::loadComponentLibraries()
 {
     m_librariesLoaded = true;
+    m_loadingLibraries = true;
     for (const QString &file : componentLibraries()) {
         QLibrary library(file);
         // Loading runs the library's registration; the library stays loaded for the process.
         library.setLoadHints(QLibrary::ExportExternalSymbolsHint);
         library.load();
     }
+    m_loadingLibraries = false;
 }
 
 std::unique_ptr<QObject> ComponentRegistry::create(const QString &progId)

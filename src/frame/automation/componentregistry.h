@@ -20,6 +20,8 @@ class LUMOAUTOMATION_EXPORT ComponentRegistry
 public:
     static ComponentRegistry &instance();
 
+    // Replaces an earlier factory of the ProgID, except while the component libraries load: what
+    // was registered before them stands.
     void registerClass(const QString &progId, ComponentFactory factory);
     bool isRegistered(const QString &progId) const;
     QStringList progIds() const;
@@ -36,6 +38,7 @@ private:
 
     QHash<QString, ComponentFactory> m_factories; // keyed by the ProgID in lower case
     bool m_librariesLoaded = false;
+    bool m_loadingLibraries = false;
 };
 
 LUMOAUTOMATION_EXPORT std::unique_ptr<QObject> CreateObject(const QString &progId);
